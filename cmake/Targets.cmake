@@ -1,0 +1,53 @@
+# One function per kind of target, so that flags and places are said once.
+
+# tvx_warnings(TARGET): the warnings our own code is held to.
+function(tvx_warnings target)
+  if(NOT MSVC)
+    target_compile_options(${target} PRIVATE -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Werror)
+  endif()
+endfunction()
+
+# tvx_static_library(TARGET source...): a part that is linked into a library or program.
+function(tvx_static_library target)
+  add_library(${target} STATIC ${ARGN})
+  tvx_warnings(${target})
+endfunction()
+
+# tvx_shared_library(TARGET source...): a library that is installed.
+function(tvx_shared_library target)
+  add_library(${target} SHARED ${ARGN})
+  tvx_warnings(${target})
+  set_target_properties(${target} PROPERTIES INSTALL_RPATH "$ORIGIN")
+endfunction()
+
+# tvx_plugin(TARGET source...): a Maya plug-in: no prefix, hidden symbols, only the entry points leave it.
+function(tvx_plugin target)
+  add_library(${target} MODULE ${ARGN})
+  tvx_warnings(${target})
+  set_target_properties(${target} PROPERTIES
+    PREFIX ""
+    CXX_VISIBILITY_PRESET hidden
+    VISIBILITY_INLINES_HIDDEN ON
+    LIBRARY_OUTPUT_DIRECTORY ${TVX_PLUGIN_DIRECTORY}
+    INSTALL_RPATH "$ORIGIN:$ORIGIN/../lib")
+  if(WIN32)
+    set_target_properties(${target} PROPERTIES SUFFIX ".mll")
+  elseif(APPLE)
+    set_target_properties(${target} PROPERTIES SUFFIX ".bundle")
+  else()
+    set_target_properties(${target} PROPERTIES SUFFIX ".so")
+  endif()
+endfunction()
+
+# tvx_test(NAME source... [LIBRARIES lib...]): a GoogleTest program whose cases CTest lists one by one.
+# GTest::gtest_main is linked; put fixtures' data under tests/ and find it through TVX_SOURCE_DIR.
+function(tvx_test name)
+  cmake_parse_arguments(arg "" "" "LIBRARIES" ${ARGN})
+  add_executable(${name} ${arg_UNPARSED_ARGUMENTS})
+  tvx_warnings(${name})
+  target_link_libraries(${name} PRIVATE ${arg_LIBRARIES} GTest::gmock GTest::gtest_main)
+  target_compile_definitions(${name} PRIVATE
+    TVX_SOURCE_DIR="${CMAKE_SOURCE_DIR}"
+    TVX_BUILD_DIR="${CMAKE_BINARY_DIR}")
+  gtest_discover_tests(${name} DISCOVERY_TIMEOUT 60 PROPERTIES TIMEOUT 300)
+endfunction()
