@@ -1,0 +1,58 @@
+// DagPath: one way from the world down to a DAG node; instances have several.
+#pragma once
+
+#include "node.h"
+#include "outcome.h"
+
+#include <string>
+#include <vector>
+
+namespace tvxhost::engine {
+
+/// A value type. Invalid when default constructed; the path of the world has length 0 and is valid.
+class DagPath
+{
+public:
+    DagPath() = default;
+    /// The path of the world of a scene.
+    static DagPath world(Scene& scene);
+    /// The first path that leads to a node (for an instanced one the path of instance 0).
+    static DagPath firstTo(DagNode& node);
+    /// All paths, in order of instance number: by parent index, depth first.
+    static std::vector<DagPath> allTo(DagNode& node);
+
+    bool isValid() const;
+    /// Nodes below the world.
+    std::size_t length() const { return m_nodes.size(); }
+    /// The node at the end (the world for length 0, null when invalid).
+    DagNode* node() const;
+    DagNode* nodeAt(std::size_t i) const { return m_nodes[i].get(); }
+    /// The nearest transform upwards, the end included; null when there is none.
+    DagNode* transform() const;
+
+    Outcome pop(std::size_t n = 1);
+    Outcome push(DagNode& child);
+
+    int instanceNumber() const;
+    std::string fullName() const;
+    /// The shortest ending that is unique in the scene.
+    std::string partialName() const;
+
+    Matrix inclusiveMatrix() const; ///< world matrix of the end
+    Matrix exclusiveMatrix() const; ///< world matrix of what is above the end
+    /// Visibility, intermediate flag and display overrides along the whole path.
+    bool isVisible() const;
+    bool isTemplated() const;
+
+    /// The first non-intermediate shape directly below the end (a transform); null when there is none.
+    DagNode* shapeBelow() const;
+
+    friend bool operator==(const DagPath& a, const DagPath& b);
+    friend bool operator!=(const DagPath& a, const DagPath& b) { return !(a == b); }
+
+private:
+    Ref<Node> m_world;
+    std::vector<Ref<DagNode>> m_nodes;
+};
+
+} // namespace tvxhost::engine

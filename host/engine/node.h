@@ -1,0 +1,126 @@
+// Node and DagNode: the things of a scene.
+#pragma once
+
+#include "nodeType.h"
+#include "object.h"
+#include "plug.h"
+
+#include <Imath/ImathBox.h>
+
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace tvxhost::engine {
+
+class CellStore;
+class DagNode;
+class Scene;
+
+/// The code of one node of a plug-in's type. Owned by its node.
+class NodeBehaviour
+{
+public:
+    virtual ~NodeBehaviour() = default;
+    /// Called once the node and its code are tied together, before anything else.
+    virtual void postConstructor() {}
+    virtual Computed compute(const Plug& plug) = 0;
+    /// Empty: the host's own rule holds.
+    virtual std::optional<bool> shouldSave(const Plug&) { return std::nullopt; }
+    virtual void setDependentsDirty(const Plug&, std::vector<Plug>&) {}
+    /// Empty: no opinion.
+    virtual std::optional<bool> legalConnection(const Plug&, const Plug& /*other*/, bool /*asSource*/)
+    {
+        return std::nullopt;
+    }
+    virtual void connectionMade(const Plug&, const Plug& /*other*/, bool /*asSource*/) {}
+    virtual void connectionBroken(const Plug&, const Plug& /*other*/, bool /*asSource*/) {}
+    /// The API's object for this node (an MPxNode*), for those who made it; the engine never looks at it.
+    virtual void* apiObject() { return nullptr; }
+};
+
+/// A dependency node. Made and deleted by Scene only.
+class Node : public Object
+{
+public:
+    Node(Scene& scene, NodeType& type);
+    ~Node() override;
+
+    Scene& scene() const { return *m_scene; }
+    NodeType& type() const { return *m_type; }
+    /// Name with namespace, without DAG path.
+    const std::string& name() const { return m_name; }
+    const std::string& uuid() const { return m_uuid; }
+    void setUuid(std::string uuid) { m_uuid = std::move(uuid); }
+    NodeBehaviour* behaviour() const { return m_behaviour.get(); }
+    DagNode* asDag();
+    const DagNode* asDag() const;
+
+    bool isDefaultNode = false;
+    bool isShared = false;
+    bool isLockedNode = false;
+    bool isReferenced = false;
+    bool doNotWrite = false;
+
+    /// Static and dynamic top-level attributes, static first.
+    std::vector<Attribute*> attributes() const;
+    const std::vector<Ref<Attribute>>& dynamicAttributes() const { return m_dynamic; }
+    /// By long or short name (children too) or alias; null when there is none.
+    Attribute* findAttribute(const std::string& name) const;
+    bool hasAttribute(const Attribute& attribute) const;
+    Outcome addDynamicAttribute(const Ref<Attribute>& attribute);
+    Outcome removeDynamicAttribute(Attribute& attribute);
+
+    /// A plug by a path such as "t", "translateX", "iog[0].og[1].gcl"; `error` set when there is none.
+    /// A range ("vt[0:15]") is not a plug: see scene/.
+    Expected<Plug> findPlug(const std::string& path);
+
+    /// For a node of a type that nobody knows: the type's name as the scene gave it, and its plug-in.
+    std::string unknownType;
+    std::string unknownPlugin;
+    /// Statements of the scene about this node that the host does not understand (unknown attributes and the
+    /// like), as they stood and in order, to be written back.
+    std::vector<std::string> keptLines;
+
+    CellStore& cells() { return *m_cells; }
+    const CellStore& cells() const { return *m_cells; }
+
+private:
+    friend class Scene;
+    Scene* m_scene;
+    NodeType* m_type;
+    std::string m_name;
+    std::string m_uuid;
+    std::vector<Ref<Attribute>> m_dynamic;
+    std::unique_ptr<CellStore> m_cells;
+    std::unique_ptr<NodeBehaviour> m_behaviour;
+};
+
+/// A node with a place in the DAG: transforms, shapes and the world.
+class DagNode final : public Node
+{
+public:
+    DagNode(Scene& scene, NodeType& type);
+
+    bool isWorld() const;
+    bool isTransform() const;
+    bool isShape() const { return type().isShape; }
+
+    /// In the order of parenting; several when the node is instanced. Top-level nodes have the world as
+    /// parent.
+    const std::vector<DagNode*>& parents() const { return m_parents; }
+    /// In DAG order, shapes and transforms mixed.
+    const std::vector<DagNode*>& children() const { return m_children; }
+
+    bool isIntermediate();
+    /// The local matrix of a transform (identity for shapes), row vectors, centimetres and radians inside.
+    Matrix localMatrix();
+
+private:
+    friend class Scene;
+    std::vector<DagNode*> m_parents;
+    std::vector<DagNode*> m_children;
+};
+
+} // namespace tvxhost::engine

@@ -1,0 +1,108 @@
+// NodeType: what all nodes of one type share; TypeTable: all types that are known now.
+#pragma once
+
+#include "attribute.h"
+#include "outcome.h"
+
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <string>
+#include <unordered_map>
+#include <vector>
+
+namespace tvxhost::engine {
+
+class Node;
+class NodeBehaviour;
+class Plug;
+
+/// The answer of a compute.
+enum class Computed
+{
+    done,    ///< the plug was computed (and marked clean by the code that did it)
+    unknown, ///< not mine: ask the parent type
+    failed,  ///< an evaluation failure; the plug stays dirty
+};
+
+/// Computes a plug of a built-in type. Plugs it does not know: Computed::unknown.
+using ComputeFunction = std::function<Computed(Node& node, const Plug& plug)>;
+/// Makes the per-node code of a plug-in's type. May return null: the creation of the node fails.
+using BehaviourFactory = std::function<std::unique_ptr<NodeBehaviour>(Node& node)>;
+
+/// One node type: its place in the inheritance, its attributes and what affects what.
+class NodeType
+{
+public:
+    NodeType(std::string name, std::uint32_t id, NodeType* parent);
+
+    std::string name;
+    std::uint32_t id = 0;
+    NodeType* parent = nullptr; ///< null for the root type, "node"
+    std::string plugin;         ///< the plug-in that registered it; empty for built-in types
+    std::string classification;
+    bool isDag = false;
+    bool isShape = false;
+    bool isAbstract = false;    ///< cannot be created
+    ComputeFunction compute;    ///< may be empty
+    BehaviourFactory behaviour; ///< may be empty; the nearest one up the parents counts
+
+    /// True when this is `other` or derives from it.
+    bool isA(const NodeType& other) const;
+    bool isA(const std::string& typeName) const;
+
+    /// Own and inherited top-level attributes in the order in which they were added, the inherited ones
+    /// first.
+    const std::vector<Ref<Attribute>>& attributes() const { return m_attributes; }
+    /// All attributes, children included, found by long, short or other short name; null when there is none.
+    Attribute* find(const std::string& name) const;
+
+    /// Adds a top-level attribute with all its children. Fails with nameTaken when one of the names is in
+    /// use, and with wrongKind for a child of a compound. Must not be called once nodes of the type exist.
+    Outcome addAttribute(const Ref<Attribute>& attribute);
+    /// Declares that `input` affects `output`. Both must be attributes of this type (inherited counts), the
+    /// output not keyable; a compound stands for its children as well.
+    Outcome addAffects(const Attribute& input, const Attribute& output);
+    /// What changes when `input` does: the declared outputs of it and of the compounds above and the children
+    /// below it, own and inherited, each once, in the order of declaration.
+    const std::vector<Attribute*>& affectedBy(const Attribute& input) const;
+    /// The declarations themselves (without what is inherited), in order.
+    const std::vector<std::pair<Attribute*, Attribute*>>& affects() const { return m_affects; }
+    /// True when some declared affects reaches the attribute, a parent or a child of it: then it is computed.
+    bool isOutput(const Attribute& attribute) const;
+
+    int liveNodes = 0; ///< nodes of exactly this type in the scene
+
+private:
+    std::vector<Ref<Attribute>> m_attributes;
+    std::unordered_map<std::string, Attribute*> m_names;
+    std::vector<std::pair<Attribute*, Attribute*>> m_affects;
+    mutable std::unordered_map<const Attribute*, std::vector<Attribute*>> m_affectedCache;
+    mutable std::unordered_map<const Attribute*, bool> m_outputCache;
+};
+
+/// All node types. Built-in ones are there from the start; they come from the tables in engine/types.
+class TypeTable
+{
+public:
+    TypeTable();
+    ~TypeTable();
+
+    NodeType* find(const std::string& name) const;
+    NodeType* find(std::uint32_t id) const;
+    /// In the order of registration.
+    std::vector<NodeType*> all() const;
+    std::vector<NodeType*> ofPlugin(const std::string& plugin) const;
+
+    /// Registers a type; its attributes are added afterwards. nameTaken when name or id is in use.
+    Expected<NodeType*> add(std::string name, std::uint32_t id, NodeType& parent);
+    /// Forgets a type. Nodes of it must be gone (inUse otherwise; turn them into unknown nodes first).
+    Outcome remove(NodeType& type);
+
+private:
+    std::vector<std::unique_ptr<NodeType>> m_types;
+    std::unordered_map<std::string, NodeType*> m_byName;
+    std::unordered_map<std::uint32_t, NodeType*> m_byId;
+};
+
+} // namespace tvxhost::engine

@@ -1,0 +1,211 @@
+// Scene: the nodes, their names and connections, selection, time, units and preferences of one session.
+#pragma once
+
+#include "dagPath.h"
+#include "node.h"
+#include "nodeType.h"
+#include "optionVars.h"
+#include "outcome.h"
+#include "plug.h"
+#include "scriptEditor.h"
+#include "selection.h"
+#include "units.h"
+
+#include <functional>
+#include <list>
+#include <memory>
+#include <string>
+#include <unordered_map>
+#include <utility>
+#include <vector>
+
+namespace tvxhost::engine {
+
+/// Runs a script: implemented by the language, called by the API. `result` is the value of the last statement
+/// as the language's own type, opaque here.
+class ScriptRunner
+{
+public:
+    virtual ~ScriptRunner() = default;
+    struct Result
+    {
+        enum class Kind
+        {
+            none,
+            integer,
+            real,
+            string,
+            vector,
+            matrix
+        } kind = Kind::none;
+        bool isArray = false;
+        std::vector<int> integers;
+        std::vector<double> reals; ///< three per vector, rows of `columns` for a matrix
+        std::vector<std::string> strings;
+        int columns = 0;
+    };
+    /// False when an error stopped the script; it has been shown then.
+    virtual bool run(const std::string& script, bool display, bool undoable, Result& result) = 0;
+    virtual bool sourceFile(const std::string& path) = 0;
+    virtual void runOnIdle(const std::string& script, bool display) = 0;
+};
+
+/// A command that a plug-in registered, as the language calls it.
+struct PluginCommand
+{
+    std::string name;
+    std::string plugin;
+    /// Runs it with words; flags as "-x". False: the error was shown.
+    std::function<bool(const std::vector<ScriptRunner::Result>& arguments, ScriptRunner::Result& result)> run;
+};
+
+/// One of the places where nodes can be named: the whole of a session's state. There is one Scene per process
+/// (`Scene::current()`); tests may make their own. Main thread only.
+class Scene
+{
+public:
+    /// `batch` as in batch mode: no user interface.
+    explicit Scene(bool batch = true);
+    ~Scene();
+    Scene(const Scene&) = delete;
+    Scene& operator=(const Scene&) = delete;
+
+    /// The session's scene; made on first use, or the one last made current.
+    static Scene& current();
+    static void makeCurrent(Scene* scene);
+
+    bool isBatch() const { return m_batch; }
+    void setBatch(bool batch) { m_batch = batch; }
+    TypeTable& types() { return *m_types; }
+    ScriptEditor& scriptEditor() { return m_scriptEditor; }
+    OptionVars& optionVars() { return m_optionVars; }
+    Units& units() { return m_units; }
+
+    // Nodes
+    // ----------------------------------------------------------------------------------------------------
+    /// Makes a node. DAG types: `parent` null for a shape makes a transform above it (named by Maya's rule),
+    /// for a transform puts it under the world. A wish for a name is made unique; empty: the type's name with
+    /// a number. Returns the node of the type asked for. The name is fixed before postConstructor runs when
+    /// `name` was given and survives it; else a name that postConstructor sets stays.
+    Expected<Node*> createNode(const std::string& type, const std::string& name = {},
+                               DagNode* parent = nullptr);
+    Expected<Node*> createNode(NodeType& type, const std::string& name = {}, DagNode* parent = nullptr);
+    /// Makes a placeholder for a type nobody knows (`unknown`, `unknownDag` or `unknownTransform` by what is
+    /// said of it), which keeps its lines.
+    Expected<Node*> createUnknown(const std::string& type, const std::string& name, DagNode* parent,
+                                  bool isDag);
+    /// Deletes a node, with its connections and (DAG) everything below it that has no other parent.
+    Outcome deleteNode(Node& node);
+    /// Turns the live nodes of a type into unknown nodes that keep their data.
+    void makeUnknown(NodeType& type);
+
+    /// Renames; a taken name gets a number, illegal characters become "_" (with a warning), '#' at the end a
+    /// number. Returns the new name. A new namespace is made when `createNamespace`.
+    Expected<std::string> rename(Node& node, const std::string& name, bool createNamespace = true);
+    /// A name derived from `wish` that no node has: the trailing number raised, or 1 appended.
+    std::string uniqueName(const std::string& wish, const Node* except = nullptr,
+                           const DagNode* parent = nullptr) const;
+
+    /// All live nodes in order of creation; default nodes included, the world too.
+    const std::list<Node*>& nodes() const { return m_nodes; }
+    std::size_t nodeCount() const { return m_nodes.size(); }
+
+    // Names
+    // ----------------------------------------------------------------------------------------------------
+    /// By name, partial or full path ("|a|b", "a|b", "ns:a", ":time1"). doesNotExist or ambiguous otherwise.
+    Expected<Node*> findNode(const std::string& name) const;
+    /// The same as a selection item, with plugs ("a.tx", "b.vtx[0:3]") and the path that was named.
+    Expected<SelectionItem> findItem(const std::string& name) const;
+    /// All matches of a name with wildcards (* and ?), in order of creation.
+    std::vector<SelectionItem> findItems(const std::string& pattern) const;
+    Expected<Plug> findPlug(const std::string& name) const;
+    /// The shortest name that is unique: path without more ancestors than needed.
+    std::string shortestName(const Node& node) const;
+
+    // Namespaces
+    // -----------------------------------------------------------------------------------------------
+    const std::string& currentNamespace() const { return m_namespace; }
+    Outcome setCurrentNamespace(const std::string& name);
+    Outcome addNamespace(const std::string& name);
+    bool hasNamespace(const std::string& name) const;
+    std::vector<std::string> namespaces() const;
+
+    // Connections
+    // ----------------------------------------------------------------------------------------------
+    /// Connects; conversion between numeric kinds is done when values flow. Angle, distance or time meeting a
+    /// plain number is converted to UI units by a unitConversion node that is made in between.
+    Outcome connect(const Plug& source, const Plug& destination, bool force = false);
+    Outcome disconnect(const Plug& source, const Plug& destination);
+    /// The element that `-nextAvailable` picks: the first index from 0 upwards without a connection.
+    Plug nextAvailable(const Plug& arrayPlug) const;
+
+    // DAG
+    // ------------------------------------------------------------------------------------------------------
+    DagNode& world() { return *m_world; }
+    /// Adds `child` under `parent` as a further instance.
+    Outcome addParent(DagNode& child, DagNode& parent);
+    /// Takes one instance away; the last one cannot be taken (use deleteNode or reparent).
+    Outcome removeParent(DagNode& child, DagNode& parent);
+    /// Moves from one parent to another (null: the world), keeping the place among nothing else.
+    Outcome reparent(DagNode& child, DagNode* from, DagNode* to);
+
+    // Selection, time
+    // --------------------------------------------------------------------------------------------
+    const SelectionList& selection() const { return m_selection; }
+    void setSelection(SelectionList selection);
+    /// Objects under component selection (hilited), by node.
+    const SelectionList& hilite() const { return m_hilite; }
+    void setHilite(SelectionList hilite) { m_hilite = std::move(hilite); }
+    /// Seconds; a change dirties what hangs on time.
+    double time() const { return m_time; }
+    void setTime(double seconds);
+
+    // Files
+    // ----------------------------------------------------------------------------------------------------
+    /// Empties the scene: default nodes, cameras, units; preferences, types and plug-ins stay.
+    void newScene();
+    std::string fileName; ///< full path; empty for an untitled scene
+    bool isModified = false;
+    std::vector<std::pair<std::string, std::string>> fileInfo;
+    /// `requires` lines that the scene read or that loaded plug-ins ask for: name → version.
+    struct Requirement
+    {
+        std::string plugin;
+        std::string version;
+        std::vector<std::string> nodeTypes;
+        std::vector<std::string> dataTypes;
+        std::string words; ///< further words, as they stood
+    };
+    std::vector<Requirement> requirements;
+    /// Statements of the file that belong to no node and are kept (connections to unknown attributes,
+    /// relationships …), as they stood, by section of the file.
+    std::vector<std::string> keptConnections;
+
+    // Bridges upwards
+    // ------------------------------------------------------------------------------------------
+    ScriptRunner* scriptRunner = nullptr;
+    std::unordered_map<std::string, PluginCommand> pluginCommands;
+    /// Called for each node right before it is deleted and right after it was made.
+    std::vector<std::function<void(Node&)>> onCreated, onDeleted;
+
+private:
+    friend class Node;
+    struct Names;
+
+    Node* adopt(Ref<Node> node, const std::string& name, const DagNode* parent);
+
+    bool m_batch;
+    std::unique_ptr<TypeTable> m_types;
+    ScriptEditor m_scriptEditor;
+    OptionVars m_optionVars;
+    Units m_units;
+    std::list<Node*> m_nodes;
+    std::unique_ptr<Names> m_names;
+    DagNode* m_world = nullptr;
+    std::string m_namespace = ":";
+    SelectionList m_selection;
+    SelectionList m_hilite;
+    double m_time = 0.0;
+};
+
+} // namespace tvxhost::engine

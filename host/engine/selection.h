@@ -1,0 +1,42 @@
+// SelectionList: nodes, DAG paths, plugs and components in the order in which they were added.
+#pragma once
+
+#include "dagPath.h"
+#include "plug.h"
+
+#include <string>
+#include <vector>
+
+namespace tvxhost::engine {
+
+/// One item. A DAG item has a path and its node; a plug item has a plug and the plug's node.
+struct SelectionItem
+{
+    Ref<Node> node;
+    DagPath path;           ///< valid for DAG items
+    Plug plug;              ///< not null for plug items
+    std::string components; ///< "vtx[0:3]" and alike, as written; empty for whole objects
+
+    bool isDag() const { return path.isValid(); }
+    /// The shortest unique name, with plug or components.
+    std::string name(bool fullPath = false) const;
+    friend bool operator==(const SelectionItem& a, const SelectionItem& b);
+};
+
+class SelectionList
+{
+public:
+    const std::vector<SelectionItem>& items() const { return m_items; }
+    bool empty() const { return m_items.empty(); }
+    bool contains(const SelectionItem& item) const;
+    /// Adds at the end unless it is there already (then nothing moves).
+    void add(const SelectionItem& item);
+    void remove(const SelectionItem& item);
+    void removeAt(std::size_t i);
+    void clear() { m_items.clear(); }
+
+private:
+    std::vector<SelectionItem> m_items;
+};
+
+} // namespace tvxhost::engine
