@@ -1,0 +1,123 @@
+// Interpreter: runs MEL. Owns procedures and global variables; commands come from a CommandTable.
+#pragma once
+
+#include "ast.h"
+#include "commandTable.h"
+#include "parser.h"
+#include "scope.h"
+#include "scriptError.h"
+#include "scriptPath.h"
+
+#include <deque>
+#include <functional>
+#include <map>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <unordered_map>
+#include <vector>
+
+namespace tvxhost::mel {
+
+/// The procedures that only one script sees.
+using LocalProcedures = std::unordered_map<std::string, std::shared_ptr<const struct ProcedureEntry>>;
+
+/// A procedure and where it came from.
+struct ProcedureEntry
+{
+    std::shared_ptr<const ast::Procedure> procedure;
+    std::string file; ///< empty: typed text
+    std::shared_ptr<LocalProcedures> locals;
+};
+
+class Interpreter
+{
+public:
+    /// Nested procedure calls, evals and sourced files that are allowed.
+    static constexpr int kDepthLimit = 500;
+
+    /// All three outlive the interpreter; `session` may be null when no command needs it.
+    Interpreter(CommandTable& commands, engine::ScriptEditor& editor, Session* session = nullptr);
+    Interpreter(const Interpreter&) = delete;
+    Interpreter& operator=(const Interpreter&) = delete;
+
+    /// Runs a text at the top level and returns the value of its last statement (none when it has none).
+    /// `file` names the text in messages; empty for typed text. Throws ScriptError; nothing is shown.
+    Value execute(std::string_view text, const std::string& file = {});
+    /// The same as an entry point: shows the error that stopped the script. Empty when there was one.
+    std::optional<Value> run(std::string_view text, const std::string& file = {});
+
+    /// Runs the file at this path. Throws ScriptError when it cannot be read.
+    Value sourceFile(const std::filesystem::path& file);
+    /// `source NAME`: looks NAME up along the script path.
+    Value source(const std::string& name, const Place& place);
+
+    /// Runs one statement of a StatementReader at the top level, for scenes. Throws ScriptError.
+    void executeStatement(StatementReader& reader, const std::string& file);
+
+    /// Calls a procedure or command with values, as the function form does. Throws ScriptError.
+    Value call(const std::string& name, std::vector<Value> arguments, const Place& place = {});
+
+    /// A procedure by name, `local` first, then the global ones, then NAME.mel along the script path, which
+    /// is sourced. Null when there is none.
+    std::shared_ptr<const ProcedureEntry> findProcedure(const std::string& name,
+                                                        const LocalProcedures* local = nullptr);
+    /// A global procedure that is defined already.
+    std::shared_ptr<const ProcedureEntry> globalProcedure(const std::string& name) const;
+    void defineGlobal(std::shared_ptr<const ProcedureEntry> entry);
+
+    Globals& globals() { return m_globals; }
+    CommandTable& commands() { return m_commands; }
+    engine::ScriptEditor& editor() { return m_editor; }
+    Session* session() { return m_session; }
+    ScriptPath& scriptPath() { return m_scriptPath; }
+    const std::string& currentFile() const { return m_file; }
+
+    /// `system` is refused unless this is set.
+    void allowSystem(bool allowed) { m_systemAllowed = allowed; }
+    bool systemAllowed() const { return m_systemAllowed; }
+
+    /// Text to run when the program is idle (`evalDeferred`); lowest priority runs last.
+    void defer(std::string script, bool lowestPriority);
+    /// Runs the deferred texts, those they defer included; the number of those that failed.
+    int runDeferred();
+    bool hasDeferred() const { return !m_deferred.empty() || !m_deferredLast.empty(); }
+
+    /// Shows an error at its place.
+    void report(const ScriptError& error);
+
+    /// Counts a nested call, and stops the script where there are too many.
+    class Depth
+    {
+    public:
+        Depth(Interpreter& interpreter, const Place& place);
+        ~Depth() { --m_interpreter.m_depth; }
+        Depth(const Depth&) = delete;
+        Depth& operator=(const Depth&) = delete;
+
+    private:
+        Interpreter& m_interpreter;
+    };
+
+private:
+    Value runScript(const ast::Script& script);
+
+    CommandTable& m_commands;
+    engine::ScriptEditor& m_editor;
+    Session* m_session;
+    ScriptPath m_scriptPath;
+    Globals m_globals;
+    std::unordered_map<std::string, std::shared_ptr<const ProcedureEntry>> m_procedures;
+    std::shared_ptr<LocalProcedures> m_typedLocals; ///< the local procedures of typed text
+    std::string m_file;                             ///< being run; empty for typed text
+    std::deque<std::string> m_deferred;
+    std::deque<std::string> m_deferredLast;
+    int m_depth = 0;
+    bool m_systemAllowed = false;
+};
+
+/// Registers the commands that need no scene: strings, arrays, mathematics, files, messages, evaluation.
+void registerLanguageCommands(CommandTable& table);
+
+} // namespace tvxhost::mel
