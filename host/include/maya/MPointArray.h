@@ -1,0 +1,80 @@
+// MPointArray: an array of points.
+#pragma once
+
+#include <maya/MPoint.h>
+#include <maya/MStatus.h>
+#include <maya/MTypes.h>
+
+#include <vector>
+
+/// An array of points that owns its elements.
+class OPENMAYA_EXPORT MPointArray
+{
+public:
+    /// An empty array.
+    MPointArray();
+    MPointArray(const MPointArray& other);
+    MPointArray(const MPoint points[], unsigned int count);
+    MPointArray(const double points[][4], unsigned int count);
+    MPointArray(const float points[][4], unsigned int count);
+
+    /// So many elements, all of this value.
+    MPointArray(unsigned int initialSize, const MPoint& initialValue = MPoint::origin);
+    ~MPointArray();
+
+    MPointArray& operator=(const MPointArray& other);
+
+    /// The element at an index, not checked.
+    const MPoint& operator[](unsigned int index) const;
+    MPoint& operator[](unsigned int index);
+
+    /// Replaces the element at an index; kInvalidParameter when there is no such element.
+    MStatus set(const MPoint& element, unsigned int index);
+    MStatus set(unsigned int index, double x, double y, double z = 0, double w = 1);
+    MStatus set(double element[4], unsigned int index);
+    MStatus set(float element[4], unsigned int index);
+
+    /// Shortens the array, or lengthens it by default elements.
+    MStatus setLength(unsigned int length);
+
+    /// Number of elements.
+    unsigned int length() const;
+
+    /// Removes the element at an index; those behind it move up. kInvalidParameter when there is no such
+    /// element.
+    MStatus remove(unsigned int index);
+
+    /// Inserts before the element at an index; an index equal to the length appends. kInvalidParameter beyond
+    /// that.
+    MStatus insert(const MPoint& element, unsigned int index);
+
+    /// Adds an element at the end.
+    MStatus append(const MPoint& element);
+    MStatus append(double x, double y, double z = 0, double w = 1);
+
+    /// Becomes a copy of the other array.
+    MStatus copy(const MPointArray& source);
+
+    /// Removes all elements.
+    MStatus clear();
+
+    /// Copies all elements to memory of the caller, which must have room.
+    MStatus get(double values[][4]) const;
+    MStatus get(float values[][4]) const;
+
+    /// How many elements to make room for when the array grows. A hint.
+    void setSizeIncrement(unsigned int newIncrement);
+    unsigned int sizeIncrement() const;
+
+    /// The name of this class.
+    static const char* className();
+
+private:
+    friend class tvxAccess;
+
+    std::vector<MPoint>* elements; ///< owned; null while the array is empty
+    void* reserved[2];
+};
+
+/// Writes "[a, b, c]".
+OPENMAYA_EXPORT std::ostream& operator<<(std::ostream& out, const MPointArray& array);

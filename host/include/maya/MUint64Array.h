@@ -1,0 +1,72 @@
+// MUint64Array: an array of 64-bit unsigned integers.
+#pragma once
+
+#include <maya/MStatus.h>
+#include <maya/MTypes.h>
+
+#include <vector>
+
+/// An array of 64-bit unsigned integers that owns its elements.
+class OPENMAYA_EXPORT MUint64Array
+{
+public:
+    /// An empty array.
+    MUint64Array();
+    MUint64Array(const MUint64Array& other);
+    MUint64Array(const MUint64 src[], unsigned int count);
+
+    /// So many elements, all of this value.
+    MUint64Array(unsigned int initialSize, MUint64 initialValue = 0);
+    ~MUint64Array();
+
+    MUint64Array& operator=(const MUint64Array& other);
+
+    /// Replaces the element at an index; kInvalidParameter when there is no such element.
+    MStatus set(MUint64 element, unsigned int index);
+
+    /// Shortens the array, or lengthens it by default elements.
+    MStatus setLength(unsigned int length);
+
+    /// Number of elements.
+    unsigned int length() const;
+
+    /// Removes the element at an index; those behind it move up. kInvalidParameter when there is no such
+    /// element.
+    MStatus remove(unsigned int index);
+
+    /// Inserts before the element at an index; an index equal to the length appends. kInvalidParameter beyond
+    /// that.
+    MStatus insert(MUint64 element, unsigned int index);
+
+    /// Adds an element at the end.
+    MStatus append(MUint64 element);
+
+    /// Becomes a copy of the other array.
+    MStatus copy(const MUint64Array& source);
+
+    /// Removes all elements.
+    MStatus clear();
+
+    /// Copies all elements to memory of the caller, which must have room.
+    MStatus get(MUint64 values[]) const;
+
+    /// How many elements to make room for when the array grows. A hint.
+    void setSizeIncrement(unsigned int newIncrement);
+    unsigned int sizeIncrement() const;
+
+    /// The element at an index, not checked.
+    MUint64 operator[](unsigned int index) const;
+    MUint64& operator[](unsigned int index);
+
+    /// The name of this class.
+    static const char* className();
+
+private:
+    friend class tvxAccess;
+
+    std::vector<MUint64>* elements; ///< owned; null while the array is empty
+    void* reserved[2];
+};
+
+/// Writes "[a, b, c]".
+OPENMAYA_EXPORT std::ostream& operator<<(std::ostream& out, const MUint64Array& array);

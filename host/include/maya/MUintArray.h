@@ -1,0 +1,72 @@
+// MUintArray: an array of unsigned integers.
+#pragma once
+
+#include <maya/MStatus.h>
+#include <maya/MTypes.h>
+
+#include <vector>
+
+/// An array of unsigned integers that owns its elements.
+class OPENMAYA_EXPORT MUintArray
+{
+public:
+    /// An empty array.
+    MUintArray();
+    MUintArray(const MUintArray& other);
+    MUintArray(const unsigned int src[], unsigned int count);
+
+    /// So many elements, all of this value.
+    MUintArray(unsigned int initialSize, unsigned int initialValue = 0);
+    ~MUintArray();
+
+    MUintArray& operator=(const MUintArray& other);
+
+    /// Replaces the element at an index; kInvalidParameter when there is no such element.
+    MStatus set(unsigned int element, unsigned int index);
+
+    /// Shortens the array, or lengthens it by default elements.
+    MStatus setLength(unsigned int length);
+
+    /// Number of elements.
+    unsigned int length() const;
+
+    /// Removes the element at an index; those behind it move up. kInvalidParameter when there is no such
+    /// element.
+    MStatus remove(unsigned int index);
+
+    /// Inserts before the element at an index; an index equal to the length appends. kInvalidParameter beyond
+    /// that.
+    MStatus insert(unsigned int element, unsigned int index);
+
+    /// Adds an element at the end.
+    MStatus append(unsigned int element);
+
+    /// Becomes a copy of the other array.
+    MStatus copy(const MUintArray& source);
+
+    /// Removes all elements.
+    MStatus clear();
+
+    /// Copies all elements to memory of the caller, which must have room.
+    MStatus get(unsigned int values[]) const;
+
+    /// How many elements to make room for when the array grows. A hint.
+    void setSizeIncrement(unsigned int newIncrement);
+    unsigned int sizeIncrement() const;
+
+    /// The element at an index, not checked.
+    unsigned int operator[](unsigned int index) const;
+    unsigned int& operator[](unsigned int index);
+
+    /// The name of this class.
+    static const char* className();
+
+private:
+    friend class tvxAccess;
+
+    std::vector<unsigned int>* elements; ///< owned; null while the array is empty
+    void* reserved[2];
+};
+
+/// Writes "[a, b, c]".
+OPENMAYA_EXPORT std::ostream& operator<<(std::ostream& out, const MUintArray& array);
