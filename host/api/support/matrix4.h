@@ -53,12 +53,21 @@ Matrix adjointOf(const Matrix& m)
     return result;
 }
 
-/// The same projective map with element [3][3] 1; unchanged when that element is 0.
+/// The matrix with its axes brought to length 1 and the last column to (0, 0, 0, 1); an axis without length
+/// stays.
 template <class Matrix>
 Matrix homogenized(const Matrix& m)
 {
-    const auto w = m.matrix[3][3];
-    return w == 0 ? m : m * (1 / w);
+    auto result = imathOf(m);
+    for (int row = 0; row < 3; ++row) {
+        auto* axis = result.x[row];
+        const auto length = std::sqrt(axis[0] * axis[0] + axis[1] * axis[1] + axis[2] * axis[2]);
+        if (length > 0)
+            std::transform(axis, axis + 3, axis, [length](auto component) { return component / length; });
+        axis[3] = 0;
+    }
+    result.x[3][3] = 1;
+    return fromImath<Matrix>(result);
 }
 
 /// Whether no element differs by more than the tolerance.
