@@ -1,6 +1,8 @@
 // The internal codes of MStatus, their texts, and how outcomes of the engine become statuses.
 #include "status.h"
 
+#include "access.h"
+
 #include <array>
 #include <cstddef>
 
@@ -41,13 +43,6 @@ constexpr std::array kInternalCodes = {
 const InternalCode& internalCode(StatusText text)
 {
     return kInternalCodes.at(static_cast<std::size_t>(text));
-}
-
-/// The three bytes of a status, read through their public order: code, internal code, success.
-unsigned char internalByte(const MStatus& status)
-{
-    static_assert(sizeof(MStatus) == 3);
-    return reinterpret_cast<const unsigned char*>(&status)[1];
 }
 
 } // namespace
@@ -92,7 +87,7 @@ std::string describe(const MStatus& status)
     const auto code = static_cast<std::size_t>(status.statusCode());
     if (code >= kCodeNames.size())
         return "(" + std::to_string(code) + "): Unknown status";
-    const auto internal = static_cast<std::size_t>(internalByte(status));
+    const auto internal = static_cast<std::size_t>(tvxAccess::internalCode(status));
     const char* text = internal < kInternalCodes.size() ? kInternalCodes[internal].text : kCodeTexts[code];
     return std::string("(") + kCodeNames[code] + "): " + text;
 }

@@ -1,0 +1,152 @@
+// tvxAccess: the one place that reaches into the private storage of the API's classes.
+#pragma once
+
+#include "engine/node.h"
+#include "engine/object.h"
+#include "engine/plug.h"
+#include "engine/text.h"
+
+#include <maya/MFnBase.h>
+#include <maya/MObject.h>
+#include <maya/MPlug.h>
+#include <maya/MStatus.h>
+#include <maya/MString.h>
+
+#include <memory>
+#include <string>
+#include <type_traits>
+#include <utility>
+#include <vector>
+
+/// Friend of every class of the API. Storage in, storage out; no behaviour.
+class tvxAccess
+{
+    using Object = tvxhost::engine::Object;
+    using Plug = tvxhost::engine::Plug;
+    using Text = tvxhost::engine::Text;
+
+public:
+    static unsigned char internalCode(const MStatus& status) { return status.fInternalStatusCode; }
+
+    // MObject
+    static Object* object(const MObject& handle) { return handle.object; }
+    /// A counted handle; null gives the null handle.
+    static MObject handle(const Object* object)
+    {
+        MObject made;
+        setObject(made, object);
+        return made;
+    }
+    static void setObject(MObject& handle, const Object* object)
+    {
+        if (object)
+            object->retain();
+        if (handle.object)
+            handle.object->release();
+        handle.object = const_cast<Object*>(object);
+    }
+    /// Of a handle under construction.
+    static void init(MObject& handle, Object* object)
+    {
+        handle.object = object;
+        handle.reserved = nullptr;
+        if (object)
+            object->retain();
+    }
+
+    // MString
+    static const std::string& text(const MString& string)
+    {
+        static const std::string empty;
+        return string.chars ? *string.chars : empty;
+    }
+    static MString string(std::string text)
+    {
+        MString made;
+        delete std::exchange(made.chars, text.empty() ? nullptr : new std::string(std::move(text)));
+        return made;
+    }
+    /// The engine's text seen as a string of the API: both are an owned std::string and a spare word.
+    static MString& lend(Text& text)
+    {
+        static_assert(sizeof(MString) == sizeof(Text) && alignof(MString) == alignof(Text));
+        return reinterpret_cast<MString&>(text);
+    }
+
+    // MPlug
+    static const Plug& plug(const MPlug& plug)
+    {
+        static const Plug null;
+        return plug.plug ? *plug.plug : null;
+    }
+    static MPlug plug(Plug plug)
+    {
+        MPlug made;
+        setPlug(made, std::move(plug));
+        return made;
+    }
+    static void setPlug(MPlug& target, Plug plug)
+    {
+        if (target.plug)
+            *target.plug = std::move(plug);
+        else if (!plug.isNull())
+            target.plug = new Plug(std::move(plug));
+    }
+    static Plug*& plugSlot(MPlug& plug) { return plug.plug; }
+
+    // Arrays: the vector that holds the elements
+    template <class Array>
+    static auto& elements(Array& array)
+    {
+        if (!array.elements)
+            array.elements = new std::remove_pointer_t<decltype(array.elements)>;
+        return *array.elements;
+    }
+    template <class Array>
+    static const auto& elements(const Array& array)
+    {
+        static const std::remove_pointer_t<decltype(array.elements)> none;
+        return array.elements ? *array.elements : none;
+    }
+    template <class Array>
+    static auto*& elementsSlot(Array& array)
+    {
+        return array.elements;
+    }
+
+    // Function sets
+    static Object* attached(const MFnBase& set) { return reinterpret_cast<Object*>(set.f_ptr); }
+    /// Attaches a set to an object, or (null) to nothing.
+    static void attach(MFnBase& set, const Object* object)
+    {
+        if (object)
+            object->retain();
+        if (Object* old = attached(set))
+            old->release();
+        set.f_ptr = reinterpret_cast<MPtrBase*>(const_cast<Object*>(object));
+        set.f_constptr = set.f_ptr;
+        set.fIsReferenceCounted = object != nullptr;
+    }
+};
+
+namespace tvxhost::api {
+
+/// An MPlug that shows a plug of the engine for the length of a call, without a copy.
+class LentPlug
+{
+public:
+    explicit LentPlug(const engine::Plug& plug)
+    {
+        tvxAccess::plugSlot(m_plug) = const_cast<engine::Plug*>(&plug);
+    }
+    ~LentPlug() { tvxAccess::plugSlot(m_plug) = nullptr; }
+    LentPlug(const LentPlug&) = delete;
+    LentPlug& operator=(const LentPlug&) = delete;
+
+    const MPlug& get() const { return m_plug; }
+
+private:
+    MPlug m_plug;
+};
+
+} // namespace tvxhost::api
