@@ -3,6 +3,7 @@
 
 #include <maya/MStatus.h>
 #include <maya/MTypes.h>
+#include <maya/tvxEngine.h>
 
 #include <vector>
 
@@ -68,7 +69,9 @@ private:
     friend class tvxAccess;
 
     std::vector<double>* elements; ///< owned; null while the array is empty
-    void* reserved[2];
+    tvxhost::engine::Object*
+        lender; ///< counted; owns the elements instead, when they are those of a data object
+    void* reserved;
 };
 
 /// Writes "[a, b, c]".

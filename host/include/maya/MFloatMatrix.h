@@ -18,7 +18,7 @@ public:
     MFloatMatrix(const float m[4][4]);
     ~MFloatMatrix();
 
-    MFloatMatrix& operator=(const MFloatMatrix&);
+    MFloatMatrix& operator=(const MFloatMatrix& other);
 
     /// Element by row and column, 0 to 3, not checked.
     float operator()(unsigned int row, unsigned int col) const { return matrix[row][col]; }

@@ -4,6 +4,7 @@
 #include <maya/MFloatVector.h>
 #include <maya/MStatus.h>
 #include <maya/MTypes.h>
+#include <maya/tvxEngine.h>
 
 #include <vector>
 
@@ -71,7 +72,9 @@ private:
     friend class tvxAccess;
 
     std::vector<MFloatVector>* elements; ///< owned; null while the array is empty
-    void* reserved[2];
+    tvxhost::engine::Object*
+        lender; ///< counted; owns the elements instead, when they are those of a data object
+    void* reserved;
 };
 
 /// Writes "[a, b, c]".

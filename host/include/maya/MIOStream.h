@@ -2,29 +2,20 @@
 #pragma once
 
 #include <fstream>
-#include <iomanip>
 #include <iostream>
 
 using std::cerr;
 using std::cin;
 using std::clog;
 using std::cout;
-using std::dec;
 using std::endl;
 using std::ends;
 using std::flush;
 using std::fstream;
-using std::hex;
 using std::ifstream;
 using std::ios;
 using std::ios_base;
 using std::iostream;
 using std::istream;
-using std::oct;
 using std::ofstream;
 using std::ostream;
-using std::setfill;
-using std::setprecision;
-using std::setw;
-using std::streambuf;
-using std::streampos;

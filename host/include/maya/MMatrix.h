@@ -18,7 +18,7 @@ public:
     MMatrix(const float m[4][4]);
     ~MMatrix();
 
-    MMatrix& operator=(const MMatrix&);
+    MMatrix& operator=(const MMatrix& other);
 
     /// Element by row and column, 0 to 3, not checked.
     double operator()(unsigned int row, unsigned int col) const { return matrix[row][col]; }

@@ -4,6 +4,7 @@
 #include <maya/MStatus.h>
 #include <maya/MString.h>
 #include <maya/MTypes.h>
+#include <maya/tvxEngine.h>
 
 #include <vector>
 
@@ -66,7 +67,9 @@ private:
     friend class tvxAccess;
 
     std::vector<MString>* elements; ///< owned; null while the array is empty
-    void* reserved[2];
+    tvxhost::engine::Object*
+        lender; ///< counted; owns the elements instead, when they are those of a data object
+    void* reserved;
 };
 
 /// Writes "[a, b, c]".

@@ -60,7 +60,7 @@ public:
 
     /// Time 0 in the unit of the user interface.
     MTime();
-    MTime(const MTime&);
+    MTime(const MTime& other);
     MTime(double time_val, Unit = kFilm);
     ~MTime();
 

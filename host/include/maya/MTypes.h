@@ -41,7 +41,6 @@ typedef intptr_t MIntPtrSz;
 typedef uintptr_t MUintPtrSz;
 
 class MObject;
-class MPxTransformationMatrix;
 class MStatus;
 class MSyntax;
 
@@ -51,5 +50,3 @@ typedef void* (*MCreatorFunction)();
 typedef MSyntax (*MCreateSyntaxFunction)();
 /// Declares the attributes of a plug-in's node type.
 typedef MStatus (*MInitializeFunction)();
-/// Makes the transformation matrix of a plug-in's transform; Maya owns and deletes it.
-typedef MPxTransformationMatrix* (*MCreateXformMatrixFunction)();
