@@ -1,0 +1,179 @@
+// Options: the command line, declared with CLI11.
+#include "options.h"
+
+#include <CLI/CLI.hpp>
+
+#include <charconv>
+#include <sstream>
+#include <string_view>
+
+namespace tvxhost::app {
+
+namespace {
+
+constexpr const char* kDescription =
+    "Opens a Maya ASCII scene without Maya: loads plug-ins, runs MEL, draws the viewport, saves the scene.\n"
+    "Work is done in this order: preferences, plug-ins, scene, script, -e texts, reports, picture, save.\n"
+    "Results go to standard output, warnings and errors to standard error; the exit code is 0 only when\n"
+    "there was no error.";
+
+constexpr const char* kExamples = R"(Examples:
+  tvxhost --plugin tvxCrowdRender.so --render shot.png --size 1920x1080 shot.ma
+  tvxhost -e 'createNode "locator"' --script setup.mel --save out.ma in.ma
+  tvxhost --summary=json shot.ma
+  tvxhost --check setup.mel
+  tvxhost --plugin tvxCrowdRender.so --fail MFnPlugin::registerNode:2:kFailure --list-calls
+
+Environment:
+  MAYA_PLUG_IN_PATH   folders in which plug-ins are looked for by name
+  MAYA_SCRIPT_PATH    folders in which MEL procedures are looked for)";
+
+/// What the options' own types cannot hold while parsing.
+struct Words
+{
+    std::string file;
+    std::string size;
+    std::string check;
+    std::string summary;
+    std::vector<std::string> faults;
+};
+
+void declareWork(CLI::App& app, Options& options, Words& words)
+{
+    app.add_option("--plugin", options.plugins, "Load a plug-in, a file or a name; may be repeated")
+        ->type_name("P")
+        ->allow_extra_args(false);
+    app.add_option("--prefs", options.preferences, "Read and keep option variables in this folder")
+        ->type_name("DIR");
+    app.add_option("--script", options.script, "Run a MEL file")->type_name("F.mel");
+    app.add_option("-e,--execute", options.commands, "Run MEL text; may be repeated")
+        ->type_name("'MEL'")
+        ->allow_extra_args(false);
+    app.add_option("--render", options.picture, "Draw the viewport into a PNG file")->type_name("OUT.png");
+    app.add_option("--size", words.size, "Pixels of the picture; 1280x720 when not given")->type_name("WxH");
+    app.add_option("--camera", options.camera, "Look through this camera; persp when not given")
+        ->type_name("NAME");
+    app.add_option("--save", options.save, "Write the scene as Maya ASCII")->type_name("OUT.ma");
+}
+
+void declareReports(CLI::App& app, Options& options, Words& words)
+{
+    const CLI::IsMember format({"text", "json"});
+    app.add_flag("--summary{text}", words.summary, "Tell what the scene holds, as text or with =json")
+        ->check(format);
+    app.add_flag("--list-nodes", options.listNodes, "Tell every node's type and name");
+    app.add_flag("--evaluate", options.evaluate, "Tell what the nodes of the plug-ins evaluate to");
+    app.add_flag("--check{text}", words.check,
+                 "Parse FILE as MEL and run nothing: the verdict, procedures, statements; text or =json")
+        ->check(format);
+}
+
+void declareMode(CLI::App& app, Options& options, Words& words)
+{
+    app.add_flag("--interactive", options.interactive,
+                 "Run as with a user interface: windows and menus are recorded, plug-ins make theirs");
+    app.add_option("--fail", words.faults, "Make the N-th call of an API function fail; may be repeated")
+        ->type_name("F[:N[:CODE]]")
+        ->allow_extra_args(false);
+    app.add_flag("--list-calls", options.listCalls, "Tell the API calls that were made, in order");
+}
+
+std::optional<ReportFormat> formatNamed(const std::string& word)
+{
+    if (word.empty())
+        return std::nullopt;
+    return word == "json" ? ReportFormat::json : ReportFormat::text;
+}
+
+void takeSize(const std::string& word, Options& options)
+{
+    if (word.empty())
+        return;
+    const auto size = parseSize(word);
+    if (!size)
+        throw CLI::ValidationError("--size", "\"" + word + "\" is not a size such as 1280x720");
+    options.size = *size;
+}
+
+void takeFaults(const std::vector<std::string>& words, Options& options)
+{
+    for (const std::string& word : words) {
+        const auto fault = parseFault(word);
+        if (!fault)
+            throw CLI::ValidationError("--fail",
+                                       "\"" + word + "\" is not of the form Class::function:N:kCode");
+        options.faults.push_back(*fault);
+    }
+}
+
+void takeFile(const Words& words, Options& options)
+{
+    const auto format = formatNamed(words.check);
+    if (!format) {
+        options.scene = words.file;
+        return;
+    }
+    if (words.file.empty())
+        throw CLI::ValidationError("--check", "no MEL file is named");
+    options.check = words.file;
+    options.checkFormat = *format;
+}
+
+void take(const Words& words, Options& options)
+{
+    takeSize(words.size, options);
+    takeFaults(words.faults, options);
+    takeFile(words, options);
+    options.summary = formatNamed(words.summary);
+}
+
+bool isPixels(std::string_view text, int& number)
+{
+    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
+    return error == std::errc() && end == text.data() + text.size() && number > 0;
+}
+
+} // namespace
+
+std::optional<PictureSize> parseSize(const std::string& text)
+{
+    const std::size_t cross = text.find('x');
+    if (cross == std::string::npos)
+        return std::nullopt;
+    const std::string_view words = text;
+    PictureSize size;
+    if (!isPixels(words.substr(0, cross), size.width) || !isPixels(words.substr(cross + 1), size.height))
+        return std::nullopt;
+    return size;
+}
+
+CommandLine parseCommandLine(int argc, const char* const* argv)
+{
+    CLI::App app(kDescription, "tvxhost");
+    app.footer(kExamples);
+    app.get_formatter()->column_width(34);
+    app.set_version_flag("--version", "tvxhost " TVX_VERSION);
+
+    Options options;
+    Words words;
+    declareWork(app, options, words);
+    declareReports(app, options, words);
+    declareMode(app, options, words);
+    app.add_option("FILE", words.file, "The scene to open; a new scene when not given");
+
+    CommandLine result;
+    try {
+        app.parse(argc, argv);
+        take(words, options);
+        result.options = std::move(options);
+    } catch (const CLI::ParseError& error) {
+        std::ostringstream out;
+        std::ostringstream err;
+        result.exitCode = app.exit(error, out, err) == 0 ? 0 : 2;
+        result.output = out.str();
+        result.error = err.str();
+    }
+    return result;
+}
+
+} // namespace tvxhost::app
