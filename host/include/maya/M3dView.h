@@ -64,39 +64,39 @@ public:
     /// Kinds of objects that a view can show or hide: bits.
     enum DisplayObjects
     {
-        kDisplayEverything = -1,
-        kDisplayNurbsCurves = 1,
-        kDisplayNurbsSurfaces = 2,
-        kDisplayMeshes = 4,
-        kDisplayPlanes = 8,
-        kDisplayLights = 16,
-        kDisplayCameras = 32,
-        kDisplayJoints = 64,
-        kDisplayIkHandles = 128,
-        kDisplayDeformers = 256,
-        kDisplayDynamics = 512,
-        kDisplayParticleInstancers = 1024,
-        kDisplayLocators = 2048,
-        kDisplayDimensions = 4096,
-        kDisplaySelectHandles = 8192,
-        kDisplayPivots = 16384,
-        kDisplayTextures = 32768,
-        kDisplayGrid = 65536,
-        kDisplayCVs = 131072,
-        kDisplayHulls = 262144,
-        kDisplayStrokes = 524288,
-        kDisplaySubdivSurfaces = 1048576,
-        kDisplayFluids = 2097152,
-        kDisplayFollicles = 4194304,
-        kDisplayHairSystems = 8388608,
-        kDisplayImagePlane = 16777216,
-        kDisplayNCloths = 33554432,
-        kDisplayNRigids = 67108864,
-        kDisplayDynamicConstraints = 134217728,
-        kDisplayManipulators = 268435456,
-        kDisplayNParticles = 536870912,
-        kExcludeMotionTrails = 1073741824,
-        kExcludePluginShapes = -2147483648,
+        kDisplayEverything = ~0,
+        kDisplayNurbsCurves = 1 << 0,
+        kDisplayNurbsSurfaces = 1 << 1,
+        kDisplayMeshes = 1 << 2,
+        kDisplayPlanes = 1 << 3,
+        kDisplayLights = 1 << 4,
+        kDisplayCameras = 1 << 5,
+        kDisplayJoints = 1 << 6,
+        kDisplayIkHandles = 1 << 7,
+        kDisplayDeformers = 1 << 8,
+        kDisplayDynamics = 1 << 9,
+        kDisplayParticleInstancers = 1 << 10,
+        kDisplayLocators = 1 << 11,
+        kDisplayDimensions = 1 << 12,
+        kDisplaySelectHandles = 1 << 13,
+        kDisplayPivots = 1 << 14,
+        kDisplayTextures = 1 << 15,
+        kDisplayGrid = 1 << 16,
+        kDisplayCVs = 1 << 17,
+        kDisplayHulls = 1 << 18,
+        kDisplayStrokes = 1 << 19,
+        kDisplaySubdivSurfaces = 1 << 20,
+        kDisplayFluids = 1 << 21,
+        kDisplayFollicles = 1 << 22,
+        kDisplayHairSystems = 1 << 23,
+        kDisplayImagePlane = 1 << 24,
+        kDisplayNCloths = 1 << 25,
+        kDisplayNRigids = 1 << 26,
+        kDisplayDynamicConstraints = 1 << 27,
+        kDisplayManipulators = 1 << 28,
+        kDisplayNParticles = 1 << 29,
+        kExcludeMotionTrails = 1 << 30,
+        kExcludePluginShapes = -2147483647 - 1,
     };
 
     enum LightingMode
@@ -263,7 +263,7 @@ public:
     MString viewSelectedPrefix(MStatus* ReturnStatus) const;
     MStatus setViewSelectedPrefix(const MString& prefix);
     bool showViewSelectedChildren(MStatus* ReturnStatus) const;
-    MStatus setShowViewSelectedChildren(bool);
+    MStatus setShowViewSelectedChildren(bool value);
 
     /// The view of a panel, by name; kFailure when there is none.
     static MStatus getM3dViewFromModelPanel(const MString& modelPaneName, M3dView& view);

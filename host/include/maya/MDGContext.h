@@ -26,7 +26,7 @@ public:
     bool isNormal(MStatus* ReturnStatus = nullptr) const;
 
     /// The time of the context; a failure for the normal one.
-    MStatus getTime(MTime&) const;
+    MStatus getTime(MTime& value) const;
 
     /// The name of this class.
     static const char* className();

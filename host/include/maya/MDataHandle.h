@@ -114,20 +114,20 @@ public:
     const MMatrix& geometryTransformMatrix() const;
 
     /// Stores a value. Does not mark it as computed.
-    void set(bool);
-    void set(char);
-    void set(short);
-    void set(int);
-    void set(MInt64);
-    void set(float);
-    void set(double);
-    void set(const MMatrix& other);
-    void set(const MFloatMatrix& other);
-    void set(const MVector& other);
-    void set(const MFloatVector&);
-    void set(const MDistance&);
-    void set(const MAngle&);
-    void set(const MTime& other);
+    void set(bool value);
+    void set(char value);
+    void set(short value);
+    void set(int value);
+    void set(MInt64 value);
+    void set(float value);
+    void set(double value);
+    void set(const MMatrix& value);
+    void set(const MFloatMatrix& value);
+    void set(const MVector& value);
+    void set(const MFloatVector& value);
+    void set(const MDistance& value);
+    void set(const MAngle& value);
+    void set(const MTime& value);
     void set(short, short);
     void set(int, int);
     void set(float, float);
@@ -136,26 +136,26 @@ public:
     void set(int, int, int);
     void set(float, float, float);
     void set(double, double, double);
-    void set(const MString&);
+    void set(const MString& value);
 
     /// Stores a data object; kFailure when it is of the wrong type.
     MStatus set(const MObject& data);
 
     /// As set, by name.
-    void setBool(bool);
-    void setChar(char);
-    void setShort(short);
-    void setInt(int);
-    void setInt64(MInt64);
-    void setFloat(float);
-    void setDouble(double);
-    void setMMatrix(const MMatrix& other);
-    void setMFloatMatrix(const MFloatMatrix& other);
-    void setMVector(const MVector& other);
-    void setMFloatVector(const MFloatVector&);
-    void setMDistance(const MDistance&);
-    void setMAngle(const MAngle&);
-    void setMTime(const MTime& other);
+    void setBool(bool value);
+    void setChar(char value);
+    void setShort(short value);
+    void setInt(int value);
+    void setInt64(MInt64 value);
+    void setFloat(float value);
+    void setDouble(double value);
+    void setMMatrix(const MMatrix& value);
+    void setMFloatMatrix(const MFloatMatrix& value);
+    void setMVector(const MVector& value);
+    void setMFloatVector(const MFloatVector& value);
+    void setMDistance(const MDistance& value);
+    void setMAngle(const MAngle& value);
+    void setMTime(const MTime& value);
     void set2Short(short, short);
     void set2Int(int, int);
     void set2Float(float, float);
@@ -164,7 +164,7 @@ public:
     void set3Int(int, int, int);
     void set3Float(float, float, float);
     void set3Double(double, double, double);
-    void setString(const MString&);
+    void setString(const MString& value);
 
     MStatus setMObject(const MObject& data);
 

@@ -196,7 +196,7 @@ public:
 
     /// Metadata, which this host does not keep: null, kNotImplemented.
     virtual const adsk::Data::Associations* metadata(MStatus* ReturnStatus = nullptr) const;
-    virtual MStatus setMetadata(const adsk::Data::Associations&);
+    virtual MStatus setMetadata(const adsk::Data::Associations& value);
     virtual MStatus deleteMetadata();
     virtual MStatus validateMetadata(MString& errors) const;
 

@@ -35,7 +35,7 @@ public:
     MStatus set(const MDoubleArray& newArray);
 
     /// Replaces the contents of the other array.
-    MStatus copyTo(MDoubleArray&) const;
+    MStatus copyTo(MDoubleArray& array) const;
 
     /// The elements inside the object, lent: changes of them change the object, a copy is independent.
     MDoubleArray array(MStatus* ReturnStatus = nullptr);

@@ -35,7 +35,7 @@ public:
     MStatus set(const MIntArray& newArray);
 
     /// Replaces the contents of the other array.
-    MStatus copyTo(MIntArray&) const;
+    MStatus copyTo(MIntArray& array) const;
 
     /// The elements inside the object, lent: changes of them change the object, a copy is independent.
     MIntArray array(MStatus* ReturnStatus = nullptr);

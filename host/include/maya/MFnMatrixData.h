@@ -39,7 +39,7 @@ public:
 
     /// Makes an object, with the identity or this matrix, and attaches to it.
     MObject create(MStatus* ReturnStatus = nullptr);
-    MObject create(const MMatrix& other, MStatus* ReturnStatus = nullptr);
+    MObject create(const MMatrix&, MStatus* ReturnStatus = nullptr);
     MObject create(const MTransformationMatrix&, MStatus* ReturnStatus = nullptr);
 
     /// The name of this class.

@@ -33,7 +33,7 @@ public:
     MStatus set(const MPointArray& newArray);
 
     /// Replaces the contents of the other array.
-    MStatus copyTo(MPointArray&) const;
+    MStatus copyTo(MPointArray& array) const;
 
     /// The elements inside the object, lent: changes of them change the object, a copy is independent.
     MPointArray array(MStatus* ReturnStatus = nullptr);

@@ -33,7 +33,7 @@ public:
     MStatus set(const MStringArray& newArray);
 
     /// Replaces the contents of the other array.
-    MStatus copyTo(MStringArray&) const;
+    MStatus copyTo(MStringArray& array) const;
 
     /// The elements inside the object, lent: changes of them change the object, a copy is independent.
     MStringArray array(MStatus* ReturnStatus = nullptr);

@@ -33,7 +33,7 @@ public:
     MStatus set(const MVectorArray& newArray);
 
     /// Replaces the contents of the other array.
-    MStatus copyTo(MVectorArray&) const;
+    MStatus copyTo(MVectorArray& array) const;
 
     /// The elements inside the object, lent: changes of them change the object, a copy is independent.
     MVectorArray array(MStatus* ReturnStatus = nullptr);

@@ -16,7 +16,7 @@ public:
     MObject(const MObject& other);
     ~MObject();
 
-    MObject& operator=(const MObject&);
+    MObject& operator=(const MObject& other);
 
     /// Whether a function set of this type, or of a type derived from it, can be attached. Asks for the
     /// object's own kind and its bases, not for shapes below it.
@@ -32,8 +32,8 @@ public:
     const char* apiTypeStr() const;
 
     /// Whether both are handles on the same thing.
-    bool operator==(const MObject&) const;
-    bool operator!=(const MObject&) const;
+    bool operator==(const MObject& other) const;
+    bool operator!=(const MObject& other) const;
 
     static MObject kNullObj; ///< a handle on nothing
 

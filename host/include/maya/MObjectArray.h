@@ -20,7 +20,7 @@ public:
     MObjectArray(const MObject src[], unsigned int count);
     ~MObjectArray();
 
-    MObjectArray& operator=(const MObjectArray&);
+    MObjectArray& operator=(const MObjectArray& other);
 
     /// The element at an index, not checked.
     const MObject& operator[](unsigned int index) const;

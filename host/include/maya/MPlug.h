@@ -167,33 +167,33 @@ public:
     /// Reads the value, in a context other than the normal one without touching the stored value.
     MStatus getValue(MObject& val, MDGContext& ctx = MDGContext::fsNormal) const;
     MStatus getValue(MDataHandle& handle, MDGContext& ctx = MDGContext::fsNormal) const;
-    MStatus getValue(double&, MDGContext& ctx = MDGContext::fsNormal) const;
-    MStatus getValue(float&, MDGContext& ctx = MDGContext::fsNormal) const;
-    MStatus getValue(MInt64&, MDGContext& ctx = MDGContext::fsNormal) const;
-    MStatus getValue(int&, MDGContext& ctx = MDGContext::fsNormal) const;
-    MStatus getValue(short&, MDGContext& ctx = MDGContext::fsNormal) const;
-    MStatus getValue(bool&, MDGContext& ctx = MDGContext::fsNormal) const;
-    MStatus getValue(MDistance&, MDGContext& ctx = MDGContext::fsNormal) const;
-    MStatus getValue(MAngle&, MDGContext& ctx = MDGContext::fsNormal) const;
-    MStatus getValue(MTime&, MDGContext& ctx = MDGContext::fsNormal) const;
-    MStatus getValue(char&, MDGContext& ctx = MDGContext::fsNormal) const;
-    MStatus getValue(MString&, MDGContext& ctx = MDGContext::fsNormal) const;
+    MStatus getValue(double& value, MDGContext& ctx = MDGContext::fsNormal) const;
+    MStatus getValue(float& value, MDGContext& ctx = MDGContext::fsNormal) const;
+    MStatus getValue(MInt64& value, MDGContext& ctx = MDGContext::fsNormal) const;
+    MStatus getValue(int& value, MDGContext& ctx = MDGContext::fsNormal) const;
+    MStatus getValue(short& value, MDGContext& ctx = MDGContext::fsNormal) const;
+    MStatus getValue(bool& value, MDGContext& ctx = MDGContext::fsNormal) const;
+    MStatus getValue(MDistance& value, MDGContext& ctx = MDGContext::fsNormal) const;
+    MStatus getValue(MAngle& value, MDGContext& ctx = MDGContext::fsNormal) const;
+    MStatus getValue(MTime& value, MDGContext& ctx = MDGContext::fsNormal) const;
+    MStatus getValue(char& value, MDGContext& ctx = MDGContext::fsNormal) const;
+    MStatus getValue(MString& value, MDGContext& ctx = MDGContext::fsNormal) const;
 
     /// Sets the value; the data of an object are copied.
     MStatus setValue(MObject& val);
     MStatus setValue(MDataHandle& handle);
-    MStatus setValue(double);
-    MStatus setValue(float);
-    MStatus setValue(MInt64);
-    MStatus setValue(int);
-    MStatus setValue(short);
-    MStatus setValue(bool);
-    MStatus setValue(MDistance&);
-    MStatus setValue(MAngle&);
-    MStatus setValue(MTime&);
-    MStatus setValue(char);
-    MStatus setValue(const MString&);
-    MStatus setValue(const char*);
+    MStatus setValue(double value);
+    MStatus setValue(float value);
+    MStatus setValue(MInt64 value);
+    MStatus setValue(int value);
+    MStatus setValue(short value);
+    MStatus setValue(bool value);
+    MStatus setValue(MDistance& value);
+    MStatus setValue(MAngle& value);
+    MStatus setValue(MTime& value);
+    MStatus setValue(char value);
+    MStatus setValue(const MString& value);
+    MStatus setValue(const char* value);
 
     /// The plug's own data as an object, not a copy.
     MObject asMObject(MDGContext& ctx = MDGContext::fsNormal, MStatus* ReturnStatus = nullptr) const;
@@ -216,17 +216,17 @@ public:
     /// As setValue.
     MStatus setMObject(MObject& val);
     MStatus setMDataHandle(MDataHandle& handle);
-    MStatus setDouble(double);
-    MStatus setFloat(float);
-    MStatus setInt64(MInt64);
-    MStatus setInt(int);
-    MStatus setShort(short);
-    MStatus setBool(bool);
-    MStatus setMDistance(MDistance&);
-    MStatus setMAngle(MAngle&);
-    MStatus setMTime(MTime&);
-    MStatus setChar(char);
-    MStatus setString(const MString&);
+    MStatus setDouble(double value);
+    MStatus setFloat(float value);
+    MStatus setInt64(MInt64 value);
+    MStatus setInt(int value);
+    MStatus setShort(short value);
+    MStatus setBool(bool value);
+    MStatus setMDistance(MDistance& value);
+    MStatus setMAngle(MAngle& value);
+    MStatus setMTime(MTime& value);
+    MStatus setChar(char value);
+    MStatus setString(const MString& value);
 
     /// An existing element by position, or a child by attribute.
     MPlug operator[](unsigned int physicalIndex) const;
@@ -240,7 +240,7 @@ public:
     bool operator!=(const MObject& other) const;
 
     /// Makes room for so many elements, or throws away those with higher indices.
-    MStatus setNumElements(unsigned int);
+    MStatus setNumElements(unsigned int value);
 
     /// The attribute.
     operator MObject() const;

@@ -50,7 +50,7 @@ public:
     /// The text of the call, for the undo queue.
     MString commandString() const;
     MStatus setHistoryOn(bool state);
-    MStatus setCommandString(const MString&);
+    MStatus setCommandString(const MString& value);
 
     /// A line in the script editor.
     static void displayInfo(const MString& theInfo);

@@ -105,7 +105,7 @@ public:
     virtual int internalArrayCount(const MPlug& plug, const MDGContext& ctx) const;
 
     /// Called on a duplicate with the node that it was made from.
-    virtual void copyInternalData(MPxNode*);
+    virtual void copyInternalData(MPxNode* other);
 
     /// Whether a connection of this node's plug may be made, or broken. kUnknownParameter leaves it to Maya.
     virtual MStatus legalConnection(const MPlug& plug, const MPlug& otherPlug, bool asSrc,

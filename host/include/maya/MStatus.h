@@ -106,7 +106,7 @@ OPENMAYA_EXPORT std::ostream& operator<<(std::ostream& out, MStatus& status);
 typedef MStatus MS;
 #endif
 
-/// Says on the standard error stream where a call failed. Leaves the function when told to.
+/// Says on the standard error stream where a call failed, and how. For the macros below.
 #define TVX_REPORT_MSTATUS(status)                                                                           \
     do {                                                                                                     \
         std::cerr << "\nAPI error detected in " << __FILE__ << " at line " << __LINE__ << std::endl;         \

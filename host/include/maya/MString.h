@@ -80,11 +80,11 @@ public:
     int index(char) const;
     int indexW(char) const;
     int indexW(wchar_t) const;
-    int indexW(const MString&) const;
+    int indexW(const MString& other) const;
     int rindex(char) const;
     int rindexW(char) const;
     int rindexW(wchar_t) const;
-    int rindexW(const MString&) const;
+    int rindexW(const MString& other) const;
 
     /// Splits at each occurrence of a character; empty parts are left out. kFailure for an empty text.
     MStatus split(char, MStringArray&) const;

@@ -20,7 +20,7 @@ public:
     MTimeArray(unsigned int initialSize, const MTime& initialValue);
     ~MTimeArray();
 
-    MTimeArray& operator=(const MTimeArray&);
+    MTimeArray& operator=(const MTimeArray& other);
 
     /// The element at an index, not checked.
     const MTime& operator[](unsigned int index) const;
