@@ -16,7 +16,7 @@
 namespace tvxhost::api {
 
 /// One plug-in that is or was loaded. This is the object that its entry points are given.
-class FND_EXPORT Plugin final : public engine::Object
+class OPENMAYA_EXPORT Plugin final : public engine::Object
 {
 public:
     /// The names of the script procedures that make and remove a plug-in's user interface; empty for none.
@@ -54,7 +54,7 @@ struct PluginResult
 };
 
 /// The plug-ins of a session. Main thread only.
-class FND_EXPORT PluginLoader
+class OPENMAYA_EXPORT PluginLoader
 {
 public:
     explicit PluginLoader(engine::Scene& scene);

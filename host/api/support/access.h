@@ -1,14 +1,18 @@
 // tvxAccess: the one place that reaches into the private storage of the API's classes.
 #pragma once
 
+#include "engine/dagPath.h"
 #include "engine/node.h"
 #include "engine/object.h"
 #include "engine/plug.h"
+#include "engine/selection.h"
 #include "engine/text.h"
 
+#include <maya/MDagPath.h>
 #include <maya/MFnBase.h>
 #include <maya/MObject.h>
 #include <maya/MPlug.h>
+#include <maya/MSelectionList.h>
 #include <maya/MStatus.h>
 #include <maya/MString.h>
 
@@ -114,6 +118,33 @@ public:
         return array.elements;
     }
 
+    /// Makes an array one that edits the elements inside a data object, which it keeps alive.
+    template <class Array, class Elements>
+    static void lend(Array& array, Elements& elements, const Object& lender)
+    {
+        array.elements = &elements;
+        array.reserved[0] = const_cast<Object*>(&lender);
+        lender.retain();
+    }
+
+    // MDagPath: null when the path is not valid
+    static const tvxhost::engine::DagPath* dagPath(const MDagPath& path) { return path.path; }
+    static MDagPath dagPath(tvxhost::engine::DagPath path)
+    {
+        MDagPath made;
+        setDagPath(made, std::move(path));
+        return made;
+    }
+    static void setDagPath(MDagPath& target, tvxhost::engine::DagPath path)
+    {
+        delete std::exchange(target.path,
+                             path.isValid() ? new tvxhost::engine::DagPath(std::move(path)) : nullptr);
+    }
+
+    // MSelectionList
+    static tvxhost::engine::SelectionList& selection(MSelectionList& list) { return *list.list; }
+    static const tvxhost::engine::SelectionList& selection(const MSelectionList& list) { return *list.list; }
+
     // Function sets
     static Object* attached(const MFnBase& set) { return reinterpret_cast<Object*>(set.f_ptr); }
     /// Attaches a set to an object, or (null) to nothing.
@@ -126,6 +157,10 @@ public:
         set.f_ptr = reinterpret_cast<MPtrBase*>(const_cast<Object*>(object));
         set.f_constptr = set.f_ptr;
         set.fIsReferenceCounted = object != nullptr;
+    }
+    static bool objectChanged(MFnBase& set, MFn::Type type, MStatus* status)
+    {
+        return set.objectChanged(type, status);
     }
 };
 

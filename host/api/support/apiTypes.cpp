@@ -5,6 +5,7 @@
 #include "engine/attribute.h"
 #include "engine/data.h"
 #include "engine/node.h"
+#include "engine/scene.h"
 
 #include <cctype>
 #include <string>
@@ -271,6 +272,43 @@ bool dataHasFn(const Data& data, MFn::Type type)
     return type == MFn::kNumericData && data.type() == DataType::numeric;
 }
 
+/// The types below one that is no node: attributes and data stand side by side in the enumeration.
+struct Range
+{
+    MFn::Type first = MFn::kInvalid, last = MFn::kInvalid;
+    MFn::Type firstGroup = MFn::kInvalid, lastGroup = MFn::kInvalid, fourDoubles = MFn::kInvalid;
+
+    bool holds(MFn::Type type) const
+    {
+        return (first <= type && type <= last) || (firstGroup <= type && type <= lastGroup) ||
+               type == fourDoubles;
+    }
+};
+
+Range rangeOf(MFn::Type type)
+{
+    switch (type) {
+    case MFn::kAttribute:
+        return {MFn::kAttribute, MFn::kMessageAttribute, MFn::kAttribute2Double, MFn::kAttribute3Int,
+                MFn::kAttribute4Double};
+    case MFn::kNumericAttribute:
+        return {MFn::kNumericAttribute, MFn::kNumericAttribute, MFn::kAttribute2Double, MFn::kAttribute3Int,
+                MFn::kAttribute4Double};
+    case MFn::kUnitAttribute:
+        return {MFn::kDoubleAngleAttribute, MFn::kTimeAttribute, MFn::kUnitAttribute, MFn::kUnitAttribute,
+                MFn::kUnitAttribute};
+    case MFn::kMatrixAttribute:
+        return {MFn::kMatrixAttribute, MFn::kFloatMatrixAttribute, MFn::kMatrixAttribute,
+                MFn::kMatrixAttribute, MFn::kMatrixAttribute};
+    case MFn::kData:
+        return {MFn::kData, MFn::kVectorArrayData, MFn::kData, MFn::kData, MFn::kData4Double};
+    case MFn::kNumericData:
+        return {MFn::kNumericData, MFn::kData3Short, MFn::kNumericData, MFn::kNumericData, MFn::kData4Double};
+    default:
+        return {};
+    }
+}
+
 bool isWorld(const Node& node)
 {
     const engine::DagNode* dag = node.asDag();
@@ -322,6 +360,19 @@ bool hasFn(const NodeType& nodeType, MFn::Type type)
         return true;
     for (const NodeType* t = &nodeType; t; t = t->parent)
         if (ownType(*t) == type)
+            return true;
+    return false;
+}
+
+bool typeHasFn(MFn::Type objectType, MFn::Type type)
+{
+    if (objectType == type || type == MFn::kBase)
+        return true;
+    const Range range = rangeOf(type);
+    if (range.first != MFn::kInvalid)
+        return range.holds(objectType);
+    for (const NodeType* node : engine::Scene::current().types().all())
+        if (apiTypeOf(*node) == objectType && hasFn(*node, type))
             return true;
     return false;
 }

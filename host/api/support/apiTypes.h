@@ -22,5 +22,7 @@ FND_EXPORT MFn::Type apiTypeOf(const engine::NodeType& type);
 FND_EXPORT bool hasFn(const engine::Object* object, MFn::Type type);
 /// The same for nodes of a node type.
 FND_EXPORT bool hasFn(const engine::NodeType& nodeType, MFn::Type type);
+/// The same for any object of a type (for nodes: by the node types that are known now).
+FND_EXPORT bool typeHasFn(MFn::Type objectType, MFn::Type type);
 
 } // namespace tvxhost::api
