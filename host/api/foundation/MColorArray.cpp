@@ -5,7 +5,7 @@
 
 namespace array = tvxhost::api::array;
 
-TVX_ARRAY_MEMBERS(MColorArray, MColor, const MColor&, const MColor&)
+TVX_LENDABLE_ARRAY_MEMBERS(MColorArray, MColor, const MColor&, const MColor&)
 TVX_ARRAY_COPY(MColorArray)
 TVX_ARRAY_STREAM(MColorArray)
 
@@ -26,22 +26,22 @@ MStatus overwrite(std::vector<MColor>* elements, const Number (*rows)[4], unsign
 } // namespace
 
 MColorArray::MColorArray(const MColor src[], unsigned int count)
-    : elements(array::copyOf<MColor>(src, count)), reserved()
+    : elements(array::copyOf<MColor>(src, count)), lender(nullptr), reserved(nullptr)
 {
 }
 
 MColorArray::MColorArray(const float src[][4], unsigned int count)
-    : elements(array::fromRows<MColor>(src, count)), reserved()
+    : elements(array::fromRows<MColor>(src, count)), lender(nullptr), reserved(nullptr)
 {
 }
 
 MColorArray::MColorArray(const double src[][4], unsigned int count)
-    : elements(array::fromRows<MColor>(src, count)), reserved()
+    : elements(array::fromRows<MColor>(src, count)), lender(nullptr), reserved(nullptr)
 {
 }
 
 MColorArray::MColorArray(unsigned int initialSize, const MColor& initialValue)
-    : elements(new std::vector<MColor>(initialSize, initialValue)), reserved()
+    : elements(new std::vector<MColor>(initialSize, initialValue)), lender(nullptr), reserved(nullptr)
 {
 }
 

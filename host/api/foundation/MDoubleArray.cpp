@@ -5,22 +5,22 @@
 
 namespace array = tvxhost::api::array;
 
-TVX_ARRAY_MEMBERS(MDoubleArray, double, double, double)
+TVX_LENDABLE_ARRAY_MEMBERS(MDoubleArray, double, double, double)
 TVX_ARRAY_COPY(MDoubleArray)
 TVX_ARRAY_STREAM(MDoubleArray)
 
 MDoubleArray::MDoubleArray(const double src[], unsigned int count)
-    : elements(array::copyOf<double>(src, count)), reserved()
+    : elements(array::copyOf<double>(src, count)), lender(nullptr), reserved(nullptr)
 {
 }
 
 MDoubleArray::MDoubleArray(const float src[], unsigned int count)
-    : elements(array::copyOf<double>(src, count)), reserved()
+    : elements(array::copyOf<double>(src, count)), lender(nullptr), reserved(nullptr)
 {
 }
 
 MDoubleArray::MDoubleArray(unsigned int initialSize, double initialValue)
-    : elements(new std::vector<double>(initialSize, initialValue)), reserved()
+    : elements(new std::vector<double>(initialSize, initialValue)), lender(nullptr), reserved(nullptr)
 {
 }
 

@@ -5,27 +5,27 @@
 
 namespace array = tvxhost::api::array;
 
-TVX_ARRAY_MEMBERS(MFloatPointArray, MFloatPoint, const MFloatPoint&, const MFloatPoint&)
+TVX_LENDABLE_ARRAY_MEMBERS(MFloatPointArray, MFloatPoint, const MFloatPoint&, const MFloatPoint&)
 TVX_ARRAY_COPY(MFloatPointArray)
 TVX_ARRAY_STREAM(MFloatPointArray)
 
 MFloatPointArray::MFloatPointArray(const MFloatPoint points[], unsigned int count)
-    : elements(array::copyOf<MFloatPoint>(points, count)), reserved()
+    : elements(array::copyOf<MFloatPoint>(points, count)), lender(nullptr), reserved(nullptr)
 {
 }
 
 MFloatPointArray::MFloatPointArray(const double points[][4], unsigned int count)
-    : elements(array::fromRows<MFloatPoint>(points, count)), reserved()
+    : elements(array::fromRows<MFloatPoint>(points, count)), lender(nullptr), reserved(nullptr)
 {
 }
 
 MFloatPointArray::MFloatPointArray(const float points[][4], unsigned int count)
-    : elements(array::fromRows<MFloatPoint>(points, count)), reserved()
+    : elements(array::fromRows<MFloatPoint>(points, count)), lender(nullptr), reserved(nullptr)
 {
 }
 
 MFloatPointArray::MFloatPointArray(unsigned int initialSize, const MFloatPoint& initialValue)
-    : elements(new std::vector<MFloatPoint>(initialSize, initialValue)), reserved()
+    : elements(new std::vector<MFloatPoint>(initialSize, initialValue)), lender(nullptr), reserved(nullptr)
 {
 }
 

@@ -5,27 +5,27 @@
 
 namespace array = tvxhost::api::array;
 
-TVX_ARRAY_MEMBERS(MFloatVectorArray, MFloatVector, const MFloatVector&, const MFloatVector&)
+TVX_LENDABLE_ARRAY_MEMBERS(MFloatVectorArray, MFloatVector, const MFloatVector&, const MFloatVector&)
 TVX_ARRAY_COPY(MFloatVectorArray)
 TVX_ARRAY_STREAM(MFloatVectorArray)
 
 MFloatVectorArray::MFloatVectorArray(const MFloatVector vectors[], unsigned int count)
-    : elements(array::copyOf<MFloatVector>(vectors, count)), reserved()
+    : elements(array::copyOf<MFloatVector>(vectors, count)), lender(nullptr), reserved(nullptr)
 {
 }
 
 MFloatVectorArray::MFloatVectorArray(const double vectors[][3], unsigned int count)
-    : elements(array::fromRows<MFloatVector>(vectors, count)), reserved()
+    : elements(array::fromRows<MFloatVector>(vectors, count)), lender(nullptr), reserved(nullptr)
 {
 }
 
 MFloatVectorArray::MFloatVectorArray(const float vectors[][3], unsigned int count)
-    : elements(array::fromRows<MFloatVector>(vectors, count)), reserved()
+    : elements(array::fromRows<MFloatVector>(vectors, count)), lender(nullptr), reserved(nullptr)
 {
 }
 
 MFloatVectorArray::MFloatVectorArray(unsigned int initialSize, const MFloatVector& initialValue)
-    : elements(new std::vector<MFloatVector>(initialSize, initialValue)), reserved()
+    : elements(new std::vector<MFloatVector>(initialSize, initialValue)), lender(nullptr), reserved(nullptr)
 {
 }
 

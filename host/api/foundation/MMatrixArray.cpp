@@ -8,6 +8,6 @@ TVX_ARRAY_COPY(MMatrixArray)
 TVX_ARRAY_STREAM(MMatrixArray)
 
 MMatrixArray::MMatrixArray(unsigned int initialSize)
-    : elements(new std::vector<MMatrix>(initialSize)), reserved()
+    : elements(new std::vector<MMatrix>(initialSize)), reserved(nullptr)
 {
 }

@@ -5,27 +5,27 @@
 
 namespace array = tvxhost::api::array;
 
-TVX_ARRAY_MEMBERS(MPointArray, MPoint, const MPoint&, const MPoint&)
+TVX_LENDABLE_ARRAY_MEMBERS(MPointArray, MPoint, const MPoint&, const MPoint&)
 TVX_ARRAY_COPY(MPointArray)
 TVX_ARRAY_STREAM(MPointArray)
 
 MPointArray::MPointArray(const MPoint points[], unsigned int count)
-    : elements(array::copyOf<MPoint>(points, count)), reserved()
+    : elements(array::copyOf<MPoint>(points, count)), lender(nullptr), reserved(nullptr)
 {
 }
 
 MPointArray::MPointArray(const double points[][4], unsigned int count)
-    : elements(array::fromRows<MPoint>(points, count)), reserved()
+    : elements(array::fromRows<MPoint>(points, count)), lender(nullptr), reserved(nullptr)
 {
 }
 
 MPointArray::MPointArray(const float points[][4], unsigned int count)
-    : elements(array::fromRows<MPoint>(points, count)), reserved()
+    : elements(array::fromRows<MPoint>(points, count)), lender(nullptr), reserved(nullptr)
 {
 }
 
 MPointArray::MPointArray(unsigned int initialSize, const MPoint& initialValue)
-    : elements(new std::vector<MPoint>(initialSize, initialValue)), reserved()
+    : elements(new std::vector<MPoint>(initialSize, initialValue)), lender(nullptr), reserved(nullptr)
 {
 }
 

@@ -7,21 +7,21 @@
 
 namespace array = tvxhost::api::array;
 
-TVX_ARRAY_MEMBERS(MStringArray, MString, const MString&, MString)
+TVX_LENDABLE_ARRAY_MEMBERS(MStringArray, MString, const MString&, MString)
 TVX_ARRAY_STREAM(MStringArray)
 
 MStringArray::MStringArray(const MString strings[], unsigned int count)
-    : elements(array::copyOf<MString>(strings, count)), reserved()
+    : elements(array::copyOf<MString>(strings, count)), lender(nullptr), reserved(nullptr)
 {
 }
 
 MStringArray::MStringArray(const char* strings[], unsigned int count)
-    : elements(array::copyOf<MString>(strings, count)), reserved()
+    : elements(array::copyOf<MString>(strings, count)), lender(nullptr), reserved(nullptr)
 {
 }
 
 MStringArray::MStringArray(unsigned int initialSize, const MString& initialValue)
-    : elements(new std::vector<MString>(initialSize, initialValue)), reserved()
+    : elements(new std::vector<MString>(initialSize, initialValue)), lender(nullptr), reserved(nullptr)
 {
 }
 

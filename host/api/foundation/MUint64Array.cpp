@@ -5,17 +5,17 @@
 
 namespace array = tvxhost::api::array;
 
-TVX_ARRAY_MEMBERS(MUint64Array, MUint64, MUint64, MUint64)
+TVX_LENDABLE_ARRAY_MEMBERS(MUint64Array, MUint64, MUint64, MUint64)
 TVX_ARRAY_COPY(MUint64Array)
 TVX_ARRAY_STREAM(MUint64Array)
 
 MUint64Array::MUint64Array(const MUint64 src[], unsigned int count)
-    : elements(array::copyOf<MUint64>(src, count)), reserved()
+    : elements(array::copyOf<MUint64>(src, count)), lender(nullptr), reserved(nullptr)
 {
 }
 
 MUint64Array::MUint64Array(unsigned int initialSize, MUint64 initialValue)
-    : elements(new std::vector<MUint64>(initialSize, initialValue)), reserved()
+    : elements(new std::vector<MUint64>(initialSize, initialValue)), lender(nullptr), reserved(nullptr)
 {
 }
 

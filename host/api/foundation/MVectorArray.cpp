@@ -5,27 +5,27 @@
 
 namespace array = tvxhost::api::array;
 
-TVX_ARRAY_MEMBERS(MVectorArray, MVector, const MVector&, const MVector&)
+TVX_LENDABLE_ARRAY_MEMBERS(MVectorArray, MVector, const MVector&, const MVector&)
 TVX_ARRAY_COPY(MVectorArray)
 TVX_ARRAY_STREAM(MVectorArray)
 
 MVectorArray::MVectorArray(const MVector vectors[], unsigned int count)
-    : elements(array::copyOf<MVector>(vectors, count)), reserved()
+    : elements(array::copyOf<MVector>(vectors, count)), lender(nullptr), reserved(nullptr)
 {
 }
 
 MVectorArray::MVectorArray(const double vectors[][3], unsigned int count)
-    : elements(array::fromRows<MVector>(vectors, count)), reserved()
+    : elements(array::fromRows<MVector>(vectors, count)), lender(nullptr), reserved(nullptr)
 {
 }
 
 MVectorArray::MVectorArray(const float vectors[][3], unsigned int count)
-    : elements(array::fromRows<MVector>(vectors, count)), reserved()
+    : elements(array::fromRows<MVector>(vectors, count)), lender(nullptr), reserved(nullptr)
 {
 }
 
 MVectorArray::MVectorArray(unsigned int initialSize, const MVector& initialValue)
-    : elements(new std::vector<MVector>(initialSize, initialValue)), reserved()
+    : elements(new std::vector<MVector>(initialSize, initialValue)), lender(nullptr), reserved(nullptr)
 {
 }
 

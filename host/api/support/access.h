@@ -123,7 +123,7 @@ public:
     static void lend(Array& array, Elements& elements, const Object& lender)
     {
         array.elements = &elements;
-        array.reserved[0] = const_cast<Object*>(&lender);
+        array.lender = const_cast<Object*>(&lender);
         lender.retain();
     }
 

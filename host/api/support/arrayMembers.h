@@ -117,49 +117,23 @@ std::ostream& write(std::ostream& out, const Array& array)
 
 /// An array owns its elements, unless it was lent those of a data object, which it then keeps alive.
 template <class T>
-void release(std::vector<T>* elements, void* lender)
+void release(std::vector<T>* elements, const engine::Object* lender)
 {
     if (lender)
-        static_cast<engine::Object*>(lender)->release();
+        lender->release();
     else
         delete elements;
 }
 
-// The spare words of an array: the data object that lends the elements, and the size increment. Classes with
-// fewer words are never lent anything, or keep no increment.
-inline void* lender(void* const (&words)[2])
+// The size increment is kept in the spare word; none was set while that is null.
+inline void setIncrement(void*& word, unsigned int value)
 {
-    return words[0];
-}
-
-inline void* lender(void*)
-{
-    return nullptr;
-}
-
-inline void*& increment(void* (&words)[2])
-{
-    return words[1];
-}
-
-inline void*& increment(void*& word)
-{
-    return word;
+    word = reinterpret_cast<void*>(static_cast<std::uintptr_t>(value));
 }
 
 inline unsigned int incrementOf(const void* word)
 {
     return word ? static_cast<unsigned int>(reinterpret_cast<std::uintptr_t>(word)) : 1;
-}
-
-inline unsigned int incrementOf(void* const (&words)[2])
-{
-    return incrementOf(words[1]);
-}
-
-inline void* incrementWord(unsigned int value)
-{
-    return reinterpret_cast<void*>(static_cast<std::uintptr_t>(value));
 }
 
 } // namespace tvxhost::api::array
@@ -217,17 +191,41 @@ inline void* incrementWord(unsigned int value)
         return #Class;                                                                                       \
     }
 
-/// The same with what needs the spare words: construction, destruction, size increment.
+/// The same with construction, destruction and size increment, which need the spare word `reserved`.
 #define TVX_ARRAY_MEMBERS(Class, Element, Parameter, Result)                                                 \
-    Class::Class() : elements(nullptr), reserved() {}                                                        \
-    Class::Class(const Class& other) : elements(tvxhost::api::array::copyOf(other.elements)), reserved() {}  \
+    Class::Class() : elements(nullptr), reserved(nullptr) {}                                                 \
+    Class::Class(const Class& other)                                                                         \
+        : elements(tvxhost::api::array::copyOf(other.elements)), reserved(nullptr)                           \
+    {                                                                                                        \
+    }                                                                                                        \
     Class::~Class()                                                                                          \
     {                                                                                                        \
-        tvxhost::api::array::release(elements, tvxhost::api::array::lender(reserved));                       \
+        delete elements;                                                                                     \
     }                                                                                                        \
     void Class::setSizeIncrement(unsigned int newIncrement)                                                  \
     {                                                                                                        \
-        tvxhost::api::array::increment(reserved) = tvxhost::api::array::incrementWord(newIncrement);         \
+        tvxhost::api::array::setIncrement(reserved, newIncrement);                                           \
+    }                                                                                                        \
+    unsigned int Class::sizeIncrement() const                                                                \
+    {                                                                                                        \
+        return tvxhost::api::array::incrementOf(reserved);                                                   \
+    }                                                                                                        \
+    TVX_ARRAY_ELEMENT_MEMBERS(Class, Element, Parameter, Result)
+
+/// The same for an array that can be lent the elements of a data object.
+#define TVX_LENDABLE_ARRAY_MEMBERS(Class, Element, Parameter, Result)                                        \
+    Class::Class() : elements(nullptr), lender(nullptr), reserved(nullptr) {}                                \
+    Class::Class(const Class& other)                                                                         \
+        : elements(tvxhost::api::array::copyOf(other.elements)), lender(nullptr), reserved(nullptr)          \
+    {                                                                                                        \
+    }                                                                                                        \
+    Class::~Class()                                                                                          \
+    {                                                                                                        \
+        tvxhost::api::array::release(elements, lender);                                                      \
+    }                                                                                                        \
+    void Class::setSizeIncrement(unsigned int newIncrement)                                                  \
+    {                                                                                                        \
+        tvxhost::api::array::setIncrement(reserved, newIncrement);                                           \
     }                                                                                                        \
     unsigned int Class::sizeIncrement() const                                                                \
     {                                                                                                        \
