@@ -1,0 +1,26 @@
+# The plug-in's sources include Maya's headers, their own, the core library's, OpenGL's, TBB's and the standard's:
+# never the host's.
+cmake_minimum_required(VERSION 3.25)
+
+set(folders global rendering core tvxCore)
+set(sources)
+foreach(folder IN LISTS folders)
+  file(GLOB_RECURSE found ${SOURCE_DIR}/${folder}/*.h ${SOURCE_DIR}/${folder}/*.cpp)
+  list(APPEND sources ${found})
+endforeach()
+list(LENGTH sources count)
+if(count LESS 10)
+  message(FATAL_ERROR "only ${count} sources were found: the check means nothing")
+endif()
+
+set(offenders)
+foreach(source IN LISTS sources)
+  file(READ ${source} text)
+  if(text MATCHES "tvxhost|TvxHost|TVX_BUILD_HOST|#include \"(host|engine|api|mel|scene|viewport|app)/")
+    list(APPEND offenders "${source}: ${CMAKE_MATCH_0}")
+  endif()
+endforeach()
+if(offenders)
+  list(JOIN offenders "\n" offenders)
+  message(FATAL_ERROR "the plug-in refers to the host:\n${offenders}")
+endif()

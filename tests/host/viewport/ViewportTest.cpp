@@ -1,0 +1,222 @@
+// Pictures of scenes: what is seen, where, and in which colour.
+#include "viewport/viewport.h"
+
+#include "viewport/camera.h"
+
+#include <maya/M3dView.h>
+#include <maya/MDagPath.h>
+#include <maya/MPxLocatorNode.h>
+
+#include <GL/gl.h>
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <functional>
+
+namespace {
+
+using namespace tvxhost;
+using engine::DagNode;
+using engine::Scene;
+using viewport::Picture;
+using viewport::Rgb;
+
+constexpr Rgb kBackground{92, 92, 92};
+constexpr Rgb kGrid{128, 128, 128};
+constexpr Rgb kDormantWire{0, 4, 96};
+constexpr Rgb kLeadWire{67, 255, 163};
+
+/// A plug-in's locator whose drawing a test gives.
+class TestLocator : public MPxLocatorNode
+{
+public:
+    using Draw = std::function<void(M3dView&, const MDagPath&, M3dView::DisplayStatus)>;
+    static Draw draws;
+
+    void draw(M3dView& view, const MDagPath& path, M3dView::DisplayStyle,
+              M3dView::DisplayStatus status) override
+    {
+        draws(view, path, status);
+    }
+};
+TestLocator::Draw TestLocator::draws;
+
+class TestBehaviour final : public engine::NodeBehaviour
+{
+public:
+    engine::Computed compute(const engine::Plug&) override { return engine::Computed::unknown; }
+    void* apiObject() override { return static_cast<MPxNode*>(&m_locator); }
+
+private:
+    TestLocator m_locator;
+};
+
+class ViewportTest : public testing::Test
+{
+protected:
+    ViewportTest()
+    {
+        m_scene.newScene();
+        Scene::makeCurrent(&m_scene);
+        auto type = m_scene.types().add("testLocator", 0x7f001, *m_scene.types().find("THlocatorShape"));
+        EXPECT_TRUE(type) << type.outcome.text;
+        type.value->behaviour = [](engine::Node&) { return std::make_unique<TestBehaviour>(); };
+        TestLocator::draws = [](M3dView&, const MDagPath&, M3dView::DisplayStatus) {};
+    }
+    ~ViewportTest() override { Scene::makeCurrent(nullptr); }
+
+    DagNode& create(const char* type, const char* name, DagNode* parent = nullptr)
+    {
+        const auto node = m_scene.createNode(type, name, parent);
+        EXPECT_TRUE(node) << node.outcome.text;
+        return *node.value->asDag();
+    }
+    void set(DagNode& node, const char* plug, double value)
+    {
+        const auto outcome = engine::writeNumber(node.findPlug(plug).value, engine::Number(value));
+        ASSERT_TRUE(outcome) << plug << ": " << outcome.text;
+    }
+    /// A front camera that sees x and y from -2 to 2, without the grid.
+    void lookFromFront()
+    {
+        DagNode& camera = *viewport::findCamera(m_scene, "front").value.node();
+        set(camera, "orthographicWidth", 4);
+        // The grid lies edge-on at y = 0; the picture's middle row is left to it.
+    }
+    Picture draw(int width, int height, const std::string& camera = "front")
+    {
+        auto picture = viewport::drawPicture(m_scene, {width, height, camera});
+        EXPECT_TRUE(picture) << picture.outcome.text;
+        return std::move(picture.value);
+    }
+    static int count(const Picture& picture, const Rgb& color)
+    {
+        int pixels = 0;
+        for (int y = 0; y < picture.height; ++y) {
+            for (int x = 0; x < picture.width; ++x)
+                pixels += picture.at(x, y) == color;
+        }
+        return pixels;
+    }
+
+    Scene m_scene;
+};
+
+TEST_F(ViewportTest, AnEmptySceneShowsTheGridOnTheBackground)
+{
+    const Picture picture = draw(320, 180, "");
+    EXPECT_GT(count(picture, kGrid), 500);
+    EXPECT_GT(count(picture, kBackground), 10000);
+    EXPECT_EQ(count(picture, kDormantWire), 0);
+}
+
+TEST_F(ViewportTest, ALocatorIsACrossOfItsScaleAtItsPlace)
+{
+    lookFromFront();
+    DagNode& shape = create("locator", "markShape", &create("transform", "mark"));
+    set(*m_scene.findNode("mark").value->asDag(), "translateX", 1);
+    set(shape, "localScaleY", 0.5);
+    const Picture picture = draw(401, 401);
+    // x = 1 is at pixel 300 of 400, y from -0.5 to 0.5 at 150 to 250.
+    for (int y : {160, 190, 215, 240})
+        EXPECT_EQ(picture.at(300, y), kDormantWire) << y;
+    for (int y : {140, 260})
+        EXPECT_EQ(picture.at(300, y), kBackground) << y;
+}
+
+TEST_F(ViewportTest, TheSelectedWireHasTheLeadColour)
+{
+    lookFromFront();
+    create("locator", "markShape", &create("transform", "mark"));
+    engine::SelectionList selection;
+    selection.add(m_scene.findItem("mark").value);
+    m_scene.setSelection(selection);
+    const Picture picture = draw(200, 200);
+    EXPECT_GT(count(picture, kLeadWire), 90);
+    EXPECT_EQ(count(picture, kDormantWire), 0);
+}
+
+TEST_F(ViewportTest, APluginDrawsInTheSpaceOfEachInstanceWithItsStatus)
+{
+    lookFromFront();
+    DagNode& left = create("transform", "left");
+    DagNode& right = create("transform", "right");
+    set(left, "translateX", -1);
+    set(right, "translateX", 1);
+    DagNode& shape = create("testLocator", "shape", &left);
+    ASSERT_TRUE(m_scene.addParent(shape, right));
+    engine::SelectionList selection;
+    selection.add(m_scene.findItem("right").value);
+    m_scene.setSelection(selection);
+
+    std::vector<std::string> calls;
+    TestLocator::draws = [&](M3dView& view, const MDagPath& path, M3dView::DisplayStatus status) {
+        calls.push_back(path.fullPathName().asChar() + std::string(" ") + std::to_string(status));
+        view.beginGL();
+        glColor4f(status == M3dView::kLead ? 1.0f : 0.0f, 1, 0, 1);
+        glBegin(GL_QUADS);
+        for (const auto& [x, y] : {std::pair{-0.2, 0.3}, {0.2, 0.3}, {0.2, 0.7}, {-0.2, 0.7}})
+            glVertex3d(x, y, 0);
+        glEnd();
+        view.endGL();
+    };
+    const Picture picture = draw(400, 400);
+    EXPECT_EQ(calls, (std::vector<std::string>{"|left|shape " + std::to_string(M3dView::kDormant),
+                                               "|right|shape " + std::to_string(M3dView::kLead)}));
+    EXPECT_EQ(picture.at(100, 150), (Rgb{0, 255, 0}));
+    EXPECT_EQ(picture.at(300, 150), (Rgb{255, 255, 0}));
+    EXPECT_EQ(picture.at(200, 150), kBackground);
+}
+
+TEST_F(ViewportTest, APluginSeesTheViewItDrawsTo)
+{
+    create("testLocator", "shape", &create("transform", "t"));
+    std::vector<int> size;
+    std::string camera;
+    TestLocator::draws = [&](M3dView& view, const MDagPath&, M3dView::DisplayStatus) {
+        size = {view.portWidth(), view.portHeight()};
+        MDagPath path;
+        view.getCamera(path);
+        camera = path.fullPathName().asChar();
+    };
+    draw(123, 45, "side");
+    EXPECT_EQ(size, (std::vector<int>{123, 45}));
+    EXPECT_EQ(camera, "|side|sideShape");
+}
+
+TEST_F(ViewportTest, DisorderThatAPluginLeavesIsToldOnceAndRepaired)
+{
+    lookFromFront();
+    create("testLocator", "one", &create("transform", "t1"));
+    create("testLocator", "two", &create("transform", "t2"));
+    create("locator", "markShape", &create("transform", "mark"));
+    TestLocator::draws = [](M3dView&, const MDagPath&, M3dView::DisplayStatus) {
+        glPushMatrix();
+        glDisable(GL_DEPTH_TEST);
+        glColor4f(1, 0, 0, 1);
+        glScaled(9, 9, 9);
+    };
+    const Picture picture = draw(401, 401);
+    ASSERT_EQ(m_scene.scriptEditor().warnings(), 1);
+    EXPECT_EQ(
+        m_scene.scriptEditor().history().back().text,
+        "The draw function of testLocator (\"one\") left OpenGL in disorder: model-view stack 1 too deep");
+    // The locator that comes after is where and as it should be.
+    EXPECT_EQ(picture.at(200, 150), kDormantWire);
+    EXPECT_EQ(picture.at(200, 90), kBackground);
+}
+
+TEST_F(ViewportTest, SaysWhatItCannotDo)
+{
+    EXPECT_EQ(viewport::drawPicture(m_scene, {10, 10, "time1"}).outcome.text, "\"time1\" is not a camera");
+    EXPECT_EQ(viewport::drawPicture(m_scene, {0, 10, ""}).outcome.text, "a picture of 0x10 has no pixels");
+    EXPECT_THAT(viewport::drawPicture(m_scene, {1000000, 10, ""}).outcome.text,
+                testing::StartsWith("a picture of 1000000x10 is larger than OpenGL can draw here, at most "));
+}
+
+TEST_F(ViewportTest, DrawsOnePixel)
+{
+    EXPECT_EQ(draw(1, 1).bytes.size(), 3u);
+}
+
+} // namespace
