@@ -4,6 +4,7 @@
 #include "api/support/displayStatus.h"
 
 #include <optional>
+#include <utility>
 
 namespace tvxhost::viewport {
 
@@ -27,29 +28,47 @@ bool isDrawn(M3dView::DisplayStatus status)
     return status != M3dView::kInvisible && status != M3dView::kIntermediateObject;
 }
 
-void addBelow(DagPath& path, std::vector<DrawItem>& list)
+class Walk
 {
-    for (DagNode* child : path.node()->children()) {
-        if (!path.push(*child))
-            continue;
-        if (const auto kind = kindOf(*child)) {
-            const auto status = api::displayStatusOf(path);
-            if (isDrawn(status))
-                list.push_back({path, *kind, status, path.inclusiveMatrix()});
-        }
-        addBelow(path, list);
-        (void)path.pop();
+public:
+    explicit Walk(engine::Scene& scene) : m_rule(scene), m_path(DagPath::world(scene)) {}
+
+    std::vector<DrawItem> list()
+    {
+        addBelow(*m_path.node());
+        return std::move(m_list);
     }
-}
+
+private:
+    void addBelow(const DagNode& parent)
+    {
+        for (DagNode* child : parent.children()) {
+            if (!m_path.push(*child))
+                continue;
+            if (const auto kind = kindOf(*child))
+                add(*kind);
+            addBelow(*child);
+            (void)m_path.pop();
+        }
+    }
+
+    void add(DrawKind kind)
+    {
+        const auto status = m_rule.statusOf(m_path);
+        if (isDrawn(status))
+            m_list.push_back({m_path, kind, status, m_path.inclusiveMatrix()});
+    }
+
+    api::DisplayStatusRule m_rule;
+    DagPath m_path; ///< from the world to where the walk is
+    std::vector<DrawItem> m_list;
+};
 
 } // namespace
 
 std::vector<DrawItem> drawList(engine::Scene& scene)
 {
-    std::vector<DrawItem> list;
-    DagPath path = DagPath::world(scene);
-    addBelow(path, list);
-    return list;
+    return Walk(scene).list();
 }
 
 } // namespace tvxhost::viewport
