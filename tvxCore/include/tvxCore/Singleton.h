@@ -1,10 +1,11 @@
 // One instance of a class per library, made on first use and destroyed when the library is unloaded.
 #pragma once
 
+#include <tvxCore/AtUnload.h>
+
 #include <tbb/spin_mutex.h>
 
 #include <atomic>
-#include <cstdlib>
 #include <new>
 
 namespace tarvox::core {
@@ -45,7 +46,7 @@ private:
         T* instance = new (storage()) T;
         // Runs when the library that holds this code is unloaded. Should there be no room for one more
         // handler, the instance is simply never destroyed.
-        static_cast<void>(std::atexit(&Singleton::destroyInstance));
+        static_cast<void>(callAtUnload(&Singleton::destroyInstance));
         s_instance.exchange(instance);
         return *instance;
     }

@@ -1,0 +1,278 @@
+// How messages become lines on the logger's outputs.
+#include "LoggerTest.h"
+#include "SystemCalls.h"
+
+#include <maya/MString.h>
+
+#include <gmock/gmock.h>
+
+#include <cerrno>
+#include <string>
+
+namespace tarvox::crowd {
+namespace {
+
+using test::Outcome;
+using test::SystemCalls;
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+class LoggerOutput : public SharedLoggerTest
+{
+protected:
+    void logToFile()
+    {
+        logger.setLogDirectory(folder.path());
+        logger.setUseFile(true);
+    }
+
+    std::string file() const { return folder.read("tvxCrowd.log"); }
+};
+
+TEST_F(LoggerOutput, SendsEverySeverityToItsPlaceInTheScriptEditorWithoutALineEnd)
+{
+    for (int severity = 0; severity <= 3; ++severity)
+        logger.log(severity, "text");
+    EXPECT_THAT(host.takeMessages(),
+                ElementsAre("error|[TarvoxCrowd::CRITICAL]\ttext", "error|[TarvoxCrowd::ERROR]\ttext",
+                            "warning|[TarvoxCrowd::WARNING]\ttext", "info|[TarvoxCrowd::INFO]\ttext"));
+}
+
+TEST_F(LoggerOutput, GivesDebugLinesTheTimeSinceTheStart)
+{
+    SystemCalls system;
+    system.clock = 1000000;
+    logger.start();
+    system.clock += 65;
+    logger.log(core::kDebug, "text");
+    logger.log(core::kInfo, "text");
+    EXPECT_THAT(host.takeMessages(),
+                ElementsAre("info|[TarvoxCrowd::DEBUG]\t00:01:05  text", "info|[TarvoxCrowd::INFO]\ttext"));
+}
+
+TEST_F(LoggerOutput, CountsTheTimeAnewFromEachStart)
+{
+    SystemCalls system;
+    system.clock = 1000000;
+    logger.start();
+    system.clock += 3600;
+    logger.start();
+    logger.log(core::kDebug, "text");
+    EXPECT_THAT(host.takeMessages(), ElementsAre("info|[TarvoxCrowd::DEBUG]\t00:00:00  text"));
+}
+
+TEST_F(LoggerOutput, IndentsBehindTheTimeStamp)
+{
+    SystemCalls system;
+    system.clock = 1000000;
+    logger.start();
+    logger.indent(core::kCritical, 1);
+    logger.log(core::kDebug, "text");
+    EXPECT_THAT(host.takeMessages(), ElementsAre("info|[TarvoxCrowd::DEBUG]\t00:00:00    text"));
+}
+
+TEST_F(LoggerOutput, GivesConsoleAndFileTheLineWithItsEnd)
+{
+    logToConsole();
+    logToFile();
+    logger.log(core::kWarning, "text");
+    EXPECT_EQ(takeConsole(), "[TarvoxCrowd::WARNING]\ttext\n");
+    EXPECT_EQ(file(), "[TarvoxCrowd::WARNING]\ttext\n");
+    EXPECT_THAT(host.takeMessages(), IsEmpty());
+}
+
+TEST_F(LoggerOutput, SendsOtherSeveritiesToConsoleAndFileOnlyAndWithoutAPrefix)
+{
+    logger.setOutputStream(&console);
+    logToFile();
+    logger.log(5, "five");
+    logger.log(-1, "minus one");
+    EXPECT_EQ(takeConsole(), "five\nminus one\n");
+    EXPECT_EQ(file(), "five\nminus one\n");
+    EXPECT_THAT(host.takeMessages(), IsEmpty());
+}
+
+TEST_F(LoggerOutput, FlushesTheConsoleWithEachMessage)
+{
+    class FlushCounter : public std::stringbuf
+    {
+    public:
+        int flushes = 0;
+
+    protected:
+        int sync() override
+        {
+            ++flushes;
+            return 0;
+        }
+    } buffer;
+    std::ostream stream(&buffer);
+    logger.setUseScriptEditor(false);
+    logger.setOutputStream(&stream);
+    logger.log(core::kInfo, "a");
+    logger.log(core::kInfo, "b");
+    EXPECT_EQ(buffer.flushes, 2);
+    logger.setOutputStream(nullptr);
+}
+
+TEST_F(LoggerOutput, WritesEachMessageToTheFileWithOneSystemCall)
+{
+    logger.setUseScriptEditor(false);
+    logToFile();
+    const std::string longText(100000, 'x');
+    SystemCalls system;
+    logger.log(core::kInfo, "short");
+    logger.log(core::kDebug + 1, longText.c_str());
+    logger.write(core::kInfo, true, "%d%s", 1, longText.c_str());
+    EXPECT_THAT(system.written, ElementsAre("[TarvoxCrowd::INFO]\tshort\n", longText + "\n",
+                                            "[TarvoxCrowd::INFO]\t1" + longText + "\n"));
+}
+
+TEST_F(LoggerOutput, WritesEachMessageToFileAndStandardOutputWithOneSystemCallEach)
+{
+    host.scene.optionVars().set("tvxPrefLogToOW", 1);
+    host.scene.optionVars().set("tvxPrefLogToSE", 0);
+    const Owned own = makeLogger();
+    own->setLogDirectory(folder.path());
+    own->setUseFile(true);
+    testing::internal::CaptureStdout();
+    {
+        SystemCalls system;
+        own->log(core::kInfo, "text");
+        EXPECT_THAT(system.written,
+                    ElementsAre("[TarvoxCrowd::INFO]\ttext\n", "[TarvoxCrowd::INFO]\ttext\n"));
+    }
+    EXPECT_EQ(testing::internal::GetCapturedStdout(), "[TarvoxCrowd::INFO]\ttext\n");
+    EXPECT_EQ(file(), "[TarvoxCrowd::INFO]\ttext\n");
+}
+
+TEST_F(LoggerOutput, GoesOnAfterAFailedWrite)
+{
+    logToConsole();
+    logToFile();
+    {
+        SystemCalls system;
+        system.writes = {Outcome{ENOSPC}};
+        logger.log(core::kInfo, "lost");
+    }
+    EXPECT_EQ(file(), "");
+    EXPECT_EQ(takeConsole(), "[TarvoxCrowd::INFO]\tlost\n");
+    logger.setUseFile(true);
+    logger.log(core::kInfo, "back");
+    EXPECT_EQ(file(), "[TarvoxCrowd::INFO]\tback\n");
+}
+
+TEST_F(LoggerOutput, StopsAllTheSameWhenTheFileCannotBeClosed)
+{
+    logToFile();
+    SystemCalls system;
+    system.closes = {Outcome{EIO}};
+    logger.stop();
+    EXPECT_THAT(system.closes, IsEmpty());
+    logger.log(core::kInfo, "after");
+    EXPECT_EQ(file(), "");
+}
+
+TEST_F(LoggerOutput, LogsAnEmptyTextButNotAnEmptyString)
+{
+    logToConsole();
+    logger.log(core::kInfo, "");
+    EXPECT_EQ(takeConsole(), "[TarvoxCrowd::INFO]\t\n");
+    logger.log(core::kInfo, static_cast<const char*>(nullptr));
+    EXPECT_EQ(takeConsole(), "[TarvoxCrowd::INFO]\t\n");
+    logger.log(core::kInfo, MString());
+    EXPECT_EQ(takeConsole(), "");
+    logger.log(core::kInfo, MString("text"));
+    EXPECT_EQ(takeConsole(), "[TarvoxCrowd::INFO]\ttext\n");
+}
+
+TEST_F(LoggerOutput, DoesNotCareForTheFlag)
+{
+    logToConsole();
+    logger.log(core::kInfo, "a", false);
+    logger.log(core::kInfo, MString("b"), false);
+    logger.write(core::kInfo, false, "c");
+    EXPECT_EQ(takeConsole(), "[TarvoxCrowd::INFO]\ta\n[TarvoxCrowd::INFO]\tb\n[TarvoxCrowd::INFO]\tc\n");
+}
+
+TEST_F(LoggerOutput, KeepsTextsOfSeveralLines)
+{
+    logToConsole();
+    logger.log(core::kInfo, "one\ntwo");
+    EXPECT_EQ(takeConsole(), "[TarvoxCrowd::INFO]\tone\ntwo\n");
+}
+
+TEST_F(LoggerOutput, ANestedMessageLeavesTheOuterOneAlone)
+{
+    logToFile();
+    host.scene.scriptEditor().setListener([this](const tvxhost::engine::Message& message) {
+        if (message.text.find("outer") != std::string::npos)
+            logger.log(core::kInfo, "inner, of another length than the other one");
+    });
+    logger.log(core::kInfo, "outer");
+    host.scene.scriptEditor().setListener(nullptr);
+    EXPECT_EQ(file(), "[TarvoxCrowd::INFO]\tinner, of another length than the other one\n"
+                      "[TarvoxCrowd::INFO]\touter\n");
+}
+
+// write
+
+TEST_F(LoggerOutput, WritesAPercentageAtInfo)
+{
+    logToConsole();
+    logger.write(core::kInfo, true, "%d%%", 50);
+    EXPECT_EQ(takeConsole(), "[TarvoxCrowd::INFO]\t50%\n");
+}
+
+TEST_F(LoggerOutput, WritesNothingForANullOrEmptyFormat)
+{
+    logToConsole();
+    const char* const none = nullptr;
+    logger.write(core::kInfo, true, none);
+    const std::string empty;
+    logger.write(core::kInfo, true, empty.c_str());
+    EXPECT_EQ(takeConsole(), "");
+}
+
+TEST_F(LoggerOutput, WritesALineForAFormatWhoseTextIsEmpty)
+{
+    logToConsole();
+    logger.write(core::kInfo, true, "%s", "");
+    EXPECT_EQ(takeConsole(), "[TarvoxCrowd::INFO]\t\n");
+}
+
+TEST_F(LoggerOutput, ReportsAnUnknownConversionBeforeItsMessage)
+{
+    logToConsole();
+    logger.write(core::kInfo, true, "a%qb");
+    EXPECT_EQ(takeConsole(), "[TarvoxCrowd::ERROR]\tMayaLogger::write(...) using unknown format %q\n"
+                             "[TarvoxCrowd::INFO]\tab\n");
+}
+
+TEST_F(LoggerOutput, ReportsAnUnknownLongConversionBeforeItsMessage)
+{
+    logToConsole();
+    logger.write(core::kWarning, true, "a long text before it %lxand %d behind", 7);
+    EXPECT_EQ(takeConsole(), "[TarvoxCrowd::ERROR]\tMayaLogger::write(...) using unknown format %lx\n"
+                             "[TarvoxCrowd::WARNING]\ta long text before it and 7 behind\n");
+}
+
+TEST_F(LoggerOutput, ReportsEachUnknownConversion)
+{
+    logToConsole();
+    logger.write(core::kInfo, true, "%5d and %-3s");
+    EXPECT_EQ(takeConsole(), "[TarvoxCrowd::ERROR]\tMayaLogger::write(...) using unknown format %5\n"
+                             "[TarvoxCrowd::ERROR]\tMayaLogger::write(...) using unknown format %-\n"
+                             "[TarvoxCrowd::INFO]\td and 3s\n");
+}
+
+TEST_F(LoggerOutput, WritesEveryConversion)
+{
+    logToConsole();
+    logger.write(core::kInfo, true, "%c %d %i %u %f %s %p %ld %li %lf", 'x', -1, 2, 3u, 0.25, "text",
+                 reinterpret_cast<void*>(0x2A), -4L, 5L, 0.1);
+    EXPECT_EQ(takeConsole(), "[TarvoxCrowd::INFO]\tx -1 2 3 0.25 text 0x2a -4 5 0.1\n");
+}
+
+} // namespace
+} // namespace tarvox::crowd

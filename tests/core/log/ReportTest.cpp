@@ -1,0 +1,199 @@
+// The report convention: exact texts, nothing built in vain, nothing thrown.
+#include "core/log/tvxReport.h"
+
+#include <tvxCore/Exception.h>
+
+#include <maya/MString.h>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <ostream>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+namespace tarvox::crowd {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+constexpr char kFile[] = "tests/core/log/ReportTest.cpp";
+
+// "severity|file|line|function|message" of each event; throws what the test asks for first.
+class Recorder : public core::ILogEventListener
+{
+public:
+    void onLogEvent(const core::LogEvent& event) override
+    {
+        if (throwing > 0) {
+            --throwing;
+            throw core::Exception("listener failed");
+        }
+        events.push_back(std::to_string(event.severity) + "|" + event.file + "|" +
+                         std::to_string(event.line) + "|" + event.function + "|" + event.message);
+    }
+
+    int throwing = 0;
+    std::vector<std::string> events;
+};
+
+std::string event(int severity, int line, const std::string& message)
+{
+    return std::to_string(severity) + "|" + kFile + "|" + std::to_string(line) + "|f|" + message;
+}
+
+std::string atLine(int line, const std::string& text)
+{
+    return "At line " + std::to_string(line) + " in file " + kFile + ": " + text;
+}
+
+class Report : public testing::Test
+{
+protected:
+    Report()
+    {
+        coreLog().setSeverityFilter(core::kDebug);
+        coreLog().addLogEventListener(&recorder);
+    }
+    ~Report() override
+    {
+        coreLog().removeLogEventListener(&recorder);
+        coreLog().setSeverityFilter(core::kWarning);
+    }
+
+    Recorder recorder;
+};
+
+TEST_F(Report, TellsLineFileAndText)
+{
+    const int line = __LINE__ + 1;
+    TVX_REPORT(core::kError, "f", "Unable to create " << 3 << MString(" files"));
+    EXPECT_THAT(recorder.events,
+                ElementsAre(event(core::kError, line, atLine(line, "Unable to create 3 files"))));
+}
+
+TEST_F(Report, TellsTheLineWhereItBegins)
+{
+    const int line = __LINE__ + 1;
+    TVX_REPORT(core::kError, "f",
+               "text that goes on "
+                   << "and on");
+    EXPECT_THAT(recorder.events,
+                ElementsAre(event(core::kError, line, atLine(line, "text that goes on and on"))));
+}
+
+TEST_F(Report, IsBuiltOnlyWhenTheFilterAdmitsIt)
+{
+    for (int filter = 0; filter <= 4; ++filter)
+        for (int severity = 0; severity <= 4; ++severity) {
+            int built = 0;
+            recorder.events.clear();
+            coreLog().setSeverityFilter(filter);
+            TVX_REPORT(severity, "f", "text " << ++built);
+            EXPECT_EQ(built, severity <= filter ? 1 : 0) << filter << " " << severity;
+            EXPECT_EQ(recorder.events.size(), severity <= filter ? 1u : 0u) << filter << " " << severity;
+        }
+}
+
+TEST_F(Report, EvaluatesEachArgumentOnce)
+{
+    int severities = 0;
+    int functions = 0;
+    const auto severity = [&] { return ++severities, core::kError; };
+    const auto function = [&] { return ++functions, "f"; };
+    TVX_REPORT(severity(), function(), "text");
+    EXPECT_EQ(severities, 1);
+    EXPECT_EQ(functions, 1);
+}
+
+const char* fails()
+{
+    throw core::Exception("no text to be had");
+}
+
+TEST_F(Report, LogsACoreExceptionOfItsTextInItsPlace)
+{
+    const int line = __LINE__ + 1;
+    EXPECT_NO_THROW(TVX_REPORT(core::kError, "f", "text " << fails()));
+    EXPECT_THAT(recorder.events, ElementsAre(event(core::kError, line, "no text to be had")));
+}
+
+TEST_F(Report, LogsACoreExceptionOfTheLogInItsPlace)
+{
+    recorder.throwing = 1;
+    const int line = __LINE__ + 1;
+    EXPECT_NO_THROW(TVX_REPORT(core::kWarning, "f", "text"));
+    EXPECT_THAT(recorder.events, ElementsAre(event(core::kWarning, line, "listener failed")));
+}
+
+TEST_F(Report, NeverThrowsEvenWhenTheLogKeepsFailing)
+{
+    recorder.throwing = 2;
+    EXPECT_NO_THROW(TVX_REPORT(core::kError, "f", "text"));
+    EXPECT_THAT(recorder.events, IsEmpty());
+}
+
+const char* failsOtherwise()
+{
+    throw std::runtime_error("not of the core");
+}
+
+TEST_F(Report, LetsOtherExceptionsThrough)
+{
+    EXPECT_THROW(TVX_REPORT(core::kError, "f", failsOtherwise()), std::runtime_error);
+    EXPECT_THAT(recorder.events, IsEmpty());
+}
+
+TEST_F(Report, StandsWhereOneStatementIsExpected)
+{
+    if (recorder.throwing > 0)
+        TVX_REPORT(core::kError, "f", "then");
+    else
+        TVX_REPORT(core::kError, "f", "else");
+    EXPECT_EQ(recorder.events.size(), 1u);
+}
+
+TEST_F(Report, TracesTheTextOfAnExceptionAsItIs)
+{
+    reportException(core::kError, kFile, 7, "f", "text");
+    EXPECT_THAT(recorder.events, ElementsAre(event(core::kError, 7, "text")));
+    coreLog().setSeverityFilter(core::kCritical);
+    reportException(core::kError, kFile, 7, "f", "text");
+    EXPECT_EQ(recorder.events.size(), 1u);
+}
+
+TEST(StatusCheck, SaysNothingOfSuccess)
+{
+    testing::internal::CaptureStderr();
+    TVX_CHECK_STATUS(MStatus::kSuccess);
+    EXPECT_EQ(testing::internal::GetCapturedStderr(), "");
+}
+
+TEST(StatusCheck, NotesAFailureOnStandardErrorAndGoesOn)
+{
+    const MStatus status(MStatus::kInvalidParameter);
+    testing::internal::CaptureStderr();
+    const int line = __LINE__ + 1;
+    TVX_CHECK_STATUS(status);
+    EXPECT_EQ(testing::internal::GetCapturedStderr(), std::string("\nAPI error detected in ") + kFile +
+                                                          " at line " + std::to_string(line) + "\n" +
+                                                          status.errorString().asChar() + "\n");
+}
+
+TEST(StatusCheck, EvaluatesItsArgumentOnceAndStaysOutOfTheLog)
+{
+    Recorder recorder;
+    coreLog().addLogEventListener(&recorder);
+    int evaluations = 0;
+    testing::internal::CaptureStderr();
+    TVX_CHECK_STATUS((++evaluations, MStatus(MStatus::kFailure)));
+    testing::internal::GetCapturedStderr();
+    coreLog().removeLogEventListener(&recorder);
+    EXPECT_EQ(evaluations, 1);
+    EXPECT_THAT(recorder.events, IsEmpty());
+}
+
+} // namespace
+} // namespace tarvox::crowd
