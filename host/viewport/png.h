@@ -1,18 +1,18 @@
-// PNG files of pictures.
+// Pictures as PNG files.
 #pragma once
 
 #include "engine/outcome.h"
 #include "picture.h"
 
-#include <filesystem>
+#include <string>
+#include <string_view>
 
 namespace tvxhost::viewport {
 
-/// Writes the picture whole or not at all: a temporary file beside the target, then a rename. Fails for an
-/// empty picture and for a place that cannot be written, with a sentence that names the file.
-engine::Outcome writePng(const Picture& picture, const std::filesystem::path& file);
+/// The bytes of a PNG file. Fails for a picture without pixels.
+engine::Expected<std::string> encodePng(const Picture& picture);
 
-/// Reads any PNG file as eight-bit RGB; transparency is dropped.
-engine::Expected<Picture> readPng(const std::filesystem::path& file);
+/// The picture of any PNG file as eight-bit RGB; transparency is dropped.
+engine::Expected<Picture> decodePng(std::string_view bytes);
 
 } // namespace tvxhost::viewport

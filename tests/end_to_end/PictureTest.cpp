@@ -40,7 +40,7 @@ protected:
         arguments.insert(arguments.end(), extra.begin(), extra.end());
         const ProgramResult result = runHost(arguments);
         EXPECT_EQ(result.exitCode, 0) << result.errors;
-        auto picture = tvxhost::viewport::readPng(file);
+        auto picture = tvxhost::viewport::decodePng(contentsOf(file));
         EXPECT_TRUE(picture) << picture.outcome.text;
         return std::move(picture.value);
     }

@@ -1,0 +1,32 @@
+// ScriptBridge: the language as the engine and the API call it, and a plug-in's commands as scripts call
+// them.
+#pragma once
+
+#include "engine/scene.h"
+#include "mel/interpreter.h"
+
+namespace tvxhost::app {
+
+/// Runs the API's scripts with an interpreter. Both outlive it.
+class ScriptBridge final : public engine::ScriptRunner
+{
+public:
+    ScriptBridge(mel::Interpreter& interpreter, engine::ScriptEditor& editor)
+        : m_interpreter(interpreter), m_editor(editor)
+    {
+    }
+
+    bool run(const std::string& script, bool display, bool undoable, Result& result) override;
+    bool sourceFile(const std::string& path) override;
+    void runOnIdle(const std::string& script, bool display) override;
+
+private:
+    mel::Interpreter& m_interpreter;
+    engine::ScriptEditor& m_editor;
+};
+
+/// A value of the language in the API's terms, and back.
+engine::ScriptRunner::Result toResult(const mel::Value& value);
+mel::Value toValue(const engine::ScriptRunner::Result& result);
+
+} // namespace tvxhost::app
