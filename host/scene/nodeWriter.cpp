@@ -1,0 +1,351 @@
+// NodeWriter: see nodeWriter.h.
+#include "nodeWriter.h"
+
+#include "attributeDeclaration.h"
+#include "attributeTypes.h"
+#include "connectionEnd.h"
+#include "lineBreaker.h"
+#include "plugTarget.h"
+#include "polyFaces.h"
+#include "typedData.h"
+#include "uiUnits.h"
+#include "valueText.h"
+
+#include "engine/data.h"
+
+#include <algorithm>
+
+namespace tvxhost::scene {
+
+using engine::Attribute;
+using engine::AttributeKind;
+using engine::Plug;
+
+namespace {
+
+/// Values that one statement holds at most.
+constexpr std::size_t kValuesPerStatement = 500;
+
+/// A node whose type nobody knew when it was read: its lines are all there is of it.
+bool isPlaceholder(const engine::Node& node)
+{
+    return !node.unknownType.empty() && node.type().isA("unknown" + std::string(node.asDag() ? "Dag" : ""));
+}
+
+/// `".path"` of a kept statement, without quotes and dot; empty when it has none.
+std::string pathIn(const std::string& statement)
+{
+    const std::size_t begin = statement.find("\".");
+    const std::size_t end = begin == std::string::npos ? begin : statement.find('"', begin + 1);
+    return end == std::string::npos ? std::string() : statement.substr(begin + 2, end - begin - 2);
+}
+
+std::string stateFlags(const Plug& plug)
+{
+    const engine::PlugState state = engine::stateOf(plug);
+    const engine::AttributeFlags& own = plug.attribute()->flags;
+    std::string flags;
+    const auto add = [&](const char* name, bool value) {
+        flags += std::string(" -") + name + (value ? " on" : " off");
+    };
+    if (state.locked)
+        add("l", true);
+    if (state.keyable && *state.keyable != own.keyable)
+        add("k", *state.keyable);
+    if (state.channelBox && *state.channelBox != own.channelBox)
+        add("cb", *state.channelBox);
+    return flags;
+}
+
+/// Whether the value of a plug belongs into a file at all.
+bool isStored(const Plug& plug)
+{
+    const Attribute& attribute = *plug.attribute();
+    if (!attribute.flags.storable || !attribute.flags.writable)
+        return false;
+    if (engine::NodeBehaviour* behaviour = plug.node()->behaviour())
+        if (const std::optional<bool> opinion = behaviour->shouldSave(plug))
+            return *opinion;
+    return true;
+}
+
+bool isNumeric(const Attribute& attribute)
+{
+    return attribute.kind == AttributeKind::numeric || attribute.kind == AttributeKind::unit ||
+           attribute.kind == AttributeKind::enumeration;
+}
+
+/// A group of numbers that a `-type "double3"` names.
+bool isGroup(const Attribute& attribute)
+{
+    const std::string type = attribute.children.empty() ? std::string() : attributeTypeName(attribute);
+    return isNumericTypeName(type);
+}
+
+std::vector<double> numbersOf(const Plug& plug)
+{
+    const auto numbers = engine::readNumbers(plug);
+    return numbers ? numbers.value : std::vector<double>();
+}
+
+std::string typeFlag(const Attribute& attribute)
+{
+    return isGroup(attribute) ? " -type \"" + attributeTypeName(attribute) + "\"" : std::string();
+}
+
+std::string pathText(const std::string& path)
+{
+    return " \"." + path + "\"";
+}
+
+std::string rangeText(const Plug& array, int first, int last)
+{
+    std::string range = '[' + std::to_string(first);
+    if (last != first)
+        range += ':' + std::to_string(last);
+    return pathText(filePath(array) + range + ']');
+}
+
+std::string sizeFlag(std::size_t count)
+{
+    return " -s " + std::to_string(count);
+}
+
+/// Calls `use(first, last)` with the positions of each run of consecutive indices that satisfy `fits`.
+template <class Fits, class Use>
+void forEachRun(const std::vector<int>& indices, std::size_t longest, const Fits& fits, const Use& use)
+{
+    for (std::size_t begin = 0; begin < indices.size();) {
+        if (!fits(indices[begin])) {
+            ++begin;
+            continue;
+        }
+        std::size_t end = begin + 1;
+        while (end < indices.size() && end - begin < longest && indices[end] == indices[end - 1] + 1 &&
+               fits(indices[end]))
+            ++end;
+        use(begin, end);
+        begin = end;
+    }
+}
+
+/// The number of edges that the words of a face list: `f 4 …` has four.
+std::size_t edgesOf(const std::string& face)
+{
+    const std::size_t digits = face.find_first_of("0123456789");
+    return digits == std::string::npos ? 0 : std::strtoul(face.c_str() + digits, nullptr, 10);
+}
+
+const engine::KeptData* faceAt(const Plug& plug)
+{
+    const auto data = engine::readData(plug);
+    if (!data || data.value->type() != engine::DataType::plugin)
+        return nullptr;
+    const auto& kept = static_cast<const engine::KeptData&>(*data.value);
+    return kept.typeName == kPolyFacesType ? &kept : nullptr;
+}
+
+} // namespace
+
+void NodeWriter::writeNode(engine::Node& node)
+{
+    const std::string& type = node.unknownType.empty() ? node.type().name : node.unknownType;
+    m_out += "createNode " + type + (node.isShared ? " -s" : "") + " -n " + mel::quoted(node.name());
+    const engine::DagNode* dag = node.asDag();
+    if (dag && !dag->parents().empty() && !dag->parents().front()->isWorld())
+        m_out += " -p " + mel::quoted(m_scene.shortestName(*dag->parents().front()));
+    m_out += ";\n";
+    line("rename -uid " + mel::quoted(node.uuid()) + ";");
+    writeLines(node);
+}
+
+bool NodeWriter::writeLines(engine::Node& node)
+{
+    const std::size_t before = m_out.size();
+    m_keptPaths.clear();
+    for (const std::string& kept : node.keptLines)
+        if (std::string path = pathIn(kept); !path.empty())
+            m_keptPaths.insert(std::move(path));
+    if (!isPlaceholder(node)) {
+        for (const auto& attribute : node.dynamicAttributes())
+            declare(*attribute);
+        for (Attribute* attribute : node.attributes())
+            writePlug(Plug(node, *attribute));
+    }
+    for (const std::string& kept : node.keptLines)
+        line(kept);
+    if (node.isLockedNode && !isPlaceholder(node))
+        m_out += "lockNode -l 1 ;\n";
+    return m_out.size() != before;
+}
+
+void NodeWriter::declare(const Attribute& attribute)
+{
+    line(addAttrLine(attribute, m_scene.units()));
+    for (const auto& child : attribute.children)
+        declare(*child);
+}
+
+void NodeWriter::writePlug(const Plug& plug)
+{
+    if (isSkipped(plug))
+        return;
+    if (plug.isArray())
+        writeArray(plug);
+    else if (plug.isCompound())
+        writeCompound(plug);
+    else
+        writeLeaf(plug);
+}
+
+void NodeWriter::writeLeaf(const Plug& plug)
+{
+    const std::string value = valueWords(plug);
+    const std::string state = stateFlags(plug);
+    if (!value.empty() || !state.empty())
+        line("setAttr" + state + pathText(filePath(plug)) + value + ";");
+}
+
+void NodeWriter::writeState(const Plug& plug)
+{
+    if (const std::string state = stateFlags(plug); !state.empty())
+        line("setAttr" + state + pathText(filePath(plug)) + ";");
+}
+
+void NodeWriter::writeCompound(const Plug& plug)
+{
+    const bool isWhole = isGroup(*plug.attribute()) && !engine::isFedAnywhere(plug);
+    if (!isWhole) {
+        writeState(plug);
+        for (std::size_t i = 0; i < plug.childCount(); ++i)
+            writePlug(plug.child(i));
+        return;
+    }
+    writeLeaf(plug);
+    for (std::size_t i = 0; i < plug.childCount(); ++i)
+        writeState(plug.child(i));
+}
+
+std::string NodeWriter::valueWords(const Plug& plug)
+{
+    const Attribute& attribute = *plug.attribute();
+    if (!isStored(plug) || engine::isFedAnywhere(plug) || engine::isDefault(plug))
+        return {};
+    if (isGroup(attribute)) {
+        const std::vector<Attribute*> leaves = numberLeaves(*plug.attribute());
+        const std::vector<double> numbers = numbersOf(plug);
+        std::string words = typeFlag(attribute);
+        for (std::size_t i = 0; i < std::min(leaves.size(), numbers.size()); ++i)
+            words += ' ' + leafText(*leaves[i], numbers[i], m_scene.units(), true);
+        return words + ' ';
+    }
+    if (isNumeric(attribute)) {
+        const auto number = engine::readNumber(plug);
+        return number ? ' ' + leafText(attribute, number.value.asReal(), m_scene.units(), false)
+                      : std::string();
+    }
+    const auto data = engine::readData(plug);
+    if (!data || !data.value)
+        return {};
+    if (data.value->type() == engine::DataType::string)
+        return " -type \"string\" " +
+               stringText(static_cast<const engine::StringData&>(*data.value).value.str());
+    return dataWords(*data.value);
+}
+
+void NodeWriter::writeArray(const Plug& array)
+{
+    writeState(array);
+    const Attribute& attribute = *array.attribute();
+    const std::vector<int> elements = engine::existingElements(array);
+    if (elements.empty() || !attribute.flags.storable || !attribute.flags.writable ||
+        isPerInstance(attribute)) {
+        if (!elements.empty() && isPerInstance(attribute) && attribute.isCompound())
+            for (const int index : elements)
+                writePlug(array.element(index));
+        return;
+    }
+    const std::size_t leaves = numberLeaves(*array.attribute()).size();
+    std::vector<std::string> runs;
+    if (leaves > 0)
+        runs = numberRuns(array, elements, leaves);
+    else if (attribute.kind == AttributeKind::typed && attribute.dataType == engine::DataType::polyFaces)
+        runs = faceRuns(array, elements);
+    const bool isOne = runs.size() == 1;
+    if (elements.size() > 1 && !isOne)
+        line("setAttr" + sizeFlag(elements.size()) + pathText(filePath(array)) + ";");
+    for (const std::string& run : runs)
+        line("setAttr" + (isOne && elements.size() > 1 ? sizeFlag(elements.size()) : std::string()) + run);
+    for (const int index : elements) {
+        const Plug element = array.element(index);
+        if (leaves == 0 && runs.empty())
+            writePlug(element);
+        else if (leaves > 0 && (engine::isFedAnywhere(element) || !stateFlags(element).empty()))
+            writePlug(element);
+    }
+}
+
+std::vector<std::string> NodeWriter::numberRuns(const Plug& array, const std::vector<int>& elements,
+                                                std::size_t leaves)
+{
+    const auto fits = [&](int index) {
+        const Plug element = array.element(index);
+        return isStored(element) && engine::hasOwnValue(element) && !engine::isFedAnywhere(element) &&
+               stateFlags(element).empty() && !isSkipped(element);
+    };
+    const std::vector<Attribute*> leafAttributes = numberLeaves(*array.attribute());
+    const bool inGroup = leaves > 1;
+    std::vector<std::string> runs;
+    forEachRun(elements, std::max<std::size_t>(1, kValuesPerStatement / leaves), fits,
+               [&](std::size_t begin, std::size_t end) {
+                   if (end - begin == 1 && engine::isDefault(array.element(elements[begin])))
+                       return;
+                   std::string run =
+                       rangeText(array, elements[begin], elements[end - 1]) + typeFlag(*array.attribute());
+                   if (!isGroup(*array.attribute()) && (inGroup || end - begin > 1))
+                       run += ' ';
+                   LineBreaker words(run);
+                   for (std::size_t i = begin; i < end; ++i) {
+                       const std::vector<double> numbers = numbersOf(array.element(elements[i]));
+                       for (std::size_t leaf = 0; leaf < std::min(numbers.size(), leaves); ++leaf)
+                           words.word(leafText(*leafAttributes[leaf], numbers[leaf], m_scene.units(),
+                                               inGroup || end - begin > 1));
+                   }
+                   const bool isOneGroup = isGroup(*array.attribute()) && end - begin == 1;
+                   runs.push_back(run + (isOneGroup ? " ;" : ";"));
+               });
+    return runs;
+}
+
+std::vector<std::string> NodeWriter::faceRuns(const Plug& array, const std::vector<int>& elements)
+{
+    std::vector<std::string> runs;
+    const auto fits = [&](int index) { return faceAt(array.element(index)) != nullptr; };
+    forEachRun(elements, kValuesPerStatement, fits, [&](std::size_t begin, std::size_t end) {
+        std::size_t edges = 0;
+        std::string faces;
+        for (std::size_t i = begin; i < end; ++i) {
+            const engine::KeptData& face = *faceAt(array.element(elements[i]));
+            edges += edgesOf(face.text);
+            faces += "\n\t\t" + face.text;
+        }
+        runs.push_back(" -ch " + std::to_string(edges) +
+                       rangeText(array, elements[begin], elements[end - 1]) + " -type \"" +
+                       std::string(kPolyFacesType) + "\" " + faces + ";");
+    });
+    return runs;
+}
+
+bool NodeWriter::isSkipped(const Plug& plug) const
+{
+    return !m_keptPaths.empty() && m_keptPaths.count(filePath(plug)) != 0;
+}
+
+void NodeWriter::line(const std::string& text)
+{
+    m_out += '\t';
+    m_out += text;
+    m_out += '\n';
+}
+
+} // namespace tvxhost::scene

@@ -1,0 +1,49 @@
+// NodeWriter: the lines of one node of a scene file.
+#pragma once
+
+#include "engine/node.h"
+#include "engine/scene.h"
+
+#include <string>
+#include <unordered_set>
+#include <vector>
+
+namespace tvxhost::scene {
+
+/// Writes what a node holds beyond its type: its own attributes, values and states.
+class NodeWriter
+{
+public:
+    /// Appends to `out`, which outlives the writer.
+    NodeWriter(engine::Scene& scene, std::string& out) : m_scene(scene), m_out(out) {}
+
+    /// `createNode` and everything below it.
+    void writeNode(engine::Node& node);
+    /// The indented lines of a node that need no `createNode`: of default nodes. True when there were any.
+    bool writeLines(engine::Node& node);
+
+private:
+    void declare(const engine::Attribute& attribute);
+
+    void writePlug(const engine::Plug& plug);
+    void writeArray(const engine::Plug& array);
+    void writeCompound(const engine::Plug& plug);
+    void writeLeaf(const engine::Plug& plug);
+    void writeState(const engine::Plug& plug);
+    /// Runs of elements whose numbers stand side by side; the statements without `setAttr` and size.
+    std::vector<std::string> numberRuns(const engine::Plug& array, const std::vector<int>& elements,
+                                        std::size_t leaves);
+    std::vector<std::string> faceRuns(const engine::Plug& array, const std::vector<int>& elements);
+    /// The words of a value, from the blank behind the name up to the semicolon; empty when there is none to
+    /// write.
+    std::string valueWords(const engine::Plug& plug);
+
+    bool isSkipped(const engine::Plug& plug) const;
+    void line(const std::string& text);
+
+    engine::Scene& m_scene;
+    std::string& m_out;
+    std::unordered_set<std::string> m_keptPaths; ///< that the node's kept lines set
+};
+
+} // namespace tvxhost::scene

@@ -1,0 +1,119 @@
+// SceneReader: statements that declare and set attributes.
+#include "sceneReader.h"
+
+#include "setAttr.h"
+
+#include "mel/value.h"
+
+namespace tvxhost::scene {
+
+using engine::Expected;
+using engine::Node;
+using engine::Outcome;
+using engine::Reason;
+
+namespace {
+
+/// The values of a statement as they stand in it: from behind `-type "T"` to before the semicolon.
+std::string rawValues(std::string_view source, std::string_view typeName)
+{
+    const std::size_t flag = source.find(" -type");
+    const std::size_t type = flag == std::string_view::npos ? flag : source.find(typeName, flag + 6);
+    if (type == std::string_view::npos)
+        return {};
+    std::size_t begin = type + typeName.size();
+    if (begin < source.size() && source[begin] == '"')
+        ++begin;
+    const std::size_t end = source.rfind(';');
+    if (end == std::string_view::npos || end < begin)
+        return {};
+    std::string raw;
+    for (const char character : source.substr(begin, end - begin))
+        if (character != '\r')
+            raw += character;
+    return raw;
+}
+
+bool isMissing(const Outcome& outcome)
+{
+    return outcome.reason == Reason::notFound || outcome.reason == Reason::doesNotExist;
+}
+
+} // namespace
+
+/// Keeps a relative statement of a node (or default node) that is not understood; false when the section is
+/// that of a node the host knows.
+bool SceneReader::keepForSection(const SceneStatement& statement)
+{
+    if (m_section.isUnknown) {
+        keep(m_section.node->keptLines, statement);
+        return true;
+    }
+    if (m_section.isMissingDefault) {
+        m_scene.keptConnections.back() += "\n\t" + keptText(statement.source);
+        ++m_summary.keptStatements;
+        return true;
+    }
+    return false;
+}
+
+void SceneReader::addAttr(const SceneStatement& statement)
+{
+    const bool isKept = keepForSection(statement);
+    Node* node = m_section.node;
+    if (!node)
+        return;
+    try {
+        const mel::ParsedCommand flags = mel::parseArguments(m_addAttr, statement.arguments);
+        const auto declaration = declarationFrom(flags, m_scene.units());
+        const Outcome added =
+            declaration ? m_compounds.declare(*node, declaration.value) : declaration.outcome;
+        if (added || isKept)
+            return;
+        error(added.text, statement.line);
+        if (added.reason != Reason::nameTaken)
+            keep(node->keptLines, statement);
+    } catch (const mel::ValueError& wrong) {
+        if (!isKept)
+            error(wrong.what(), statement.line);
+    }
+}
+
+void SceneReader::setAttr(const SceneStatement& statement)
+{
+    Expected<SetAttrRequest> parsed = parseSetAttr(statement.arguments);
+    if (!parsed) {
+        if (!keepForSection(statement))
+            error(parsed.outcome.text, statement.line);
+        return;
+    }
+    SetAttrRequest& request = parsed.value;
+    const bool isRelative = !request.plug.empty() && request.plug.front() == '.';
+    const bool isKept = isRelative && keepForSection(statement);
+    if (isRelative && !m_section.node)
+        return;
+    const auto target =
+        isRelative ? findTarget(*m_section.node, request.plug.substr(1)) : findTarget(m_scene, request.plug);
+    if (!target) {
+        if (isKept)
+            return;
+        if (isRelative && isMissing(target.outcome))
+            keep(m_section.node->keptLines, statement);
+        else
+            error(target.outcome.text, statement.line);
+        return;
+    }
+    std::string raw;
+    if (!request.type.empty()) {
+        raw = rawValues(statement.source, request.type);
+        request.raw = raw;
+    }
+    const Outcome set = applySetAttr(target.value, request, {m_scene.units(), engine::Limits::ignore});
+    if (set || isKept)
+        return;
+    error("setAttr: " + set.text, statement.line);
+    if (isRelative && set.reason != Reason::lockedOrConnected)
+        keep(m_section.node->keptLines, statement);
+}
+
+} // namespace tvxhost::scene

@@ -1,0 +1,136 @@
+// SceneReader: the frame of a file: plug-ins, units, information, references.
+#include "sceneReader.h"
+
+#include "flagScanner.h"
+
+#include <algorithm>
+#include <filesystem>
+
+namespace tvxhost::scene {
+
+using engine::Outcome;
+using engine::Reason;
+
+namespace {
+
+void addAll(std::vector<std::string>& to, const std::vector<std::string>& from)
+{
+    for (const std::string& word : from)
+        if (std::find(to.begin(), to.end(), word) == to.end())
+            to.push_back(word);
+}
+
+/// Adds a requirement, or what is new of it to the one that names the same plug-in.
+void addRequirement(std::vector<engine::Scene::Requirement>& all, const engine::Scene::Requirement& added)
+{
+    const auto known = std::find_if(all.begin(), all.end(), [&](const engine::Scene::Requirement& candidate) {
+        return candidate.plugin == added.plugin;
+    });
+    if (known == all.end()) {
+        all.push_back(added);
+        return;
+    }
+    known->version = added.version;
+    addAll(known->nodeTypes, added.nodeTypes);
+    addAll(known->dataTypes, added.dataTypes);
+}
+
+} // namespace
+
+void SceneReader::requires_(const SceneStatement& statement)
+{
+    engine::Scene::Requirement requirement;
+    std::vector<std::string> words;
+    for (FlagScanner flags(statement.arguments); flags.next();) {
+        if (flags.is("nt", "nodeType"))
+            requirement.nodeTypes.emplace_back(flags.text());
+        else if (flags.is("dt", "dataType"))
+            requirement.dataTypes.emplace_back(flags.text());
+        else if (flags.isPositional())
+            words.emplace_back(flags.text());
+        else
+            requirement.words += (requirement.words.empty() ? "" : " ") + sourceText(flags.argument());
+    }
+    if (words.size() < 2) {
+        error("'requires' needs a name and a version", statement.line);
+        return;
+    }
+    requirement.plugin = words[0];
+    requirement.version = words[1];
+    if (requirement.plugin == "maya") {
+        m_summary.version = requirement.version;
+        return;
+    }
+    addRequirement(m_scene.requirements, requirement);
+    if (!m_triedPlugins.insert(requirement.plugin).second)
+        return;
+    m_summary.plugins.push_back(requirement.plugin);
+    const Outcome loaded =
+        m_options.loadPlugin ? m_options.loadPlugin(requirement.plugin) : Outcome(Reason::doesNotExist);
+    if (!loaded)
+        warning(loaded.text.empty()
+                    ? "Plug-in, \"" + requirement.plugin + "\", was not found on MAYA_PLUG_IN_PATH."
+                    : loaded.text,
+                statement.line);
+}
+
+void SceneReader::currentUnit(const SceneStatement& statement)
+{
+    engine::Units& units = m_scene.units();
+    const auto take = [&](auto& unit, const auto& named, const std::string& name) {
+        if (const auto found = named(name))
+            unit = *found;
+        else
+            error("Invalid unit '" + name + "'", statement.line);
+    };
+    for (FlagScanner flags(statement.arguments); flags.next();) {
+        if (flags.is("l", "linear"))
+            take(units.linear, engine::linearUnitNamed, std::string(flags.text()));
+        else if (flags.is("a", "angle"))
+            take(units.angle, engine::angularUnitNamed, std::string(flags.text()));
+        else if (flags.is("t", "time"))
+            take(units.time, engine::timeUnitNamed, std::string(flags.text()));
+    }
+}
+
+void SceneReader::fileInfo(const SceneStatement& statement)
+{
+    std::vector<std::string> words;
+    for (FlagScanner flags(statement.arguments); flags.next();)
+        if (flags.isPositional())
+            words.emplace_back(flags.text());
+    if (words.size() != 2) {
+        error("'fileInfo' needs a keyword and a value", statement.line);
+        return;
+    }
+    auto& all = m_scene.fileInfo;
+    const auto known =
+        std::find_if(all.begin(), all.end(), [&](const auto& entry) { return entry.first == words[0]; });
+    if (known == all.end())
+        all.emplace_back(words[0], words[1]);
+    else
+        known->second = words[1];
+}
+
+/// A reference: kept, and told once when its file is not there. Flags that take a value are named so that the
+/// value is not taken for the file.
+void SceneReader::file(const SceneStatement& statement)
+{
+    std::string path;
+    for (FlagScanner flags(statement.arguments); flags.next();) {
+        if (flags.isPositional())
+            path = flags.text();
+        else if (!flags.is("r", "reference"))
+            flags.text();
+    }
+    keep(m_scene.keptConnections, statement);
+    if (path.empty() || !m_toldFiles.insert(path).second)
+        return;
+    std::error_code ignored;
+    if (!std::filesystem::exists(path, ignored))
+        warning("Reference file not found: \"" + path + "\"", statement.line);
+    else
+        warning("Reference not read: \"" + path + "\": references are kept but not loaded", statement.line);
+}
+
+} // namespace tvxhost::scene

@@ -1,0 +1,65 @@
+// SceneSummary as text and JSON; see sceneSummary.h.
+#include "sceneSummary.h"
+
+#include <nlohmann/json.hpp>
+
+namespace tvxhost::scene {
+
+namespace {
+
+using Counts = std::map<std::string, std::size_t>;
+
+void addLine(std::string& text, const std::string& label, const std::string& value)
+{
+    text += label + ": " + value + "\n";
+}
+
+void addCounts(std::string& text, const std::string& label, const Counts& counts)
+{
+    std::size_t total = 0;
+    for (const auto& [name, count] : counts)
+        total += count;
+    addLine(text, label, std::to_string(total));
+    for (const auto& [name, count] : counts)
+        addLine(text, "  " + name, std::to_string(count));
+}
+
+} // namespace
+
+std::string toText(const SceneSummary& summary)
+{
+    std::string text;
+    addLine(text, "file", summary.file);
+    addLine(text, "version", summary.version);
+    addCounts(text, "statements", summary.commands);
+    addCounts(text, "nodes", summary.nodes);
+    addCounts(text, "unknown nodes", summary.unknownNodes);
+    std::string plugins;
+    for (const std::string& plugin : summary.plugins)
+        plugins += (plugins.empty() ? "" : " ") + plugin;
+    addLine(text, "plug-ins", plugins);
+    addLine(text, "connections", std::to_string(summary.connections));
+    addLine(text, "kept statements", std::to_string(summary.keptStatements));
+    addLine(text, "warnings", std::to_string(summary.warnings));
+    addLine(text, "errors", std::to_string(summary.errors));
+    return text;
+}
+
+std::string toJson(const SceneSummary& summary)
+{
+    nlohmann::ordered_json json;
+    json["file"] = summary.file;
+    json["version"] = summary.version;
+    json["statements"] = summary.statements;
+    json["commands"] = summary.commands;
+    json["nodes"] = summary.nodes;
+    json["unknownNodes"] = summary.unknownNodes;
+    json["plugins"] = summary.plugins;
+    json["connections"] = summary.connections;
+    json["keptStatements"] = summary.keptStatements;
+    json["warnings"] = summary.warnings;
+    json["errors"] = summary.errors;
+    return json.dump(-1, ' ', false, nlohmann::ordered_json::error_handler_t::replace) + "\n";
+}
+
+} // namespace tvxhost::scene

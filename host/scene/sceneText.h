@@ -1,0 +1,26 @@
+// The text of a scene file, and the check that it is one.
+#pragma once
+
+#include "engine/outcome.h"
+#include "engine/scriptEditor.h"
+
+#include <filesystem>
+#include <string>
+#include <string_view>
+
+namespace tvxhost::scene {
+
+/// Why a file is no scene, and where in it.
+struct SceneTextError
+{
+    engine::Outcome outcome; ///< success when it is one
+    int line = 0;            ///< 0: the file as a whole
+};
+
+/// Reads a whole file. doesNotExist for a missing file, failed with the system's reason for any other.
+engine::Expected<std::string> readFile(const std::filesystem::path& file);
+
+/// Refuses what is empty, binary or does not begin as Maya ASCII does.
+SceneTextError checkSceneText(std::string_view text, const std::string& name);
+
+} // namespace tvxhost::scene

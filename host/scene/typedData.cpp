@@ -1,0 +1,223 @@
+// Typed values in scene files; see typedData.h.
+#include "typedData.h"
+
+#include "lineBreaker.h"
+#include "numberText.h"
+
+#include <algorithm>
+#include <array>
+
+namespace tvxhost::scene {
+
+using engine::Data;
+using engine::DataType;
+using engine::Expected;
+using engine::Reason;
+using engine::Ref;
+
+namespace {
+
+constexpr std::array<std::string_view, 15> kNumericTypes = {
+    "float2", "float3", "double2", "double3", "double4", "long2",       "long3",         "short2",
+    "short3", "bool",   "float",   "double",  "long",    "reflectance", "reflectanceRGB"};
+
+// One element of each array type, read and written.
+void read(Words& words, std::int32_t& value)
+{
+    value = words.integer();
+}
+void read(Words& words, float& value)
+{
+    value = static_cast<float>(words.number());
+}
+void read(Words& words, double& value)
+{
+    value = words.number();
+}
+void read(Words& words, engine::Text& value)
+{
+    value = engine::Text(words.text());
+}
+void read(Words& words, engine::Vec3d& value)
+{
+    for (int i = 0; i < 3; ++i)
+        value[i] = words.number();
+}
+void read(Words& words, engine::Vec4d& value)
+{
+    for (double* part : {&value.x, &value.y, &value.z, &value.w})
+        *part = words.number();
+}
+void read(Words& words, engine::Matrix& value)
+{
+    for (double* number = value.getValue(); number != value.getValue() + 16; ++number)
+        *number = words.number();
+}
+
+void write(LineBreaker& out, std::int32_t value)
+{
+    out.word(std::to_string(value));
+}
+void write(LineBreaker& out, double value)
+{
+    out.word(doubleText(value));
+}
+void write(LineBreaker& out, float value)
+{
+    write(out, static_cast<double>(value));
+}
+void write(LineBreaker& out, const engine::Text& value)
+{
+    out.word(mel::quoted(value.str()));
+}
+void write(LineBreaker& out, const engine::Vec3d& value)
+{
+    for (int i = 0; i < 3; ++i)
+        write(out, value[i]);
+}
+void write(LineBreaker& out, const engine::Vec4d& value)
+{
+    for (const double part : {value.x, value.y, value.z, value.w})
+        write(out, part);
+}
+void write(LineBreaker& out, const engine::Matrix& value)
+{
+    for (const double* number = value.getValue(); number != value.getValue() + 16; ++number)
+        write(out, *number);
+}
+
+/// What there is to know of one type of data that the host understands.
+struct TypeRow
+{
+    std::string_view name;
+    DataType type;
+    Ref<Data> (*parse)(Words& words);
+    void (*write)(std::string& out, const Data& data);
+};
+
+template <class ArrayType, std::size_t kWordsEach>
+Ref<Data> parseArray(Words& words)
+{
+    const std::size_t count = words.atEnd() ? 0 : words.count(kWordsEach);
+    auto* array = new ArrayType;
+    Ref<Data> data(array);
+    array->values.resize(count);
+    for (auto& value : array->values)
+        read(words, value);
+    return data;
+}
+
+template <class ArrayType>
+void writeArray(std::string& out, const Data& data)
+{
+    const auto& values = static_cast<const ArrayType&>(data).values;
+    LineBreaker lines(out);
+    lines.word(std::to_string(values.size()));
+    for (const auto& value : values)
+        write(lines, value);
+    out += ' ';
+}
+
+/// Lists of names end in two blanks, and stay on one line.
+template <class ArrayType>
+void writeNames(std::string& out, const Data& data)
+{
+    const auto& names = static_cast<const ArrayType&>(data).values;
+    out += ' ' + std::to_string(names.size());
+    for (const engine::Text& name : names)
+        out += ' ' + mel::quoted(name.str());
+    if (data.type() == DataType::stringArray)
+        out += "  ";
+}
+
+Ref<Data> parseString(Words& words)
+{
+    return Ref<Data>(new engine::StringData(words.text()));
+}
+
+void writeString(std::string& out, const Data& data)
+{
+    out += ' ' + mel::quoted(static_cast<const engine::StringData&>(data).value.str());
+}
+
+Ref<Data> parseMatrix(Words& words)
+{
+    engine::Matrix matrix;
+    read(words, matrix);
+    return Ref<Data>(new engine::MatrixData(matrix));
+}
+
+void writeMatrix(std::string& out, const Data& data)
+{
+    LineBreaker lines(out);
+    write(lines, static_cast<const engine::MatrixData&>(data).value);
+}
+
+template <class ArrayType, std::size_t kWordsEach>
+constexpr TypeRow arrayRow(std::string_view name, DataType type)
+{
+    return {name, type, parseArray<ArrayType, kWordsEach>, writeArray<ArrayType>};
+}
+
+template <class ArrayType>
+constexpr TypeRow namesRow(std::string_view name, DataType type)
+{
+    return {name, type, parseArray<ArrayType, 1>, writeNames<ArrayType>};
+}
+
+constexpr TypeRow kTypes[] = {
+    {"string", DataType::string, parseString, writeString},
+    {"matrix", DataType::matrix, parseMatrix, writeMatrix},
+    namesRow<engine::StringArrayData>("stringArray", DataType::stringArray),
+    namesRow<engine::ComponentListData>("componentList", DataType::componentList),
+    arrayRow<engine::IntArrayData, 1>("Int32Array", DataType::intArray),
+    arrayRow<engine::FloatArrayData, 1>("floatArray", DataType::floatArray),
+    arrayRow<engine::DoubleArrayData, 1>("doubleArray", DataType::doubleArray),
+    arrayRow<engine::VectorArrayData, 3>("vectorArray", DataType::vectorArray),
+    arrayRow<engine::PointArrayData, 4>("pointArray", DataType::pointArray),
+    arrayRow<engine::MatrixArrayData, 16>("matrixArray", DataType::matrixArray),
+};
+
+std::string typeAsWritten(std::string_view name)
+{
+    return " -type \"" + std::string(name) + '"';
+}
+
+} // namespace
+
+bool isNumericTypeName(std::string_view typeName)
+{
+    return std::find(kNumericTypes.begin(), kNumericTypes.end(), typeName) != kNumericTypes.end();
+}
+
+Expected<Ref<Data>> parseData(std::string_view typeName, Words& words, std::string_view raw)
+{
+    const auto* row = std::find_if(std::begin(kTypes), std::end(kTypes),
+                                   [&](const TypeRow& candidate) { return candidate.name == typeName; });
+    if (row == std::end(kTypes)) {
+        std::string joined = words.rest();
+        return Ref<Data>(
+            new engine::KeptData(std::string(typeName), raw.empty() ? " " + joined : std::string(raw)));
+    }
+    Ref<Data> data = row->parse(words);
+    if (words.failed() || !words.atEnd())
+        return {Reason::typeMismatch, "Error reading the values of type '" + std::string(typeName) + "'"};
+    return data;
+}
+
+std::string dataWords(const Data& data)
+{
+    if (data.type() == DataType::plugin) {
+        const auto& kept = static_cast<const engine::KeptData&>(data);
+        return typeAsWritten(kept.typeName) + kept.text;
+    }
+    const auto* row = std::find_if(std::begin(kTypes), std::end(kTypes),
+                                   [&](const TypeRow& candidate) { return candidate.type == data.type(); });
+    if (row == std::end(kTypes))
+        return {};
+    std::string text = typeAsWritten(row->name);
+    row->write(text, data);
+    return text;
+}
+
+} // namespace tvxhost::scene

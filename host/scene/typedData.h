@@ -1,0 +1,27 @@
+// Typed values in scene files: the words after `-type "T"`, and back.
+#pragma once
+
+#include "words.h"
+
+#include "engine/data.h"
+#include "engine/outcome.h"
+
+#include <string>
+#include <string_view>
+
+namespace tvxhost::scene {
+
+/// True for the types whose values are plain numbers ("float3", "double2", "long3" …).
+bool isNumericTypeName(std::string_view typeName);
+
+/// Makes the data object that the words describe. Types that the host only keeps give KeptData with `raw`
+/// (the words as they stood in the source), or the words joined when `raw` is empty. typeMismatch when the
+/// words do not fit the type.
+engine::Expected<engine::Ref<engine::Data>> parseData(std::string_view typeName, Words& words,
+                                                      std::string_view raw = {});
+
+/// The ` -type "T" values` part of a `setAttr` for a data object, from the blank before -type up to but not
+/// including the semicolon.
+std::string dataWords(const engine::Data& data);
+
+} // namespace tvxhost::scene

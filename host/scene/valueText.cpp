@@ -1,0 +1,101 @@
+// Values of attributes as the words of a `setAttr`; see valueText.h.
+#include "valueText.h"
+
+#include "numberText.h"
+#include "uiUnits.h"
+
+#include "mel/arguments.h"
+
+#include <charconv>
+#include <cmath>
+#include <optional>
+
+namespace tvxhost::scene {
+
+using engine::NumberKind;
+
+namespace {
+
+constexpr std::size_t kLongString = 1024;
+
+double parse(const std::string& text)
+{
+    double value = 0.0;
+    std::from_chars(text.data(), text.data() + text.size(), value);
+    return value;
+}
+
+/// A text for a UI value near `guess` that converts to exactly `internal`.
+std::optional<std::string> exactText(double internal, double factor, double guess)
+{
+    constexpr int kNeighbours = 3;
+    double below = guess;
+    double above = guess;
+    for (int i = 0; i <= kNeighbours; ++i) {
+        for (const double candidate : {below, above}) {
+            std::string text = doubleText(candidate);
+            if (parse(text) * factor == internal)
+                return text;
+        }
+        below = std::nextafter(below, -HUGE_VAL);
+        above = std::nextafter(above, HUGE_VAL);
+    }
+    return std::nullopt;
+}
+
+bool isWhole(const engine::Attribute& leaf)
+{
+    return leaf.number != NumberKind::single && leaf.number != NumberKind::real;
+}
+
+/// Where to break a long string: behind the first blank or line end past the limit.
+std::size_t pieceEnd(std::string_view text, std::size_t begin)
+{
+    if (text.size() - begin <= kLongString)
+        return text.size();
+    const std::size_t found = text.find_first_of(" \n", begin + kLongString);
+    return found == std::string_view::npos ? text.size() : found + 1;
+}
+
+} // namespace
+
+std::string uiNumberText(double internal, double factor)
+{
+    if (factor == 1.0 || !std::isfinite(internal))
+        return doubleText(internal);
+    const double guess = internal / factor;
+    if (const auto text = exactText(internal, factor, guess))
+        return *text;
+    // No text gives this number: settle on the nearest one that a text does give.
+    return exactText(guess * factor, factor, guess).value_or(doubleText(guess));
+}
+
+std::string leafText(const engine::Attribute& leaf, double internal, const engine::Units& units, bool inGroup)
+{
+    if (leaf.number == NumberKind::boolean && !inGroup)
+        return internal != 0.0 ? "yes" : "no";
+    if (isWhole(leaf))
+        return std::to_string(static_cast<long long>(internal));
+    if (leaf.number == NumberKind::single && inGroup) {
+        std::string text;
+        appendFloat(text, static_cast<float>(internal));
+        return text;
+    }
+    return uiNumberText(internal, internalPerUi(leaf, units));
+}
+
+std::string stringText(std::string_view text)
+{
+    if (text.size() <= kLongString)
+        return mel::quoted(text);
+    std::string joined = "(";
+    for (std::size_t begin = 0; begin < text.size();) {
+        const std::size_t end = pieceEnd(text, begin);
+        joined += begin == 0 ? "\n\t\t" : "\n\t\t+ ";
+        joined += mel::quoted(text.substr(begin, end - begin));
+        begin = end;
+    }
+    return joined + ")";
+}
+
+} // namespace tvxhost::scene

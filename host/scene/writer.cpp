@@ -1,0 +1,325 @@
+// Writing Maya ASCII scenes; see writer.h.
+#include "writer.h"
+
+#include "atomicFile.h"
+#include "connectionEnd.h"
+#include "lineBreaker.h"
+#include "nodeWriter.h"
+
+#include "mel/arguments.h"
+
+#include <algorithm>
+#include <cstdlib>
+#include <set>
+#include <unordered_set>
+
+#include <sys/utsname.h>
+
+namespace tvxhost::scene {
+
+using engine::DagNode;
+using engine::Node;
+using engine::Plug;
+using engine::Scene;
+
+namespace {
+
+constexpr const char* kVersion = "2016";
+
+/// Default nodes that every file names, in this order, even when nothing of them is saved.
+constexpr const char* kListedDefaults[] = {
+    "time1",
+    "hardwareRenderingGlobals",
+    "renderPartition",
+    "renderGlobalsList1",
+    "defaultShaderList1",
+    "postProcessList1",
+    "defaultRenderUtilityList1",
+    "defaultRenderingList1",
+    "defaultTextureList1",
+    "initialShadingGroup",
+    "initialParticleSE",
+    "defaultRenderGlobals",
+    "defaultResolution",
+    "hardwareRenderGlobals",
+};
+
+std::string dateText(const WriteOptions& options)
+{
+    const char* epoch = std::getenv("SOURCE_DATE_EPOCH");
+    const bool isFixed = !options.clock && epoch && *epoch;
+    const std::time_t now = options.clock ? options.clock()
+                            : isFixed     ? std::atoll(epoch)
+                                          : std::time(nullptr);
+    std::tm parts = {};
+    if (isFixed)
+        gmtime_r(&now, &parts);
+    else
+        localtime_r(&now, &parts);
+    char text[64];
+    std::strftime(text, sizeof text, "%a, %b %d, %Y %I:%M:%S %p", &parts);
+    return text;
+}
+
+std::string systemText()
+{
+    utsname system = {};
+    if (uname(&system) != 0)
+        return "Linux";
+    return std::string(system.sysname) + " " + system.release + " " + system.version + " " + system.machine;
+}
+
+bool beginsWith(const std::string& text, const char* start)
+{
+    return text.rfind(start, 0) == 0;
+}
+
+/// Writes one file from the top to the end.
+class SceneWriter
+{
+public:
+    SceneWriter(Scene& scene, const std::string& fileName, const WriteOptions& options)
+        : m_scene(scene), m_options(options), m_fileName(fileName), m_nodes(scene, m_out)
+    {
+    }
+
+    std::string write();
+
+private:
+    void writeHeader();
+    void writeRequirement(const Scene::Requirement& requirement);
+    void writeFileInfo();
+    void collectNodes();
+    void collectDag(DagNode& node);
+    void writeInstances();
+    void writeDefaults();
+    void writeConnections(const std::vector<Node*>& nodes);
+    void writeConnection(const Plug& source, const Plug& destination);
+    template <class Belongs>
+    void writeKept(const Belongs& belongs);
+    std::vector<Scene::Requirement> requirements() const;
+
+    Scene& m_scene;
+    const WriteOptions& m_options;
+    std::string m_fileName;
+    std::string m_out;
+    NodeWriter m_nodes;
+    std::vector<Node*> m_dagNodes; ///< depth first
+    std::vector<Node*> m_dependNodes;
+    std::vector<Node*> m_defaultNodes; ///< in the order of their `select` lines
+};
+
+/// Whether a node is written with `createNode`.
+bool isCreated(const Node& node)
+{
+    return !node.isDefaultNode && !node.doNotWrite && !node.isReferenced;
+}
+
+std::string SceneWriter::write()
+{
+    collectNodes();
+    writeHeader();
+    for (Node* node : m_dagNodes)
+        m_nodes.writeNode(*node);
+    writeInstances();
+    for (Node* node : m_dependNodes)
+        m_nodes.writeNode(*node);
+    writeDefaults();
+    writeConnections(m_dagNodes);
+    writeKept([](const std::string& text) { return beginsWith(text, "relationship"); });
+    writeConnections(m_dependNodes);
+    writeConnections(m_defaultNodes);
+    writeKept([](const std::string& text) {
+        return !beginsWith(text, "relationship") && !beginsWith(text, "select") && !beginsWith(text, "file ");
+    });
+    m_out += "// End of " + m_fileName + "\n";
+    return std::move(m_out);
+}
+
+void SceneWriter::writeHeader()
+{
+    m_out += "//Maya ASCII " + std::string(kVersion) + " scene\n";
+    m_out += "//Name: " + m_fileName + "\n";
+    m_out += "//Last modified: " + dateText(m_options) + "\n";
+    m_out += "//Codeset: UTF-8\n";
+    writeKept([](const std::string& text) { return beginsWith(text, "file "); });
+    m_out += "requires maya \"" + std::string(kVersion) + "\";\n";
+    for (const Scene::Requirement& requirement : requirements())
+        writeRequirement(requirement);
+    const engine::Units& units = m_scene.units();
+    m_out += "currentUnit -l " + engine::nameOf(units.linear, true) + " -a " +
+             engine::nameOf(units.angle, true) + " -t " + engine::timeUnitName(units.time) + ";\n";
+    writeFileInfo();
+}
+
+void SceneWriter::writeRequirement(const Scene::Requirement& requirement)
+{
+    std::string text = "requires";
+    LineBreaker line(text);
+    if (!requirement.words.empty())
+        line.word(requirement.words);
+    for (const std::string& type : requirement.nodeTypes)
+        line.word("-nodeType " + mel::quoted(type));
+    for (const std::string& type : requirement.dataTypes)
+        line.word("-dataType " + mel::quoted(type));
+    line.word(mel::quoted(requirement.plugin) + " " + mel::quoted(requirement.version));
+    m_out += text + ";\n";
+}
+
+/// What the file that was read required, and the plug-ins whose nodes are in the scene now. Node types are
+/// brought up to date for plug-ins that are loaded; of the others nobody knows better than their file.
+std::vector<Scene::Requirement> SceneWriter::requirements() const
+{
+    std::vector<Scene::Requirement> all = m_scene.requirements;
+    for (engine::NodeType* type : m_scene.types().all()) {
+        if (type->plugin.empty() || type->liveNodes == 0)
+            continue;
+        auto found = std::find_if(all.begin(), all.end(), [&](const Scene::Requirement& candidate) {
+            return candidate.plugin == type->plugin;
+        });
+        if (found == all.end()) {
+            Scene::Requirement added;
+            added.plugin = type->plugin;
+            found = all.insert(all.end(), std::move(added));
+        }
+        if (std::find(found->nodeTypes.begin(), found->nodeTypes.end(), type->name) == found->nodeTypes.end())
+            found->nodeTypes.push_back(type->name);
+    }
+    for (Scene::Requirement& requirement : all)
+        if (m_options.pluginVersion)
+            if (std::string version = m_options.pluginVersion(requirement.plugin); !version.empty())
+                requirement.version = std::move(version);
+    return all;
+}
+
+void SceneWriter::writeFileInfo()
+{
+    const std::vector<std::pair<std::string, std::string>> own = {
+        {"application", "maya"}, {"product", "Maya " + std::string(kVersion)},
+        {"version", kVersion},   {"cutIdentifier", "201610262200-1005964"},
+        {"osv", systemText()},
+    };
+    const auto write = [&](const auto& entry) {
+        m_out += "fileInfo " + mel::quoted(entry.first) + " " + mel::quoted(entry.second) + ";\n";
+    };
+    std::for_each(own.begin(), own.end(), write);
+    for (const auto& entry : m_scene.fileInfo)
+        if (std::none_of(own.begin(), own.end(),
+                         [&](const auto& known) { return known.first == entry.first; }))
+            write(entry);
+}
+
+void SceneWriter::collectNodes()
+{
+    for (DagNode* top : m_scene.world().children())
+        collectDag(*top);
+    for (Node* node : m_scene.nodes()) {
+        if (isCreated(*node) && !node->asDag())
+            m_dependNodes.push_back(node);
+    }
+    for (const char* name : kListedDefaults) {
+        const auto node = m_scene.findNode(std::string(":") + name);
+        if (node && node.value->isDefaultNode)
+            m_defaultNodes.push_back(node.value);
+    }
+    const std::unordered_set<Node*> listed(m_defaultNodes.begin(), m_defaultNodes.end());
+    for (Node* node : m_scene.nodes())
+        if (node->isDefaultNode && !node->doNotWrite && listed.count(node) == 0)
+            m_defaultNodes.push_back(node);
+}
+
+/// Parents before children; an instanced node stands below its first parent. An own stack, since DAGs may be
+/// deep.
+void SceneWriter::collectDag(DagNode& top)
+{
+    std::vector<DagNode*> waiting = {&top};
+    while (!waiting.empty()) {
+        DagNode* node = waiting.back();
+        waiting.pop_back();
+        if (!isCreated(*node))
+            continue;
+        m_dagNodes.push_back(node);
+        const auto& children = node->children();
+        for (auto child = children.rbegin(); child != children.rend(); ++child)
+            if ((*child)->parents().front() == node)
+                waiting.push_back(*child);
+    }
+}
+
+void SceneWriter::writeInstances()
+{
+    for (Node* node : m_dagNodes) {
+        DagNode& dag = *node->asDag();
+        for (std::size_t i = 1; i < dag.parents().size(); ++i) {
+            if (dag.parents()[i]->isWorld())
+                continue;
+            m_out += "parent -s -nc -r -add " + mel::quoted(engine::DagPath::firstTo(dag).fullName()) + " " +
+                     mel::quoted(m_scene.shortestName(*dag.parents()[i])) + " ;\n";
+        }
+    }
+}
+
+void SceneWriter::writeDefaults()
+{
+    std::size_t listed = 0;
+    for (Node* node : m_defaultNodes) {
+        const std::size_t before = m_out.size();
+        m_out += "select -ne :" + node->name() + ";\n";
+        const bool isListed = listed < std::size(kListedDefaults) && node->name() == kListedDefaults[listed];
+        listed += isListed;
+        if (!m_nodes.writeLines(*node) && !isListed)
+            m_out.resize(before);
+    }
+    writeKept([](const std::string& text) { return beginsWith(text, "select"); });
+}
+
+void SceneWriter::writeConnections(const std::vector<Node*>& nodes)
+{
+    for (Node* node : nodes)
+        for (const Plug& plug : engine::connectedPlugs(*node))
+            if (const Plug source = engine::sourceOf(plug); !source.isNull())
+                writeConnection(source, plug);
+}
+
+void SceneWriter::writeConnection(const Plug& source, const Plug& destination)
+{
+    const Node& from = *source.node();
+    const Node& to = *destination.node();
+    // What connects two default nodes is there in every new scene.
+    if ((from.isDefaultNode && to.isDefaultNode) || from.doNotWrite || to.doNotWrite)
+        return;
+    const bool isNext = destination.isElement() && !destination.attribute()->flags.indexMatters;
+    m_out += "connectAttr " + mel::quoted(connectionName(source, false)) + " " +
+             mel::quoted(connectionName(destination, isNext));
+    if (engine::stateOf(destination).locked)
+        m_out += " -l on";
+    m_out += isNext ? " -na;\n" : ";\n";
+}
+
+template <class Belongs>
+void SceneWriter::writeKept(const Belongs& belongs)
+{
+    for (const std::string& text : m_scene.keptConnections)
+        if (belongs(text))
+            m_out += text + "\n";
+}
+
+} // namespace
+
+std::string sceneText(Scene& scene, const std::string& fileName, const WriteOptions& options)
+{
+    return SceneWriter(scene, fileName, options).write();
+}
+
+engine::Outcome saveScene(Scene& scene, const std::filesystem::path& file, const WriteOptions& options)
+{
+    const std::string text = sceneText(scene, file.filename().string(), options);
+    const engine::Outcome written = writeFileAtomically(file, text);
+    if (written) {
+        scene.fileName = std::filesystem::absolute(file).string();
+        scene.isModified = false;
+    }
+    return written;
+}
+
+} // namespace tvxhost::scene
