@@ -322,7 +322,7 @@ bool MDagPath::isTemplated(MStatus* ReturnStatus) const
 unsigned int MDagPath::getDisplayStatus() const
 {
     const auto* place = valid(path, nullptr);
-    return place ? api::displayStatusOf(*place) : api::kNoDisplayStatus;
+    return place ? api::displayStatusOf(*place) : M3dView::kNoStatus;
 }
 
 const char* MDagPath::className()

@@ -8,7 +8,10 @@
 #include "engine/selection.h"
 #include "engine/text.h"
 
+#include <maya/MDGContext.h>
+#include <maya/MArgList.h>
 #include <maya/MDagPath.h>
+#include <maya/MDataBlock.h>
 #include <maya/MFnBase.h>
 #include <maya/MObject.h>
 #include <maya/MPlug.h>
@@ -98,6 +101,24 @@ public:
     }
     static Plug*& plugSlot(MPlug& plug) { return plug.plug; }
 
+    // Handles of the data block: plain words, copied as they are
+    template <class Handle>
+    static char* storage(Handle& handle)
+    {
+        return handle.storage;
+    }
+    template <class Handle>
+    static const char* storage(const Handle& handle)
+    {
+        return handle.storage;
+    }
+
+    static tvxhost::api::DataBlock* dataBlock(const MDataBlock& block) { return block.block; }
+    static MDataBlock dataBlock(tvxhost::api::DataBlock& block) { return MDataBlock(&block); }
+
+    // MDGContext: null for the normal one
+    static const tvxhost::api::DGContext* context(const MDGContext& context) { return context.context; }
+
     // Arrays: the vector that holds the elements
     template <class Array>
     static auto& elements(Array& array)
@@ -144,6 +165,9 @@ public:
     // MSelectionList
     static tvxhost::engine::SelectionList& selection(MSelectionList& list) { return *list.list; }
     static const tvxhost::engine::SelectionList& selection(const MSelectionList& list) { return *list.list; }
+
+    // MArgList
+    static tvxhost::api::Arguments& arguments(MArgList& list) { return *list.arguments; }
 
     // Function sets
     static Object* attached(const MFnBase& set) { return reinterpret_cast<Object*>(set.f_ptr); }

@@ -38,34 +38,34 @@ DisplayStatusRule::Mark DisplayStatusRule::markOf(engine::DagPath path) const
     return strongest;
 }
 
-DisplayStatus DisplayStatusRule::statusOf(const engine::DagPath& path) const
+M3dView::DisplayStatus DisplayStatusRule::statusOf(const engine::DagPath& path) const
 {
     if (!path.isValid())
-        return kNoDisplayStatus;
+        return M3dView::kNoStatus;
     if (path.node()->isIntermediate())
-        return kIntermediateDisplay;
+        return M3dView::kIntermediateObject;
     if (!path.isVisible())
-        return kInvisibleDisplay;
+        return M3dView::kInvisible;
     const Mark mark = markOf(path);
     const bool isSelected = mark == Mark::selected || mark == Mark::lead;
     if (path.isTemplated())
-        return isSelected ? kActiveTemplateDisplay : kTemplateDisplay;
+        return isSelected ? M3dView::kActiveTemplate : M3dView::kTemplate;
     switch (mark) {
     case Mark::lead:
-        return kLeadDisplay;
+        return M3dView::kLead;
     case Mark::selected:
-        return kActiveDisplay;
+        return M3dView::kActive;
     case Mark::components:
-        return kActiveComponentDisplay;
+        return M3dView::kActiveComponent;
     case Mark::hilited:
-        return kHiliteDisplay;
+        return M3dView::kHilite;
     case Mark::none:
         break;
     }
-    return kDormantDisplay;
+    return M3dView::kDormant;
 }
 
-DisplayStatus displayStatusOf(const engine::DagPath& path)
+M3dView::DisplayStatus displayStatusOf(const engine::DagPath& path)
 {
     return DisplayStatusRule(engine::Scene::current()).statusOf(path);
 }

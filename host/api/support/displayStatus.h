@@ -4,7 +4,7 @@
 
 #include "engine/dagPath.h"
 
-#include <maya/MTypes.h>
+#include <maya/M3dView.h>
 
 #include <unordered_map>
 
@@ -13,22 +13,6 @@ class Scene;
 } // namespace tvxhost::engine
 
 namespace tvxhost::api {
-
-/// The values of M3dView::DisplayStatus that the host gives. A number, since libOpenMaya does not know the
-/// viewport.
-enum DisplayStatus : unsigned int
-{
-    kActiveDisplay = 0,
-    kDormantDisplay = 2,
-    kInvisibleDisplay = 3,
-    kHiliteDisplay = 4,
-    kTemplateDisplay = 5,
-    kActiveTemplateDisplay = 6,
-    kActiveComponentDisplay = 7,
-    kLeadDisplay = 8,
-    kIntermediateDisplay = 9,
-    kNoDisplayStatus = 11,
-};
 
 /// The selection and hiliting of a scene at one moment, looked up by path. Make one per picture: asking is
 /// then a few hash look-ups per path, however much is selected.
@@ -39,7 +23,7 @@ public:
 
     /// The selection of a node counts for everything below it; what was selected last is the lead. A template
     /// stays one when it is selected; what is intermediate or hidden is not drawn, selected or not.
-    DisplayStatus statusOf(const engine::DagPath& path) const;
+    M3dView::DisplayStatus statusOf(const engine::DagPath& path) const;
 
 private:
     enum class Mark
@@ -58,6 +42,6 @@ private:
 };
 
 /// The status of one path in the current scene.
-FND_EXPORT DisplayStatus displayStatusOf(const engine::DagPath& path);
+FND_EXPORT M3dView::DisplayStatus displayStatusOf(const engine::DagPath& path);
 
 } // namespace tvxhost::api

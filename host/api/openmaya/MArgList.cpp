@@ -1,0 +1,453 @@
+// MArgList: the arguments of a command.
+#include <maya/MArgList.h>
+#include <maya/MDoubleArray.h>
+#include <maya/MIntArray.h>
+#include <maya/MStringArray.h>
+
+#include "support/access.h"
+#include "support/apiCall.h"
+#include "support/arguments.h"
+#include "support/numberText.h"
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+#include <optional>
+
+using namespace tvxhost;
+using api::Argument;
+using api::Arguments;
+using api::failure;
+using api::StatusText;
+
+namespace {
+
+std::optional<double> numberOf(const Argument& argument)
+{
+    if (const int* whole = std::get_if<int>(&argument))
+        return *whole;
+    if (const double* real = std::get_if<double>(&argument))
+        return *real;
+    return std::nullopt;
+}
+
+/// Towards zero; what does not fit is clamped.
+int truncated(double number)
+{
+    constexpr double kLowest = std::numeric_limits<int>::lowest();
+    constexpr double kHighest = std::numeric_limits<int>::max();
+    return std::isnan(number) ? 0 : static_cast<int>(std::clamp(number, kLowest, kHighest));
+}
+
+// One overload per type that an argument is read as; false when it is of another kind.
+bool take(const Argument& argument, double& value)
+{
+    const auto number = numberOf(argument);
+    value = number.value_or(0.0);
+    return number.has_value();
+}
+
+bool take(const Argument& argument, int& value)
+{
+    const auto number = numberOf(argument);
+    value = truncated(number.value_or(0.0));
+    return number.has_value();
+}
+
+bool take(const Argument& argument, bool& value)
+{
+    const auto number = numberOf(argument);
+    value = number.value_or(0.0) != 0.0;
+    return number.has_value();
+}
+
+bool take(const Argument& argument, MString& value)
+{
+    if (const auto* text = std::get_if<std::string>(&argument))
+        value = tvxAccess::string(*text);
+    else if (const int* whole = std::get_if<int>(&argument))
+        value = tvxAccess::string(std::to_string(*whole));
+    else
+        value = tvxAccess::string(api::numberText(std::get<double>(argument)));
+    return true;
+}
+
+// Lengths, angles and times are written in the units of the user interface.
+template <class Value>
+bool takeInUnits(const Argument& argument, Value& value)
+{
+    const auto number = numberOf(argument);
+    value = Value(number.value_or(0.0), Value::uiUnit());
+    return number.has_value();
+}
+
+bool take(const Argument& argument, MDistance& value)
+{
+    return takeInUnits(argument, value);
+}
+
+bool take(const Argument& argument, MAngle& value)
+{
+    return takeInUnits(argument, value);
+}
+
+bool take(const Argument& argument, MTime& value)
+{
+    return takeInUnits(argument, value);
+}
+
+/// Reads the argument at an index; what it cannot be read as leaves the value as it was.
+template <class Value>
+MStatus read(const Arguments& arguments, unsigned int index, Value& target)
+{
+    if (index >= arguments.items.size())
+        return failure(StatusText::noElementAtIndex);
+    Value value{};
+    if (!take(arguments.items[index], value))
+        return failure(MS::kInvalidParameter, StatusText::objectIsIncompatible);
+    target = value;
+    return MS::kSuccess;
+}
+
+/// Reads so many arguments; the index ends on the last one, or on the one at fault.
+template <class Value>
+MStatus readMany(const Arguments& arguments, unsigned int& index, unsigned int count,
+                 std::vector<Value>& values)
+{
+    for (unsigned int i = 0; i < count; ++i) {
+        Value value{};
+        if (const MStatus status = read(arguments, index + i, value); !status) {
+            index += i;
+            return status;
+        }
+        values.push_back(value);
+    }
+    index += count > 0 ? count - 1 : 0;
+    return MS::kSuccess;
+}
+
+/// Reads a point or vector with at most `most` components; those that are not read keep their value.
+template <class Place>
+MStatus readPlace(const Arguments& arguments, unsigned int& index, Place& target, unsigned int count,
+                  unsigned int most)
+{
+    if (count == 0 || count > most)
+        return failure(MS::kInvalidParameter, StatusText::unexpectedFailure);
+    std::vector<double> numbers;
+    const MStatus status = readMany(arguments, index, count, numbers);
+    if (status) {
+        target = Place();
+        for (unsigned int i = 0; i < count; ++i)
+            target[i] = numbers[i];
+    }
+    return status;
+}
+
+MStatus readMatrix(const Arguments& arguments, unsigned int& index, MMatrix& target)
+{
+    std::vector<double> numbers;
+    const MStatus status = readMany(arguments, index, 16, numbers);
+    if (status)
+        std::copy(numbers.begin(), numbers.end(), &target.matrix[0][0]);
+    return status;
+}
+
+/// Reads a count and so many elements; the index ends on the last one.
+template <class Element, class Array>
+MStatus readArray(const Arguments& arguments, unsigned int& index, Array& target)
+{
+    int count = 0;
+    if (const MStatus status = read(arguments, index, count); !status)
+        return status;
+    if (count < 0)
+        return failure(MS::kInvalidParameter, StatusText::unexpectedFailure);
+    std::vector<Element> elements;
+    unsigned int last = index + 1;
+    const MStatus status = readMany(arguments, last, static_cast<unsigned int>(count), elements);
+    index = count == 0 ? index : last;
+    if (status)
+        tvxAccess::elements(target) = std::move(elements);
+    return status;
+}
+
+/// The value that a reader gives, and the status for a caller that wants it.
+template <class Value, class Read>
+Value valueOf(MStatus* returnStatus, Read readInto)
+{
+    Value value{};
+    api::give(returnStatus, readInto(value));
+    return value;
+}
+
+MStatus add(Arguments& arguments, Argument argument)
+{
+    arguments.items.push_back(std::move(argument));
+    return MS::kSuccess;
+}
+
+bool isFlag(const Argument& argument, const char* flag)
+{
+    const auto* text = std::get_if<std::string>(&argument);
+    if (!text || !flag || text->size() < 2 || text->front() != '-')
+        return false;
+    return text->compare(1, std::string::npos, *flag == '-' ? flag + 1 : flag) == 0;
+}
+
+} // namespace
+
+const unsigned int MArgList::kInvalidArgIndex = ~0u;
+
+MArgList::MArgList() : arguments(new Arguments), reserved(nullptr) {}
+
+MArgList::MArgList(const MArgList& other) : arguments(new Arguments(*other.arguments)), reserved(nullptr) {}
+
+MArgList::~MArgList()
+{
+    delete arguments;
+}
+
+MArgList& MArgList::operator=(const MArgList& other)
+{
+    *arguments = *other.arguments;
+    return *this;
+}
+
+unsigned int MArgList::length(MStatus* ReturnStatus) const
+{
+    TVX_API_CALL_OR("MArgList::length", ReturnStatus, 0);
+    api::giveSuccess(ReturnStatus);
+    return static_cast<unsigned int>(arguments->items.size());
+}
+
+bool MArgList::asBool(unsigned int index, MStatus* ret) const
+{
+    TVX_API_CALL_OR("MArgList::asBool", ret, false);
+    return valueOf<bool>(ret, [&](bool& value) { return read(*arguments, index, value); });
+}
+
+int MArgList::asInt(unsigned int index, MStatus* ret) const
+{
+    TVX_API_CALL_OR("MArgList::asInt", ret, 0);
+    return valueOf<int>(ret, [&](int& value) { return read(*arguments, index, value); });
+}
+
+double MArgList::asDouble(unsigned int index, MStatus* ret) const
+{
+    TVX_API_CALL_OR("MArgList::asDouble", ret, 0.0);
+    return valueOf<double>(ret, [&](double& value) { return read(*arguments, index, value); });
+}
+
+MString MArgList::asString(unsigned int index, MStatus* ret) const
+{
+    TVX_API_CALL_OR("MArgList::asString", ret, MString());
+    return valueOf<MString>(ret, [&](MString& value) { return read(*arguments, index, value); });
+}
+
+MDistance MArgList::asDistance(unsigned int index, MStatus* ret) const
+{
+    TVX_API_CALL_OR("MArgList::asDistance", ret, MDistance());
+    return valueOf<MDistance>(ret, [&](MDistance& value) { return read(*arguments, index, value); });
+}
+
+MAngle MArgList::asAngle(unsigned int index, MStatus* ret) const
+{
+    TVX_API_CALL_OR("MArgList::asAngle", ret, MAngle());
+    return valueOf<MAngle>(ret, [&](MAngle& value) { return read(*arguments, index, value); });
+}
+
+MTime MArgList::asTime(unsigned int index, MStatus* ret) const
+{
+    TVX_API_CALL_OR("MArgList::asTime", ret, MTime());
+    return valueOf<MTime>(ret, [&](MTime& value) { return read(*arguments, index, value); });
+}
+
+MVector MArgList::asVector(unsigned int& index, unsigned int numElements, MStatus* ReturnStatus) const
+{
+    TVX_API_CALL_OR("MArgList::asVector", ReturnStatus, MVector());
+    return valueOf<MVector>(
+        ReturnStatus, [&](MVector& value) { return readPlace(*arguments, index, value, numElements, 3); });
+}
+
+MPoint MArgList::asPoint(unsigned int& index, unsigned int numElements, MStatus* ReturnStatus) const
+{
+    TVX_API_CALL_OR("MArgList::asPoint", ReturnStatus, MPoint());
+    return valueOf<MPoint>(
+        ReturnStatus, [&](MPoint& value) { return readPlace(*arguments, index, value, numElements, 4); });
+}
+
+MMatrix MArgList::asMatrix(unsigned int& index, MStatus* ret) const
+{
+    TVX_API_CALL_OR("MArgList::asMatrix", ret, MMatrix());
+    return valueOf<MMatrix>(ret, [&](MMatrix& value) { return readMatrix(*arguments, index, value); });
+}
+
+MIntArray MArgList::asIntArray(unsigned int& index, MStatus* ReturnStatus) const
+{
+    TVX_API_CALL_OR("MArgList::asIntArray", ReturnStatus, MIntArray());
+    return valueOf<MIntArray>(ReturnStatus,
+                              [&](MIntArray& value) { return readArray<int>(*arguments, index, value); });
+}
+
+MDoubleArray MArgList::asDoubleArray(unsigned int& index, MStatus* ReturnStatus) const
+{
+    TVX_API_CALL_OR("MArgList::asDoubleArray", ReturnStatus, MDoubleArray());
+    return valueOf<MDoubleArray>(
+        ReturnStatus, [&](MDoubleArray& value) { return readArray<double>(*arguments, index, value); });
+}
+
+const MStringArray MArgList::asStringArray(unsigned int& index, MStatus* ReturnStatus) const
+{
+    TVX_API_CALL_OR("MArgList::asStringArray", ReturnStatus, MStringArray());
+    return valueOf<MStringArray>(
+        ReturnStatus, [&](MStringArray& value) { return readArray<MString>(*arguments, index, value); });
+}
+
+unsigned int MArgList::flagIndex(const char* shortFlag, const char* longFlag) const
+{
+    const auto& items = arguments->items;
+    const auto found = std::find_if(items.begin(), items.end(), [&](const Argument& argument) {
+        return isFlag(argument, shortFlag) || isFlag(argument, longFlag);
+    });
+    return found == items.end() ? kInvalidArgIndex : static_cast<unsigned int>(found - items.begin());
+}
+
+MStatus MArgList::addArg(bool arg)
+{
+    TVX_API_CALL("MArgList::addArg");
+    return add(*arguments, static_cast<int>(arg));
+}
+
+MStatus MArgList::addArg(int arg)
+{
+    TVX_API_CALL("MArgList::addArg");
+    return add(*arguments, arg);
+}
+
+MStatus MArgList::addArg(double arg)
+{
+    TVX_API_CALL("MArgList::addArg");
+    return add(*arguments, arg);
+}
+
+MStatus MArgList::addArg(const MString& arg)
+{
+    TVX_API_CALL("MArgList::addArg");
+    return add(*arguments, tvxAccess::text(arg));
+}
+
+MStatus MArgList::addArg(const MDistance& arg)
+{
+    TVX_API_CALL("MArgList::addArg");
+    return add(*arguments, arg.as(MDistance::uiUnit()));
+}
+
+MStatus MArgList::addArg(const MAngle& arg)
+{
+    TVX_API_CALL("MArgList::addArg");
+    return add(*arguments, arg.as(MAngle::uiUnit()));
+}
+
+MStatus MArgList::addArg(const MTime& arg)
+{
+    TVX_API_CALL("MArgList::addArg");
+    return add(*arguments, arg.as(MTime::uiUnit()));
+}
+
+MStatus MArgList::addArg(const MVector& arg)
+{
+    TVX_API_CALL("MArgList::addArg");
+    for (const double component : {arg.x, arg.y, arg.z})
+        add(*arguments, component);
+    return MS::kSuccess;
+}
+
+MStatus MArgList::addArg(const MPoint& arg)
+{
+    TVX_API_CALL("MArgList::addArg");
+    for (const double component : {arg.x, arg.y, arg.z, arg.w})
+        add(*arguments, component);
+    return MS::kSuccess;
+}
+
+MStatus MArgList::get(unsigned int index, bool& ret) const
+{
+    TVX_API_CALL("MArgList::get");
+    return read(*arguments, index, ret);
+}
+
+MStatus MArgList::get(unsigned int index, int& ret) const
+{
+    TVX_API_CALL("MArgList::get");
+    return read(*arguments, index, ret);
+}
+
+MStatus MArgList::get(unsigned int index, double& ret) const
+{
+    TVX_API_CALL("MArgList::get");
+    return read(*arguments, index, ret);
+}
+
+MStatus MArgList::get(unsigned int index, MString& ret) const
+{
+    TVX_API_CALL("MArgList::get");
+    return read(*arguments, index, ret);
+}
+
+MStatus MArgList::get(unsigned int index, MDistance& ret) const
+{
+    TVX_API_CALL("MArgList::get");
+    return read(*arguments, index, ret);
+}
+
+MStatus MArgList::get(unsigned int index, MAngle& ret) const
+{
+    TVX_API_CALL("MArgList::get");
+    return read(*arguments, index, ret);
+}
+
+MStatus MArgList::get(unsigned int index, MTime& ret) const
+{
+    TVX_API_CALL("MArgList::get");
+    return read(*arguments, index, ret);
+}
+
+MStatus MArgList::get(unsigned int& index, MVector& ret, unsigned int numElements) const
+{
+    TVX_API_CALL("MArgList::get");
+    return readPlace(*arguments, index, ret, numElements, 3);
+}
+
+MStatus MArgList::get(unsigned int& index, MPoint& ret, unsigned int numElements) const
+{
+    TVX_API_CALL("MArgList::get");
+    return readPlace(*arguments, index, ret, numElements, 4);
+}
+
+MStatus MArgList::get(unsigned int& index, MMatrix& ret) const
+{
+    TVX_API_CALL("MArgList::get");
+    return readMatrix(*arguments, index, ret);
+}
+
+MStatus MArgList::get(unsigned int& index, MIntArray& ret) const
+{
+    TVX_API_CALL("MArgList::get");
+    return readArray<int>(*arguments, index, ret);
+}
+
+MStatus MArgList::get(unsigned int& index, MDoubleArray& ret) const
+{
+    TVX_API_CALL("MArgList::get");
+    return readArray<double>(*arguments, index, ret);
+}
+
+MStatus MArgList::get(unsigned int& index, MStringArray& ret) const
+{
+    TVX_API_CALL("MArgList::get");
+    return readArray<MString>(*arguments, index, ret);
+}
+
+const char* MArgList::className()
+{
+    return "MArgList";
+}
