@@ -60,8 +60,11 @@ MStatus MFnCompoundAttribute::removeChild(const MObject& child)
     if (!isFree(*attribute))
         return failure(StatusText::unexpectedFailure);
     removed->parent = nullptr;
+    removed->siblingIndex = -1;
     auto& children = attribute->children;
     children.erase(std::find(children.begin(), children.end(), Ref<Attribute>(removed)));
+    for (std::size_t i = 0; i < children.size(); ++i)
+        children[i]->siblingIndex = static_cast<int>(i);
     return MS::kSuccess;
 }
 
