@@ -10,6 +10,7 @@
 
 #include <maya/MDGContext.h>
 #include <maya/MArgList.h>
+#include <maya/MCommandResult.h>
 #include <maya/MDagPath.h>
 #include <maya/MDataBlock.h>
 #include <maya/MFnBase.h>
@@ -168,6 +169,9 @@ public:
 
     // MArgList
     static tvxhost::api::Arguments& arguments(MArgList& list) { return *list.arguments; }
+
+    // MCommandResult
+    static tvxhost::api::CommandValue& commandValue(MCommandResult& result) { return *result.value; }
 
     // Function sets
     static Object* attached(const MFnBase& set) { return reinterpret_cast<Object*>(set.f_ptr); }
