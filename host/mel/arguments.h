@@ -44,6 +44,12 @@ bool keywordBoolean(std::string_view text, bool& known);
 class ArgumentList
 {
 public:
+    ArgumentList() = default;
+    ArgumentList(ArgumentList&&) = default;
+    ArgumentList& operator=(ArgumentList&&) = default;
+    ArgumentList(const ArgumentList&) = delete;
+    ArgumentList& operator=(const ArgumentList&) = delete;
+
     /// A token whose text is final.
     void addToken(ArgumentKind kind, std::string_view text);
     /// A quoted string, quotes not included; escapes are resolved into storage of the list.

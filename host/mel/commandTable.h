@@ -216,6 +216,10 @@ public:
 /// Takes the arguments of a call apart. Throws ValueError with the message for the script's author.
 ParsedCommand parseArguments(const CommandSpec& spec, const ArgumentList& arguments);
 
+/// Converts the arguments of a function to its parameters' types; optional ones may be missing. Throws
+/// ValueError for a wrong number of arguments or a type that does not convert.
+void convertArguments(const CommandSpec& spec, std::vector<Value>& arguments);
+
 /// What `help NAME` prints: the synopsis and one line per flag, or per parameter list of a function.
 std::string commandHelp(const CommandSpec& spec);
 

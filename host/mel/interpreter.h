@@ -20,15 +20,26 @@
 
 namespace tvxhost::mel {
 
-/// The procedures that only one script sees.
-using LocalProcedures = std::unordered_map<std::string, std::shared_ptr<const struct ProcedureEntry>>;
+struct ProcedureEntry;
+/// The procedures that only one script sees, by name.
+using LocalProcedures = std::unordered_map<std::string, std::shared_ptr<const ProcedureEntry>>;
 
 /// A procedure and where it came from.
 struct ProcedureEntry
 {
     std::shared_ptr<const ast::Procedure> procedure;
-    std::string file; ///< empty: typed text
-    std::shared_ptr<LocalProcedures> locals;
+    std::string file;                  ///< empty: typed text
+    LocalProcedures* locals = nullptr; ///< those of the script that defined it; the interpreter's
+};
+
+/// What a name in a script stands for: a procedure or a command.
+struct Callable
+{
+    std::shared_ptr<const ProcedureEntry> procedure;
+    std::shared_ptr<const CommandSpec> command;
+
+    /// True when it is called with values, false when with the arguments as they stand.
+    bool takesValues() const { return procedure != nullptr || command->isFunction(); }
 };
 
 class Interpreter
@@ -57,22 +68,34 @@ public:
     void executeStatement(StatementReader& reader, const std::string& file);
 
     /// Calls a procedure or command with values, as the function form does. Throws ScriptError.
-    Value call(const std::string& name, std::vector<Value> arguments, const Place& place = {});
+    Value call(const std::string& name, std::vector<Value> arguments, const Place& place = {},
+               const LocalProcedures* locals = nullptr);
 
-    /// A procedure by name, `local` first, then the global ones, then NAME.mel along the script path, which
-    /// is sourced. Null when there is none.
-    std::shared_ptr<const ProcedureEntry> findProcedure(const std::string& name,
-                                                        const LocalProcedures* local = nullptr);
-    /// A global procedure that is defined already.
-    std::shared_ptr<const ProcedureEntry> globalProcedure(const std::string& name) const;
-    void defineGlobal(std::shared_ptr<const ProcedureEntry> entry);
+    /// The procedure of that name, else the command, else the procedure that NAME.mel along the script path
+    /// defines. Throws ScriptError when there is none.
+    Callable resolve(const std::string& name, const Place& place, const LocalProcedures* locals = nullptr);
+    /// Calls something that takes values. Throws ScriptError or ValueError.
+    Value callWithValues(const Callable& callable, std::vector<Value>& arguments, const Place& place);
+    /// Calls a command that takes arguments as they stand. Throws ScriptError or ValueError.
+    Value callCommand(const Callable& callable, const ArgumentList& arguments, const Place& place);
+
+    /// A procedure that is defined already, in the script's own first, then globally; null when there is
+    /// none.
+    std::shared_ptr<const ProcedureEntry> definedProcedure(const std::string& name,
+                                                           const LocalProcedures* locals = nullptr) const;
+    /// The global procedure that NAME.mel along the script path defines; the file is sourced. Null when there
+    /// is no such file, or it does not define the procedure.
+    std::shared_ptr<const ProcedureEntry> procedureFromPath(const std::string& name);
+    /// Makes the procedure known, globally or to its script only; replaces one of the same name.
+    void define(std::shared_ptr<const ProcedureEntry> entry);
+    /// The local procedures of a file, of typed text with an empty name.
+    LocalProcedures& localProcedures(const std::string& file) { return m_localProcedures[file]; }
 
     Globals& globals() { return m_globals; }
     CommandTable& commands() { return m_commands; }
     engine::ScriptEditor& editor() { return m_editor; }
     Session* session() { return m_session; }
     ScriptPath& scriptPath() { return m_scriptPath; }
-    const std::string& currentFile() const { return m_file; }
 
     /// `system` is refused unless this is set.
     void allowSystem(bool allowed) { m_systemAllowed = allowed; }
@@ -109,8 +132,7 @@ private:
     ScriptPath m_scriptPath;
     Globals m_globals;
     std::unordered_map<std::string, std::shared_ptr<const ProcedureEntry>> m_procedures;
-    std::shared_ptr<LocalProcedures> m_typedLocals; ///< the local procedures of typed text
-    std::string m_file;                             ///< being run; empty for typed text
+    std::unordered_map<std::string, LocalProcedures> m_localProcedures; ///< by file; "" for typed text
     std::deque<std::string> m_deferred;
     std::deque<std::string> m_deferredLast;
     int m_depth = 0;

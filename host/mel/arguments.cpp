@@ -1,0 +1,171 @@
+// Arguments of commands: tokens and values behind one face.
+#include "arguments.h"
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+
+namespace tvxhost::mel {
+
+namespace {
+
+bool isLetter(char c)
+{
+    return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || c == '_';
+}
+
+Value integerOrNumber(double number)
+{
+    const bool fits = number == std::trunc(number) && number >= std::numeric_limits<int>::min() &&
+                      number <= std::numeric_limits<int>::max();
+    return fits ? Value(static_cast<int>(number)) : Value(number);
+}
+
+} // namespace
+
+bool Argument::looksLikeFlag() const
+{
+    return (kind == ArgumentKind::flag || kind == ArgumentKind::string) && text.size() > 1 &&
+           text[0] == '-' && isLetter(text[1]);
+}
+
+LeadingNumber Argument::number() const
+{
+    if (value != nullptr && !isArray(value->type()) && value->type() != Type::string &&
+        value->type() != Type::matrix) {
+        return {value->toNumber(), true};
+    }
+    return leadingNumber(text);
+}
+
+Value Argument::asValue() const
+{
+    if (value != nullptr) {
+        return *value;
+    }
+    switch (kind) {
+    case ArgumentKind::integer:
+        return integerOrNumber(leadingNumber(text).value);
+    case ArgumentKind::number:
+        return leadingNumber(text).value;
+    case ArgumentKind::word: {
+        bool known = false;
+        const bool on = keywordBoolean(text, known);
+        return known ? Value(on) : Value(text);
+    }
+    default:
+        return text;
+    }
+}
+
+bool keywordBoolean(std::string_view text, bool& known)
+{
+    const bool on = text == "on" || text == "yes" || text == "true";
+    known = on || text == "off" || text == "no" || text == "false";
+    return on;
+}
+
+void ArgumentList::addToken(ArgumentKind kind, std::string_view text)
+{
+    m_arguments.push_back({kind, text, nullptr});
+}
+
+void ArgumentList::addQuoted(std::string_view escapedText)
+{
+    const bool hasEscapes = escapedText.find('\\') != std::string_view::npos;
+    addToken(ArgumentKind::string, hasEscapes ? keep(unescaped(escapedText)) : escapedText);
+}
+
+void ArgumentList::addValue(const Value& value)
+{
+    if (isArray(value.type())) {
+        for (std::size_t i = 0; i < value.size(); ++i) {
+            addValue(value.element(i));
+        }
+        return;
+    }
+    if (value.isNone()) {
+        return;
+    }
+    if (value.type() == Type::string) {
+        addToken(ArgumentKind::string, keep(value.string()));
+        return;
+    }
+    const ArgumentKind kind = value.type() == Type::integer  ? ArgumentKind::integer
+                              : value.type() == Type::number ? ArgumentKind::number
+                                                             : ArgumentKind::value;
+    const std::string_view text = keep(value.toString());
+    m_values.push_back(value);
+    m_arguments.push_back({kind, text, &m_values.back()});
+}
+
+void ArgumentList::clear()
+{
+    m_arguments.clear();
+    m_strings.clear();
+    m_values.clear();
+}
+
+std::string_view ArgumentList::keep(std::string text)
+{
+    m_strings.push_back(std::move(text));
+    return m_strings.back();
+}
+
+std::string unescaped(std::string_view text)
+{
+    std::string plain;
+    plain.reserve(text.size());
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        if (text[i] != '\\' || i + 1 == text.size()) {
+            plain += text[i];
+            continue;
+        }
+        switch (const char escaped = text[++i]) {
+        case 'n':
+            plain += '\n';
+            break;
+        case 't':
+            plain += '\t';
+            break;
+        case 'r':
+            plain += '\r';
+            break;
+        case '\r':
+            i += i + 1 < text.size() && text[i + 1] == '\n' ? 1 : 0;
+            break;
+        case '\n':
+            break;
+        default:
+            plain += escaped;
+        }
+    }
+    return plain;
+}
+
+std::string quoted(std::string_view text)
+{
+    std::string result = "\"";
+    for (const char c : text) {
+        switch (c) {
+        case '\n':
+            result += "\\n";
+            break;
+        case '\t':
+            result += "\\t";
+            break;
+        case '\r':
+            result += "\\r";
+            break;
+        case '"':
+        case '\\':
+            result += '\\';
+            [[fallthrough]];
+        default:
+            result += c;
+        }
+    }
+    return result + '"';
+}
+
+} // namespace tvxhost::mel

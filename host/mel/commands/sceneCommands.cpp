@@ -1,0 +1,17 @@
+// The commands that work on a scene; see sceneCommands.h.
+#include "sceneCommands.h"
+
+namespace tvxhost::mel {
+
+void registerSceneCommands(CommandTable& table)
+{
+    for (const auto& registerFamily :
+         {registerNodeCommands, registerListCommands, registerSelectionCommands, registerDagCommands,
+          registerAttributeValueCommands, registerAttributeCommands, registerConnectionCommands,
+          registerSetCommands, registerTransformCommands, registerTimeCommands, registerPreferenceCommands,
+          registerFileCommands, registerPluginCommands, registerInterfaceCommands, registerNamespaceCommands,
+          registerUndoCommands})
+        registerFamily(table);
+}
+
+} // namespace tvxhost::mel

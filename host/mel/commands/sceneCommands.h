@@ -1,0 +1,28 @@
+// The commands that work on a scene, family by family.
+#pragma once
+
+namespace tvxhost::mel {
+
+class CommandTable;
+
+void registerNodeCommands(CommandTable& table);
+void registerListCommands(CommandTable& table);
+void registerSelectionCommands(CommandTable& table);
+void registerDagCommands(CommandTable& table);
+void registerAttributeValueCommands(CommandTable& table);
+void registerAttributeCommands(CommandTable& table);
+void registerConnectionCommands(CommandTable& table);
+void registerSetCommands(CommandTable& table);
+void registerTransformCommands(CommandTable& table);
+void registerTimeCommands(CommandTable& table);
+void registerPreferenceCommands(CommandTable& table);
+void registerFileCommands(CommandTable& table);
+void registerPluginCommands(CommandTable& table);
+void registerInterfaceCommands(CommandTable& table);
+void registerNamespaceCommands(CommandTable& table);
+void registerUndoCommands(CommandTable& table);
+
+/// All of them. The interpreter that runs them needs a SceneSession.
+void registerSceneCommands(CommandTable& table);
+
+} // namespace tvxhost::mel

@@ -1,0 +1,77 @@
+// SceneSession: see sceneSession.h.
+#include "sceneSession.h"
+
+#include "../interpreter.h"
+
+#include "api/plugins/pluginLoader.h"
+
+namespace tvxhost::mel {
+
+SceneSession::SceneSession(engine::Scene& scene, api::PluginLoader* plugins)
+    : projectFolder(std::filesystem::current_path()), m_scene(scene), m_plugins(plugins)
+{
+}
+
+engine::Outcome SceneSession::loadPlugin(const std::string& name, const engine::ScriptPlace& place, bool quiet,
+                                         const std::string& wishedName)
+{
+    if (!m_plugins)
+        return {engine::Reason::notImplemented, "Plug-ins cannot be loaded in this session"};
+    const api::PluginResult result = m_plugins->load(name, wishedName);
+    if (!result.warning.empty() && !quiet)
+        m_scene.scriptEditor().warning(result.warning, place);
+    if (result.outcome && pluginsChanged)
+        pluginsChanged();
+    return result.outcome;
+}
+
+scene::ReadOptions SceneSession::readOptions(Interpreter& interpreter)
+{
+    scene::ReadOptions options;
+    options.loadPlugin = [this](const std::string& name) -> engine::Outcome {
+        if (m_plugins && m_plugins->findLoaded(name))
+            return {};
+        if (!api::PluginLoader::find(name))
+            return engine::Reason::doesNotExist;
+        return loadPlugin(name, {}, true);
+    };
+    options.runStatement = [&interpreter](StatementReader& reader, const std::string& file) {
+        interpreter.executeStatement(reader, file);
+    };
+    options.progress = progress;
+    return options;
+}
+
+scene::ReadResult SceneSession::open(Interpreter& interpreter, const std::filesystem::path& file)
+{
+    scene::ReadResult result = scene::openScene(m_scene, file, readOptions(interpreter));
+    lastSummary = result.summary;
+    return result;
+}
+
+scene::ReadResult SceneSession::import(Interpreter& interpreter, const std::filesystem::path& file)
+{
+    scene::ReadResult result = scene::importScene(m_scene, file, readOptions(interpreter));
+    lastSummary = result.summary;
+    return result;
+}
+
+engine::Outcome SceneSession::saveAs(const std::filesystem::path& file)
+{
+    scene::WriteOptions options;
+    options.pluginVersion = [this](const std::string& name) {
+        const api::Plugin* plugin = m_plugins ? m_plugins->findLoaded(name) : nullptr;
+        return plugin ? plugin->version : std::string();
+    };
+    return scene::saveScene(m_scene, file, options);
+}
+
+void SceneSession::declareGlobals(Interpreter& interpreter) const
+{
+    auto window = std::make_shared<Variable>();
+    window->type = Type::string;
+    window->value = Value(m_scene.isBatch() ? "" : InterfaceTree::kMainWindow);
+    interpreter.globals()["gMainWindow"] = window;
+}
+
+} // namespace tvxhost::mel

@@ -1,0 +1,72 @@
+// SceneSession: what scene commands work on: the scene, its plug-ins, files, preferences and interface.
+#pragma once
+
+#include "interfaceTree.h"
+
+#include "../commandTable.h"
+
+#include "scene/pendingCompounds.h"
+#include "scene/reader.h"
+#include "scene/writer.h"
+
+#include "engine/scene.h"
+
+#include <filesystem>
+#include <functional>
+#include <string>
+#include <vector>
+
+namespace tvxhost::api {
+class PluginLoader;
+}
+
+namespace tvxhost::mel {
+
+class Interpreter;
+
+class SceneSession : public Session
+{
+public:
+    /// Both outlive the session; without a loader no plug-in can be loaded.
+    explicit SceneSession(engine::Scene& scene, api::PluginLoader* plugins = nullptr);
+
+    engine::Scene& scene() const { return m_scene; }
+    api::PluginLoader* plugins() const { return m_plugins; }
+    InterfaceTree& interface() { return m_interface; }
+
+    /// Compounds that `addAttr` has declared in part.
+    scene::PendingCompounds compounds;
+    /// The folder of option variables; empty: none are kept between runs.
+    std::filesystem::path preferencesFolder;
+    /// The project's root; relative names of files start there.
+    std::filesystem::path projectFolder;
+    /// Called after a plug-in was loaded or unloaded, before its interface is made or after it was removed.
+    std::function<void()> pluginsChanged;
+    /// Told about the progress of reading; may be empty.
+    std::function<void(std::size_t done, std::size_t total)> progress;
+    /// What the last file that was read held.
+    scene::SceneSummary lastSummary;
+
+    /// Loads a plug-in; the messages that the loader leaves to its caller are shown. Success when it is
+    /// loaded afterwards.
+    engine::Outcome loadPlugin(const std::string& name, const engine::ScriptPlace& place, bool quiet = false,
+                               const std::string& wishedName = {});
+
+    /// Opens a file: `file -open`. A failure is a file that is no scene; what is wrong inside has been shown.
+    scene::ReadResult open(Interpreter& interpreter, const std::filesystem::path& file);
+    scene::ReadResult import(Interpreter& interpreter, const std::filesystem::path& file);
+    /// Saves the scene under its name or another.
+    engine::Outcome saveAs(const std::filesystem::path& file);
+
+    /// Declares the globals that scripts of an interactive session expect: `$gMainWindow`.
+    void declareGlobals(Interpreter& interpreter) const;
+
+private:
+    scene::ReadOptions readOptions(Interpreter& interpreter);
+
+    engine::Scene& m_scene;
+    api::PluginLoader* m_plugins;
+    InterfaceTree m_interface;
+};
+
+} // namespace tvxhost::mel
