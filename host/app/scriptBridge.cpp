@@ -1,6 +1,8 @@
 // ScriptBridge: conversions between values of the language and results of the API.
 #include "scriptBridge.h"
 
+#include "pluginCommands.h"
+
 #include <algorithm>
 #include <cstddef>
 
@@ -130,6 +132,8 @@ Value toValue(const ScriptRunner::Result& result)
 
 bool ScriptBridge::run(const std::string& script, bool display, bool /*undoable*/, Result& result)
 {
+    // A plug-in's interface procedure may use the commands that the plug-in has just registered.
+    m_commands.update();
     const auto value = m_interpreter.run(script);
     if (!value)
         return false;

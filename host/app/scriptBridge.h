@@ -7,12 +7,14 @@
 
 namespace tvxhost::app {
 
-/// Runs the API's scripts with an interpreter. Both outlive it.
+class PluginCommands;
+
+/// Runs the API's scripts with an interpreter, the commands of plug-ins included. All three outlive it.
 class ScriptBridge final : public engine::ScriptRunner
 {
 public:
-    ScriptBridge(mel::Interpreter& interpreter, engine::ScriptEditor& editor)
-        : m_interpreter(interpreter), m_editor(editor)
+    ScriptBridge(mel::Interpreter& interpreter, engine::ScriptEditor& editor, PluginCommands& commands)
+        : m_interpreter(interpreter), m_editor(editor), m_commands(commands)
     {
     }
 
@@ -23,6 +25,7 @@ public:
 private:
     mel::Interpreter& m_interpreter;
     engine::ScriptEditor& m_editor;
+    PluginCommands& m_commands;
 };
 
 /// A value of the language in the API's terms, and back.

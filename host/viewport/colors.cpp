@@ -1,26 +1,45 @@
 // Colours of the viewport.
 #include "colors.h"
 
+#include "api/ui/uiColors.h"
+
 namespace tvxhost::viewport {
 
-Color wireColor(M3dView::DisplayStatus status)
+namespace colors = api::colors;
+
+MColor wireColor(M3dView::DisplayStatus status)
 {
     switch (status) {
     case M3dView::kLead:
-        return {0.263f, 1.0f, 0.639f};
+        return colors::lead();
     case M3dView::kActive:
-        return {1.0f, 1.0f, 1.0f};
+        return colors::active();
     case M3dView::kHilite:
-        return {0.0f, 0.8f, 1.0f};
+        return colors::hilite();
     case M3dView::kTemplate:
-        return {0.5f, 0.5f, 0.5f};
+        return colors::templated();
     case M3dView::kActiveTemplate:
-        return {1.0f, 0.47f, 0.47f};
+        return colors::activeTemplate();
     case M3dView::kActiveAffected:
-        return {0.783f, 0.333f, 1.0f};
+        return colors::activeAffected();
     default:
-        return {0.0f, 0.016f, 0.376f};
+        return colors::dormant();
     }
+}
+
+MColor backgroundColor()
+{
+    return colors::background();
+}
+
+MColor gridColor()
+{
+    return {0.5f, 0.5f, 0.5f};
+}
+
+MColor gridAxisColor()
+{
+    return {0.0f, 0.0f, 0.0f};
 }
 
 } // namespace tvxhost::viewport

@@ -30,23 +30,24 @@ void gridLinePair(double offset)
 
 } // namespace
 
-void setColor(const Color& color)
+void setColor(const MColor& color)
 {
-    glColor4f(color[0], color[1], color[2], 1.0f);
+    glColor4f(color.r, color.g, color.b, 1.0f);
 }
 
 void clearPicture()
 {
-    glClearColor(kBackground[0], kBackground[1], kBackground[2], 1.0f);
+    const MColor background = backgroundColor();
+    glClearColor(background.r, background.g, background.b, 1.0f);
     glClear(GL_COLOR_BUFFER_BIT | GL_DEPTH_BUFFER_BIT);
 }
 
 void drawGrid()
 {
     glBegin(GL_LINES);
-    setColor(kGridAxes);
+    setColor(gridAxisColor());
     gridLinePair(0);
-    setColor(kGridLines);
+    setColor(gridColor());
     for (int i = 1; i <= kGridHalfSize; ++i) {
         gridLinePair(i);
         gridLinePair(-i);

@@ -29,6 +29,6 @@ std::vector<unsigned> wireIndices(const engine::MeshData& mesh);
 /// Maya's locator: three lines of `scale` to each side through `position`. Local space.
 void drawLocatorCross(const engine::Vec3d& position, const engine::Vec3d& scale);
 
-void setColor(const Color& color);
+void setColor(const MColor& color);
 
 } // namespace tvxhost::viewport

@@ -143,6 +143,16 @@ TEST_F(BadInput, APictureThatCannotBeWrittenIsNamed)
               "Error: Cannot write file \"" + target + "\": No such file or directory");
 }
 
+TEST_F(BadInput, ASceneThatAScriptLeftHalfChangedIsNotSaved)
+{
+    const std::string target = file("target.ma", "kept");
+    const ProgramResult result = runHost({"-e", "createNode transform; error \"stop\"", "--save", target});
+    EXPECT_EQ(result.exitCode, 1);
+    EXPECT_EQ(result.errors,
+              "Error: line 1: stop\nWarning: \"" + target + "\" is not written, because a script failed\n");
+    EXPECT_EQ(contentsOf(target), "kept");
+}
+
 TEST_F(BadInput, AFailedTextStopsNeitherTheNextNorTheExitCode)
 {
     const ProgramResult result = runHost({"-e", "error \"first\"", "-e", "print \"second\\n\""});

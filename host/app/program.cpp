@@ -1,0 +1,223 @@
+// Program: the options' work, each in a function of its own.
+#include "program.h"
+
+#include "nodeReport.h"
+#include "progress.h"
+
+#include "api/support/faults.h"
+#include "mel/checker.h"
+#include "scene/atomicFile.h"
+#include "scene/sceneText.h"
+#include "viewport/png.h"
+#include "viewport/viewport.h"
+
+#include <filesystem>
+#include <ostream>
+
+namespace tvxhost::app {
+
+namespace {
+
+using engine::Outcome;
+
+class Program
+{
+public:
+    Program(const Options& options, const Streams& streams)
+        : m_options(options), m_streams(streams),
+          m_session(options.interactive ? Session::Mode::interactive : Session::Mode::batch, streams.out,
+                    streams.err)
+    {
+    }
+
+    int run()
+    {
+        armFaults();
+        loadPreferences();
+        loadPlugins();
+        if (openScene()) {
+            runScripts();
+            report();
+            renderPicture();
+            saveScene();
+        }
+        savePreferences();
+        listCalls();
+        return m_session.editor().errors() == 0 ? 0 : 1;
+    }
+
+private:
+    void armFaults();
+    void loadPreferences();
+    void loadPlugins();
+    bool openScene();
+    void runScripts();
+    bool runScript();
+    bool runText(const std::string& text);
+    void report();
+    void renderPicture();
+    void saveScene();
+    void savePreferences();
+    void listCalls();
+
+    /// Shows what went wrong, if anything did.
+    bool check(const Outcome& outcome, const std::string& before = {}, const engine::ScriptPlace& place = {})
+    {
+        if (!outcome)
+            m_session.editor().error(before + outcome.text, place);
+        return static_cast<bool>(outcome);
+    }
+    void print(const std::string& text) { m_session.editor().print(text); }
+    void printLines(const std::vector<std::string>& lines)
+    {
+        for (const std::string& line : lines)
+            print(line + "\n");
+    }
+
+    const Options& m_options;
+    const Streams& m_streams;
+    Session m_session;
+    bool m_scriptsWorked = true;
+};
+
+void Program::armFaults()
+{
+    for (const Fault& fault : m_options.faults)
+        api::faults::failCall(fault.function, fault.call, MStatus(fault.code));
+    if (m_options.listCalls)
+        api::faults::record(true);
+}
+
+void Program::loadPreferences()
+{
+    if (m_options.preferences.empty())
+        return;
+    m_session.commands().preferencesFolder = m_options.preferences;
+    check(m_session.scene().optionVars().load(m_options.preferences));
+}
+
+void Program::loadPlugins()
+{
+    for (const std::string& plugin : m_options.plugins)
+        check(m_session.commands().loadPlugin(plugin, {}));
+}
+
+bool Program::openScene()
+{
+    if (m_options.scene.empty())
+        return true;
+    Progress progress(m_streams.err, m_streams.errIsTerminal,
+                      "reading " + std::filesystem::path(m_options.scene).filename().string());
+    m_session.commands().progress = [&progress](std::size_t done, std::size_t total) {
+        progress.update(done, total);
+    };
+    const scene::ReadResult result = m_session.commands().open(m_session.interpreter(), m_options.scene);
+    m_session.commands().progress = nullptr;
+    return check(result.outcome, {}, result.place);
+}
+
+void Program::runScripts()
+{
+    m_scriptsWorked = runScript();
+    for (const std::string& text : m_options.commands)
+        m_scriptsWorked = runText(text) && m_scriptsWorked;
+    m_scriptsWorked = m_session.interpreter().runDeferred() == 0 && m_scriptsWorked;
+}
+
+bool Program::runScript()
+{
+    if (m_options.script.empty())
+        return true;
+    try {
+        m_session.interpreter().sourceFile(m_options.script);
+        return true;
+    } catch (const mel::ScriptError& error) {
+        m_session.interpreter().report(error);
+        return false;
+    }
+}
+
+bool Program::runText(const std::string& text)
+{
+    const auto value = m_session.interpreter().run(text);
+    if (value && !value->isNone())
+        m_session.editor().result(mel::resultText(*value));
+    return value.has_value();
+}
+
+void Program::report()
+{
+    if (m_options.summary) {
+        const scene::SceneSummary& summary = m_session.commands().lastSummary;
+        print(*m_options.summary == ReportFormat::json ? scene::toJson(summary) + "\n"
+                                                       : scene::toText(summary));
+    }
+    if (m_options.listNodes)
+        printLines(listNodes(m_session.scene()));
+    if (m_options.evaluate) {
+        const Evaluation evaluation = evaluatePluginNodes(m_session.scene());
+        printLines(evaluation.lines);
+        for (const std::string& failure : evaluation.failures)
+            m_session.editor().error("cannot evaluate " + failure);
+    }
+}
+
+void Program::renderPicture()
+{
+    if (m_options.picture.empty())
+        return;
+    const auto picture = viewport::drawPicture(
+        m_session.scene(), {m_options.size.width, m_options.size.height, m_options.camera});
+    if (!check(picture.outcome, "cannot draw the viewport: "))
+        return;
+    const auto bytes = viewport::encodePng(picture.value);
+    if (check(bytes.outcome, "cannot draw the viewport: "))
+        check(scene::writeFileAtomically(m_options.picture, bytes.value));
+}
+
+void Program::saveScene()
+{
+    if (m_options.save.empty())
+        return;
+    // A scene that a script left half changed must not replace a whole one.
+    if (!m_scriptsWorked) {
+        m_session.editor().warning("\"" + m_options.save + "\" is not written, because a script failed");
+        return;
+    }
+    check(m_session.commands().saveAs(m_options.save));
+}
+
+void Program::savePreferences()
+{
+    const engine::OptionVars& optionVars = m_session.scene().optionVars();
+    if (!m_options.preferences.empty() && optionVars.isChanged())
+        check(optionVars.save(m_options.preferences));
+}
+
+void Program::listCalls()
+{
+    if (m_options.listCalls)
+        printLines(api::faults::calls());
+}
+
+int checkScript(const Options& options, const Streams& streams)
+{
+    const auto text = scene::readFile(options.check);
+    if (!text) {
+        streams.err << "Error: " << text.outcome.text << "\n";
+        return 1;
+    }
+    const mel::CheckReport report = mel::checkScript(text.value, options.check);
+    streams.out << (options.checkFormat == ReportFormat::json ? mel::toJson(report) + "\n"
+                                                              : mel::toText(report));
+    return report.ok() ? 0 : 1;
+}
+
+} // namespace
+
+int runProgram(const Options& options, const Streams& streams)
+{
+    return options.check.empty() ? Program(options, streams).run() : checkScript(options, streams);
+}
+
+} // namespace tvxhost::app
