@@ -7,6 +7,11 @@
 
 #include <ostream>
 
+// Reports a step of an entry point that Maya refused. `step` is a chain of stream insertions.
+#define TVX_REPORT_REFUSED(function, step, status)                                                           \
+    TVX_REPORT(core::kError, function,                                                                       \
+               function << ": Problem while " << step << " - " << (status).errorString())
+
 using namespace tarvox;
 using namespace tarvox::crowd;
 
@@ -17,25 +22,21 @@ PLUGIN_EXPORT MStatus initializePlugin(MObject object)
     MStatus status;
     MFnPlugin plugin(object, "Tarvox", "2.5.0.1", "Any", &status);
     if (!status) {
-        TVX_REPORT(core::kError, kFunction,
-                   kFunction << ": Problem while registering Plugin - " << status.errorString());
+        TVX_REPORT_REFUSED(kFunction, "registering Plugin", status);
         return MStatus::kFailure;
     }
     for (const NodeRow& row : nodeTable()) {
         status =
             plugin.registerNode(row.name, *row.id, row.creator, row.initialize, row.kind, row.classification);
         if (!status) {
-            TVX_REPORT(core::kError, kFunction,
-                       kFunction << ": Problem while registering " << row.name << " node - "
-                                 << status.errorString());
+            TVX_REPORT_REFUSED(kFunction, "registering " << row.name << " node", status);
             return MStatus::kFailure;
         }
     }
     status =
         plugin.registerUI("tvxCrowdRenderCreateUI", "tvxCrowdRenderDeleteUI", "tvxCrowdRenderBatchMode", "");
     if (!status) {
-        TVX_REPORT(core::kError, kFunction,
-                   kFunction << ": Problem while registering Crowd Render UI - " << status.errorString());
+        TVX_REPORT_REFUSED(kFunction, "registering Crowd Render UI", status);
         return MStatus::kFailure;
     }
     TVX_REPORT(core::kInfo, kFunction, kFunction << ": " << plugin.name() << " plugin loaded.");
@@ -49,9 +50,7 @@ PLUGIN_EXPORT MStatus uninitializePlugin(MObject object)
     for (const NodeRow& row : nodeTable()) {
         const MStatus status = plugin.deregisterNode(*row.id);
         if (!status) {
-            TVX_REPORT(core::kError, kFunction,
-                       kFunction << ": Problem while unregistering " << row.name << " node - "
-                                 << status.errorString());
+            TVX_REPORT_REFUSED(kFunction, "unregistering " << row.name << " node", status);
             return MStatus::kFailure;
         }
     }

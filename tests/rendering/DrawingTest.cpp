@@ -1,0 +1,149 @@
+// The GL calls of the shapes and of the proxy that draws with them.
+#include "rendering/tvxDrawing.h"
+
+#include "GlRecorder.h"
+#include "rendering/tvxCrowdProxyVRay.h"
+#include "rendering/tvxLocatorDrawing.h"
+
+#include <maya/M3dView.h>
+#include <maya/MDagPath.h>
+
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace tarvox::crowd {
+namespace {
+
+using test::GlRecorder;
+using Calls = std::vector<std::string>;
+
+Calls operator+(Calls first, const Calls& second)
+{
+    first.insert(first.end(), second.begin(), second.end());
+    return first;
+}
+
+std::string vertex(const char* coordinates)
+{
+    return std::string("glVertex3f(") + coordinates + ")";
+}
+
+// A box of sizes x = 2, z = 4, y = 6, edge by edge.
+const Calls kBox246 = {"glBegin(GL_LINES)",
+                       // the rectangle at z = +2
+                       vertex("1, 3, 2"), vertex("-1, 3, 2"),   //
+                       vertex("-1, 3, 2"), vertex("-1, -3, 2"), //
+                       vertex("-1, -3, 2"), vertex("1, -3, 2"), //
+                       vertex("1, -3, 2"), vertex("1, 3, 2"),
+                       // the rectangle at z = -2
+                       vertex("1, 3, -2"), vertex("-1, 3, -2"),   //
+                       vertex("-1, 3, -2"), vertex("-1, -3, -2"), //
+                       vertex("-1, -3, -2"), vertex("1, -3, -2"), //
+                       vertex("1, -3, -2"), vertex("1, 3, -2"),
+                       // from one to the other
+                       vertex("1, 3, 2"), vertex("1, 3, -2"),     //
+                       vertex("-1, 3, 2"), vertex("-1, 3, -2"),   //
+                       vertex("-1, -3, 2"), vertex("-1, -3, -2"), //
+                       vertex("1, -3, 2"), vertex("1, -3, -2"),   //
+                       "glEnd()"};
+
+// The same with every coordinate 1.
+const Calls kUnitBox = {"glBegin(GL_LINES)",
+                        vertex("1, 1, 1"),
+                        vertex("-1, 1, 1"), //
+                        vertex("-1, 1, 1"),
+                        vertex("-1, -1, 1"), //
+                        vertex("-1, -1, 1"),
+                        vertex("1, -1, 1"), //
+                        vertex("1, -1, 1"),
+                        vertex("1, 1, 1"), //
+                        vertex("1, 1, -1"),
+                        vertex("-1, 1, -1"), //
+                        vertex("-1, 1, -1"),
+                        vertex("-1, -1, -1"), //
+                        vertex("-1, -1, -1"),
+                        vertex("1, -1, -1"), //
+                        vertex("1, -1, -1"),
+                        vertex("1, 1, -1"), //
+                        vertex("1, 1, 1"),
+                        vertex("1, 1, -1"), //
+                        vertex("-1, 1, 1"),
+                        vertex("-1, 1, -1"), //
+                        vertex("-1, -1, 1"),
+                        vertex("-1, -1, -1"), //
+                        vertex("1, -1, 1"),
+                        vertex("1, -1, -1"), //
+                        "glEnd()"};
+
+TEST(WireBox, SpansItsSizesInTheOrderXZY)
+{
+    GlRecorder gl;
+    drawWireBox(2, 4, 6);
+    EXPECT_EQ(gl.calls(), kBox246);
+}
+
+TEST(WireBox, IsComputedInSinglePrecision)
+{
+    GlRecorder gl;
+    drawWireBox(0.2f, 0.3f, 0.7f);
+    EXPECT_EQ(gl.calls()[1], "glVertex3f(0.100000001, 0.349999994, 0.150000006)");
+}
+
+TEST(WireBox, OfNoSizeIsStillDrawn)
+{
+    GlRecorder gl;
+    drawWireBox(0, 0, 0);
+    EXPECT_EQ(gl.calls().size(), 26u);
+}
+
+TEST(ProxyColors, AreOrangeAndBrown)
+{
+    EXPECT_TRUE(activeProxyColor() == MColor(1.0f, 0.45f, 0.0f, 1.0f));
+    EXPECT_TRUE(dormantProxyColor() == MColor(0.65f, 0.3f, 0.1f, 1.0f));
+}
+
+// A proxy is drawn outside a scene: its draw looks at nothing but the status.
+Calls drawProxy(M3dView::DisplayStatus status)
+{
+    const std::unique_ptr<CrowdProxyVRay> proxy(static_cast<CrowdProxyVRay*>(CrowdProxyVRay::creator()));
+    M3dView view;
+    const MDagPath path;
+    GlRecorder gl;
+    proxy->draw(view, path, M3dView::kWireFrame, status);
+    return gl.calls();
+}
+
+Calls proxyInColor(const char* color)
+{
+    return Calls{"M3dView::beginGL", "glPushMatrix()", "glPushAttrib(GL_ALL_ATTRIB_BITS)",
+                 std::string("glColor4f(") + color + ")"} +
+           kUnitBox + Calls{"glPopAttrib()", "glPopMatrix()", "M3dView::endGL"};
+}
+
+TEST(ProxyVRayDrawing, IsAnOrangeCubeWhenSelected)
+{
+    const Calls active = proxyInColor("1, 0.449999988, 0, 1");
+    EXPECT_EQ(drawProxy(M3dView::kLead), active);
+    EXPECT_EQ(drawProxy(M3dView::kActive), active);
+}
+
+TEST(ProxyVRayDrawing, IsABrownCubeInEveryOtherState)
+{
+    const Calls dormant = proxyInColor("0.649999976, 0.300000012, 0.100000001, 1");
+    for (const auto status : {M3dView::kLive, M3dView::kDormant, M3dView::kInvisible, M3dView::kHilite,
+                              M3dView::kTemplate, M3dView::kActiveTemplate, M3dView::kActiveComponent,
+                              M3dView::kIntermediateObject, M3dView::kActiveAffected, M3dView::kNoStatus})
+        EXPECT_EQ(drawProxy(status), dormant) << status;
+}
+
+TEST(ProxyVRayDrawing, IsUnbounded)
+{
+    const std::unique_ptr<CrowdProxyVRay> proxy(static_cast<CrowdProxyVRay*>(CrowdProxyVRay::creator()));
+    EXPECT_FALSE(proxy->isBounded());
+}
+
+} // namespace
+} // namespace tarvox::crowd
