@@ -8,17 +8,20 @@
 #include "engine/selection.h"
 #include "engine/text.h"
 
-#include <maya/MDGContext.h>
 #include <maya/MArgList.h>
 #include <maya/MCommandResult.h>
+#include <maya/MDGContext.h>
+#include <maya/MDGModifier.h>
 #include <maya/MDagPath.h>
 #include <maya/MDataBlock.h>
 #include <maya/MFnBase.h>
+#include <maya/MFnDagNode.h>
 #include <maya/MObject.h>
 #include <maya/MPlug.h>
 #include <maya/MSelectionList.h>
 #include <maya/MStatus.h>
 #include <maya/MString.h>
+#include <maya/MTransformationMatrix.h>
 
 #include <memory>
 #include <string>
@@ -120,6 +123,8 @@ public:
     // MDGContext: null for the normal one
     static const tvxhost::api::DGContext* context(const MDGContext& context) { return context.context; }
 
+    static tvxhost::api::Modifier& modifier(MDGModifier& modifier) { return *modifier.modifier; }
+
     // Arrays: the vector that holds the elements
     template <class Array>
     static auto& elements(Array& array)
@@ -163,6 +168,16 @@ public:
                              path.isValid() ? new tvxhost::engine::DagPath(std::move(path)) : nullptr);
     }
 
+    // MTransformationMatrix
+    static tvxhost::api::Transformation& parts(MTransformationMatrix& matrix)
+    {
+        return *matrix.transformation;
+    }
+    static const tvxhost::api::Transformation& parts(const MTransformationMatrix& matrix)
+    {
+        return *matrix.transformation;
+    }
+
     // MSelectionList
     static tvxhost::engine::SelectionList& selection(MSelectionList& list) { return *list.list; }
     static const tvxhost::engine::SelectionList& selection(const MSelectionList& list) { return *list.list; }
@@ -174,6 +189,8 @@ public:
     static tvxhost::api::CommandValue& commandValue(MCommandResult& result) { return *result.value; }
 
     // Function sets
+    static MDagPath& pathOf(MFnDagNode& set) { return set.path; }
+    static const MDagPath& pathOf(const MFnDagNode& set) { return set.path; }
     static Object* attached(const MFnBase& set) { return reinterpret_cast<Object*>(set.f_ptr); }
     /// Attaches a set to an object, or (null) to nothing.
     static void attach(MFnBase& set, const Object* object)
