@@ -11,7 +11,7 @@
 #include "support/handleValues.h"
 #include "support/notImplemented.h"
 #include "support/plugCall.h"
-#include "support/unitValues.h"
+#include "support/plugUnits.h"
 
 #include <cmath>
 #include <memory>
@@ -44,39 +44,24 @@ MStatus requireNow(const MDGContext& context, const char* name)
     return notImplemented((std::string(name) + " at another time").c_str());
 }
 
-bool isTime(const Plug& plug)
-{
-    return plug.attribute()->unit == UnitKind::time;
-}
-
-// Numbers of a time attribute are UI units; the engine keeps seconds.
-Number toUi(const Plug& plug, const Number& stored)
-{
-    return isTime(plug) ? Number(uiTimeOf(stored.asReal())) : stored;
-}
-Number fromUi(const Plug& plug, const Number& given)
-{
-    return isTime(plug) ? Number(secondsOf(given.asReal())) : given;
-}
-
 // What a number of a plug is to the caller.
 void convert(const Plug& plug, const Number& stored, double& value)
 {
-    value = toUi(plug, stored).asReal();
+    value = toCaller(plug, stored).asReal();
 }
 void convert(const Plug& plug, const Number& stored, float& value)
 {
-    value = static_cast<float>(toUi(plug, stored).asReal());
+    value = static_cast<float>(toCaller(plug, stored).asReal());
 }
 void convert(const Plug& plug, const Number& stored, bool& value)
 {
-    const Number number = toUi(plug, stored);
+    const Number number = toCaller(plug, stored);
     value = number.isWhole ? number.whole != 0 : number.real != 0.0;
 }
 template <class Whole>
 void convert(const Plug& plug, const Number& stored, Whole& value)
 {
-    value = static_cast<Whole>(toUi(plug, stored).asWhole());
+    value = static_cast<Whole>(toCaller(plug, stored).asWhole());
 }
 void convert(const Plug&, const Number& stored, MAngle& value)
 {
@@ -161,14 +146,14 @@ MStatus get(const MPlug& plug, const char* name, const MDGContext& context, T& v
     return status ? readValue(p, value) : status;
 }
 
-MStatus set(const MPlug& plug, const char* name, const Number& ui)
+MStatus set(const MPlug& plug, const char* name, const Number& given)
 {
     TVX_API_CALL(name);
     const Plug& p = tvxAccess::plug(plug);
     MStatus status;
     if (!requirePlug(p, &status))
         return status;
-    return plugStatus(tvxhost::engine::writeNumber(p, fromUi(p, ui)));
+    return plugStatus(tvxhost::engine::writeNumber(p, toStored(p, given)));
 }
 
 /// Stores a number that is in internal units already.
@@ -184,9 +169,7 @@ MStatus setInternal(const MPlug& plug, const char* name, double internal)
 
 MStatus set(const MPlug& plug, const char* name, const MTime& time)
 {
-    const Plug& p = tvxAccess::plug(plug);
-    const double seconds = internalValue(time);
-    return setInternal(plug, name, !p.isNull() && isTime(p) ? seconds : uiTimeOf(seconds));
+    return setInternal(plug, name, toStored(tvxAccess::plug(plug), time).asReal());
 }
 
 MStatus set(const MPlug& plug, const char* name, const std::string& text)

@@ -1,0 +1,44 @@
+// What stands behind a MDGModifier: operations in a queue, done and undone in order.
+#include "modifier.h"
+
+#include <atomic>
+
+namespace tvxhost::api {
+
+namespace {
+
+std::atomic<bool> strictDisconnect{false};
+
+} // namespace
+
+void setStrictDisconnect(bool strict)
+{
+    strictDisconnect = strict;
+}
+
+bool isDisconnectStrict()
+{
+    return strictDisconnect;
+}
+
+MStatus Modifier::doIt()
+{
+    for (; done < queue.size(); ++done) {
+        const MStatus status = queue[done].perform();
+        if (!status) {
+            queue.resize(done);
+            return status;
+        }
+    }
+    return MS::kSuccess;
+}
+
+MStatus Modifier::undoIt()
+{
+    for (; done > 0; --done)
+        if (const MStatus status = queue[done - 1].revert(); !status)
+            return status;
+    return MS::kSuccess;
+}
+
+} // namespace tvxhost::api
