@@ -90,7 +90,12 @@ struct EnumField
 class Attribute : public Object
 {
 public:
+    /// Compounds in compounds go this deep at most, and hold this many arrays in one another.
+    static constexpr int kMaxNesting = 12;
+    static constexpr int kMaxArrayDepth = 4;
+
     Attribute(AttributeKind kind, std::string longName, std::string shortName);
+    ~Attribute() override;
 
     AttributeKind kind = AttributeKind::numeric;
     std::string longName;
@@ -104,6 +109,7 @@ public:
     NumberKind number = NumberKind::none; ///< numeric, unit (real), enumeration (shortInteger)
     UnitKind unit = UnitKind::none;
     DataType dataType = DataType::none; ///< typed
+    std::string pluginDataType;         ///< typed: the name of a data type that is `DataType::plugin`
     bool singleMatrix = false;          ///< matrix of floats
     std::vector<DataType> acceptedData; ///< generic
     std::vector<EnumField> fields;
@@ -121,7 +127,8 @@ public:
     Attribute* parent = nullptr;          ///< the compound or number group that holds this one
     std::vector<Ref<Attribute>> children; ///< compound, number group
     const NodeType* owner = nullptr;      ///< the type it was added to; null while free or when dynamic
-    int index = -1; ///< place among the top-level attributes of the node type's whole list
+    int index = -1;        ///< place among the top-level attributes of the node type's whole list
+    int siblingIndex = -1; ///< place among the children of the parent
 
     bool isCompound() const { return !children.empty() || kind == AttributeKind::compound; }
     /// A group of equal numbers whose values lie side by side (float3, double3, long2 …).
@@ -133,6 +140,8 @@ public:
     int childIndex(const Attribute& child) const;
     /// True when this attribute is `other` or stands below it.
     bool isAtOrBelow(const Attribute& other) const;
+    /// Whether it and all below it stay within kMaxNesting and kMaxArrayDepth.
+    bool isNestedWithinLimits() const;
 
     /// Adds a child (before the attribute itself is added to a type).
     void addChild(Ref<Attribute> child);

@@ -20,6 +20,8 @@ public:
     static DagPath firstTo(DagNode& node);
     /// All paths, in order of instance number: by parent index, depth first.
     static std::vector<DagPath> allTo(DagNode& node);
+    /// How many there are.
+    static std::size_t countTo(const DagNode& node);
 
     bool isValid() const;
     /// Nodes below the world.

@@ -7,15 +7,19 @@
 
 #include <Imath/ImathBox.h>
 
+#include <cstdint>
+#include <list>
 #include <memory>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace tvxhost::engine {
 
 class CellStore;
 class DagNode;
+class NameTable;
 class Scene;
 
 /// The code of one node of a plug-in's type. Owned by its node.
@@ -72,6 +76,14 @@ public:
     Outcome addDynamicAttribute(const Ref<Attribute>& attribute);
     Outcome removeDynamicAttribute(Attribute& attribute);
 
+    /// Gives a plug of this node a further name, under which it is found; an empty one takes it away.
+    /// nameTaken when an attribute or another plug has the name, invalidName for what is not a legal one.
+    Outcome setAlias(const Plug& plug, const std::string& alias);
+    /// Empty when the plug has none.
+    std::string aliasOf(const Plug& plug) const;
+    /// Alias and the plug's path (long names, without the node), in the order in which they were given.
+    const std::vector<std::pair<std::string, std::string>>& aliases() const { return m_aliases; }
+
     /// A plug by a path such as "t", "translateX", "iog[0].og[1].gcl"; `error` set when there is none.
     /// A range ("vt[0:15]") is not a plug: see scene/.
     Expected<Plug> findPlug(const std::string& path);
@@ -83,18 +95,26 @@ public:
     /// like), as they stood and in order, to be written back.
     std::vector<std::string> keptLines;
 
+    /// Rises with every node that is made: tells which of two came first.
+    std::uint64_t serial() const { return m_serial; }
+
     CellStore& cells() { return *m_cells; }
     const CellStore& cells() const { return *m_cells; }
 
 private:
+    friend class NameTable;
     friend class Scene;
     Scene* m_scene;
     NodeType* m_type;
     std::string m_name;
     std::string m_uuid;
     std::vector<Ref<Attribute>> m_dynamic;
+    std::vector<std::pair<std::string, std::string>> m_aliases;
     std::unique_ptr<CellStore> m_cells;
     std::unique_ptr<NodeBehaviour> m_behaviour;
+    std::list<Node*>::iterator m_place; ///< in the scene's list
+    std::uint64_t m_serial = 0;         ///< rises with every node that is made
+    std::size_t m_nameSlot = 0;         ///< among the nodes of its name
 };
 
 /// A node with a place in the DAG: transforms, shapes and the world.
@@ -113,6 +133,7 @@ public:
     /// In DAG order, shapes and transforms mixed.
     const std::vector<DagNode*>& children() const { return m_children; }
 
+    /// Reads the attribute without evaluating anything.
     bool isIntermediate();
     /// The local matrix of a transform (identity for shapes), row vectors, centimetres and radians inside.
     Matrix localMatrix();

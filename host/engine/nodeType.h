@@ -41,6 +41,9 @@ public:
     NodeType* parent = nullptr; ///< null for the root type, "node"
     std::string plugin;         ///< the plug-in that registered it; empty for built-in types
     std::string classification;
+    /// Shapes: new ones are called baseName + "Shape" + number below a transform baseName + number. Empty (as
+    /// for plug-ins' types): the type's name and number below "transform" + number.
+    std::string baseName;
     bool isDag = false;
     bool isShape = false;
     bool isAbstract = false;    ///< cannot be created
@@ -74,12 +77,16 @@ public:
     int liveNodes = 0; ///< nodes of exactly this type in the scene
 
 private:
+    friend class TypeTable;
     std::vector<Ref<Attribute>> m_attributes;
     std::unordered_map<std::string, Attribute*> m_names;
     std::vector<std::pair<Attribute*, Attribute*>> m_affects;
     mutable std::unordered_map<const Attribute*, std::vector<Attribute*>> m_affectedCache;
     mutable std::unordered_map<const Attribute*, bool> m_outputCache;
 };
+
+/// Says that an attribute and all below it belong to a type; null: to none any more.
+void setOwner(Attribute& attribute, const NodeType* owner);
 
 /// All node types. Built-in ones are there from the start; they come from the tables in engine/types.
 class TypeTable
@@ -96,13 +103,24 @@ public:
 
     /// Registers a type; its attributes are added afterwards. nameTaken when name or id is in use.
     Expected<NodeType*> add(std::string name, std::uint32_t id, NodeType& parent);
+    /// The root type, which has no parent.
+    Expected<NodeType*> addRoot(std::string name, std::uint32_t id);
+    /// A number for a built-in type that has no id of its own.
+    std::uint32_t nextNamelessId();
     /// Forgets a type. Nodes of it must be gone (inUse otherwise; turn them into unknown nodes first).
     Outcome remove(NodeType& type);
 
 private:
+    friend class Scene;
+    Expected<NodeType*> insert(std::unique_ptr<NodeType> type);
+    /// A type of no name that stands for `type` once it is gone: same attributes, nothing is computed.
+    NodeType& retire(NodeType& type);
+
     std::vector<std::unique_ptr<NodeType>> m_types;
+    std::vector<std::unique_ptr<NodeType>> m_retired;
     std::unordered_map<std::string, NodeType*> m_byName;
     std::unordered_map<std::uint32_t, NodeType*> m_byId;
+    std::uint32_t m_lastNamelessId = 0;
 };
 
 } // namespace tvxhost::engine

@@ -30,7 +30,7 @@ struct PlugNameStyle
 class Plug
 {
 public:
-    static constexpr int kMaxDepth = 4;
+    static constexpr int kMaxDepth = Attribute::kMaxArrayDepth;
     static constexpr int kNoIndex = -1;
 
     Plug() = default;
@@ -89,6 +89,7 @@ struct Number
 
     Number() = default;
     Number(std::int64_t n) : whole(n), real(static_cast<double>(n)) {}
+    Number(int n) : Number(static_cast<std::int64_t>(n)) {}
     Number(double x) : isWhole(false), whole(0), real(x) {}
     double asReal() const { return real; }
     /// C's conversion towards zero; what does not fit is clamped, not a number is 0.
@@ -115,6 +116,12 @@ Expected<std::string> readString(const Plug& plug);
 /// A number group gives a new NumericData.
 Expected<Ref<Data>> readData(const Plug& plug);
 
+/// Stores a number past all refusals, for values that the host itself keeps up to date (the time, what a
+/// built-in compute yields); marks clean and spreads dirtiness.
+void storeInternal(const Plug& plug, const Number& value);
+/// The same for data; takes the object, not a copy.
+void storeInternal(const Plug& plug, Ref<Data> data);
+
 // Writing. Each stores, marks clean and spreads dirtiness; refused with lockedOrConnected, notWritable
 // (unless `internal`), pastMinimum, pastMaximum, typeMismatch and the like, the value then being unchanged.
 enum class Limits
@@ -126,6 +133,9 @@ enum class Limits
 Outcome writeNumber(const Plug& plug, const Number& value, Limits limits = Limits::refuse);
 /// One number per leaf, all or nothing.
 Outcome writeNumbers(const Plug& plug, const std::vector<double>& values, Limits limits = Limits::refuse);
+/// Sets the elements of an array of numbers or number groups from `first` upwards, `count` numbers in all:
+/// what the many values of a mesh are read with.
+Outcome writeElements(const Plug& arrayPlug, int first, const double* values, std::size_t count);
 Outcome writeString(const Plug& plug, const std::string& value);
 /// Stores a copy.
 Outcome writeData(const Plug& plug, const Data& data);

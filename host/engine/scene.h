@@ -14,12 +14,15 @@
 #include <functional>
 #include <list>
 #include <memory>
+#include <set>
 #include <string>
 #include <unordered_map>
 #include <utility>
 #include <vector>
 
 namespace tvxhost::engine {
+
+class NameTable;
 
 /// Runs a script: implemented by the language, called by the API. `result` is the value of the last statement
 /// as the language's own type, opaque here.
@@ -121,6 +124,8 @@ public:
     Expected<Plug> findPlug(const std::string& name) const;
     /// The shortest name that is unique: path without more ancestors than needed.
     std::string shortestName(const Node& node) const;
+    /// How many DAG paths end in these nodes' names, one below the other; counts no further than 2.
+    std::size_t countPathsEndingIn(const std::vector<DagNode*>& ending) const;
 
     // Namespaces
     // -----------------------------------------------------------------------------------------------
@@ -160,6 +165,9 @@ public:
     double time() const { return m_time; }
     void setTime(double seconds);
 
+    /// Removes a connection however the two plugs were made (the caller knows that it exists).
+    void breakConnection(const Plug& source, const Plug& destination);
+
     // Files
     // ----------------------------------------------------------------------------------------------------
     /// Empties the scene: default nodes, cameras, units; preferences, types and plug-ins stay.
@@ -189,10 +197,30 @@ public:
     std::vector<std::function<void(Node&)>> onCreated, onDeleted;
 
 private:
-    friend class Node;
-    struct Names;
+    struct Creation;
 
-    Node* adopt(Ref<Node> node, const std::string& name, const DagNode* parent);
+    Expected<Node*> makeNode(NodeType& type, const std::string& name, DagNode* parent);
+    DagNode& makeWorld();
+    void adopt(Node& node, const std::string& name);
+    void retireNode(Node& node);
+    void setName(Node& node, const std::string& name);
+    bool isNameFree(const std::string& name, const Node* except, const DagNode* parent) const;
+    std::string absoluteName(const std::string& name) const;
+    /// Replaces what no name may hold, with a warning when `warn`.
+    std::string legalName(const std::string& name, bool warn);
+    void addNamespaceOf(const std::string& name);
+    void emptyScene();
+
+    std::vector<Node*> candidates(const std::string& name) const;
+    std::vector<DagNode*> candidatesOfPath(const std::string& path) const;
+
+    void link(DagNode& parent, DagNode& child);
+    void unlink(DagNode& parent, DagNode& child);
+    Outcome checkParenting(const DagNode& child, const DagNode& parent) const;
+
+    Outcome connectChecked(const Plug& source, const Plug& destination, bool force);
+    Outcome connectThroughConversion(const Plug& source, const Plug& destination, bool force);
+    void disconnectAll(Node& node);
 
     bool m_batch;
     std::unique_ptr<TypeTable> m_types;
@@ -200,7 +228,9 @@ private:
     OptionVars m_optionVars;
     Units m_units;
     std::list<Node*> m_nodes;
-    std::unique_ptr<Names> m_names;
+    std::uint64_t m_nextSerial = 1;
+    std::unique_ptr<NameTable> m_names;
+    std::set<std::string> m_namespaces; ///< without the root
     DagNode* m_world = nullptr;
     std::string m_namespace = ":";
     SelectionList m_selection;

@@ -4,7 +4,9 @@
 #include "dagPath.h"
 #include "plug.h"
 
+#include <cstddef>
 #include <string>
+#include <unordered_map>
 #include <vector>
 
 namespace tvxhost::engine {
@@ -33,10 +35,15 @@ public:
     void add(const SelectionItem& item);
     void remove(const SelectionItem& item);
     void removeAt(std::size_t i);
-    void clear() { m_items.clear(); }
+    /// Takes out every item of a node.
+    void removeNode(const Node& node);
+    void clear();
 
 private:
+    void count(const SelectionItem& item, bool more);
+
     std::vector<SelectionItem> m_items;
+    std::unordered_map<const Node*, std::size_t> m_itemsOf; ///< how many, so that most look-ups end here
 };
 
 } // namespace tvxhost::engine

@@ -1,0 +1,110 @@
+// Writing files whole or not at all: see atomicFile.h.
+#include "atomicFile.h"
+
+#include <cerrno>
+#include <cstring>
+#include <random>
+#include <string>
+#include <system_error>
+
+#include <fcntl.h>
+#include <unistd.h>
+
+namespace tvxhost::engine {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+Outcome failure(const fs::path& path, const char* what)
+{
+    return {Reason::failed,
+            "cannot " + std::string(what) + " '" + path.string() + "': " + std::strerror(errno)};
+}
+
+/// An open file that is removed again unless it was kept.
+class TemporaryFile
+{
+public:
+    explicit TemporaryFile(const fs::path& target)
+        : m_path(target.string() + "." + std::to_string(std::random_device()()) + ".tmp"),
+          m_file(::open(m_path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666))
+    {
+    }
+    ~TemporaryFile()
+    {
+        if (m_file < 0)
+            return;
+        if (!m_closed)
+            ::close(m_file);
+        if (!m_kept)
+            ::unlink(m_path.c_str());
+    }
+    TemporaryFile(const TemporaryFile&) = delete;
+    TemporaryFile& operator=(const TemporaryFile&) = delete;
+
+    bool isOpen() const { return m_file >= 0; }
+    bool write(std::string_view text)
+    {
+        while (!text.empty()) {
+            const ssize_t written = ::write(m_file, text.data(), text.size());
+            if (written < 0 && errno == EINTR)
+                continue;
+            if (written < 0)
+                return false;
+            text.remove_prefix(static_cast<std::size_t>(written));
+        }
+        return true;
+    }
+    bool close()
+    {
+        const bool synced = ::fsync(m_file) == 0;
+        m_closed = true;
+        return ::close(m_file) == 0 && synced;
+    }
+    void takePermissions(fs::perms permissions)
+    {
+        std::error_code ignored;
+        fs::permissions(m_path, permissions, ignored);
+    }
+    bool renameTo(const fs::path& target)
+    {
+        m_kept = ::rename(m_path.c_str(), target.c_str()) == 0;
+        return m_kept;
+    }
+
+private:
+    std::string m_path;
+    int m_file;
+    bool m_closed = false;
+    bool m_kept = false;
+};
+
+/// Where a symbolic link points to: the link itself is to stay.
+fs::path followed(const fs::path& path)
+{
+    std::error_code error;
+    const fs::path real = fs::canonical(path, error);
+    return error ? path : real;
+}
+
+} // namespace
+
+Outcome writeFileAtomically(const fs::path& path, std::string_view text)
+{
+    const fs::path target = followed(path);
+    TemporaryFile file(target);
+    if (!file.isOpen() || !file.write(text) || !file.close())
+        return failure(path, "write");
+    std::error_code error;
+    const fs::file_status old = fs::status(target, error);
+    if (fs::exists(old) && !fs::is_regular_file(old))
+        return {Reason::failed, "cannot replace '" + path.string() + "': it is not a file"};
+    if (fs::exists(old))
+        file.takePermissions(old.permissions());
+    if (!file.renameTo(target))
+        return failure(path, "replace");
+    return {};
+}
+
+} // namespace tvxhost::engine

@@ -1,0 +1,315 @@
+// Cell: see cell.h.
+#include "cell.h"
+
+#include "node.h"
+#include "number.h"
+
+#include <algorithm>
+#include <array>
+#include <cstring>
+
+namespace tvxhost::engine {
+
+namespace {
+
+auto lowerBoundOf(const std::vector<std::unique_ptr<Cell>>& elements, int logicalIndex)
+{
+    return std::lower_bound(
+        elements.begin(), elements.end(), logicalIndex,
+        [](const std::unique_ptr<Cell>& cell, int index) { return cell->index() < index; });
+}
+
+/// Bytes from the start of a number group to one of its numbers.
+std::size_t offsetInGroup(const Attribute& child)
+{
+    return static_cast<std::size_t>(child.siblingIndex) * sizeOf(child.number);
+}
+
+bool isInNumberGroup(const Attribute& attribute)
+{
+    return attribute.parent && attribute.parent->isNumberGroup() && !attribute.isArray();
+}
+
+} // namespace
+
+void Cell::compactDestinations()
+{
+    // Rare enough to be free on average, and it keeps the order.
+    std::vector<Cell*>& cells = m_links->m_destinations;
+    if (m_links->m_gone * 2 <= cells.size())
+        return;
+    cells.erase(std::remove(cells.begin(), cells.end(), nullptr), cells.end());
+    for (std::size_t i = 0; i < cells.size(); ++i)
+        cells[i]->m_links->m_place = i;
+    m_links->m_gone = 0;
+}
+
+Cell::Cell(CellStore& store, Cell* parent, Attribute& attribute, int index)
+    : m_store(store), m_parent(parent), m_attribute(attribute), m_index(index)
+{
+    const std::size_t size = isArray() ? 0 : numberBytes(attribute);
+    if (size == 0)
+        return;
+    if (isInNumberGroup(attribute)) {
+        m_bytes = parent->m_bytes + offsetInGroup(attribute);
+        return;
+    }
+    m_ownsBytes = size > sizeof m_small;
+    m_bytes = m_ownsBytes ? new std::uint8_t[size] : m_small;
+    storeDefault(attribute, m_bytes);
+}
+
+Cell::~Cell()
+{
+    if (m_ownsBytes)
+        delete[] m_bytes;
+}
+
+Plug Cell::plug() const
+{
+    Plug result(m_store.node(), m_attribute);
+    for (const Cell* cell = this; cell; cell = cell->m_parent)
+        if (cell->m_index != Plug::kNoIndex)
+            result.selectIndex(cell->m_attribute, cell->m_index);
+    return result;
+}
+
+Cell* Cell::findChild(const Attribute& child) const
+{
+    const auto place = static_cast<std::size_t>(child.siblingIndex);
+    return place < m_below.size() ? m_below[place].get() : nullptr;
+}
+
+Cell& Cell::makeChild(Attribute& child)
+{
+    if (m_below.empty())
+        m_below.resize(m_attribute.children.size());
+    std::unique_ptr<Cell>& place = m_below[static_cast<std::size_t>(child.siblingIndex)];
+    if (!place)
+        place = std::make_unique<Cell>(m_store, this, child, Plug::kNoIndex);
+    return *place;
+}
+
+Cell* Cell::findElement(int logicalIndex) const
+{
+    const auto place = lowerBoundOf(m_below, logicalIndex);
+    return place != m_below.end() && (*place)->m_index == logicalIndex ? place->get() : nullptr;
+}
+
+Cell& Cell::makeElement(int logicalIndex)
+{
+    const auto place = lowerBoundOf(m_below, logicalIndex);
+    if (place != m_below.end() && (*place)->m_index == logicalIndex)
+        return **place;
+    auto element = std::make_unique<Cell>(m_store, this, m_attribute, logicalIndex);
+    adoptValue(logicalIndex, *element);
+    return **m_below.insert(place, std::move(element));
+}
+
+void Cell::adoptValue(int logicalIndex, Cell& element) const
+{
+    if (!m_packed || !m_packed->has(logicalIndex))
+        return;
+    // The packed value stays where it is, unseen: taking it out would move all that follow.
+    element.wasSet = true;
+    if (const std::uint8_t* packedBytes = m_packed->bytes(logicalIndex))
+        std::memcpy(element.m_bytes, packedBytes, numberBytes(m_attribute));
+    else
+        element.m_data = *m_packed->data(logicalIndex);
+}
+
+void Cell::removeElement(int logicalIndex)
+{
+    const auto place = lowerBoundOf(m_below, logicalIndex);
+    if (place != m_below.end() && (*place)->m_index == logicalIndex)
+        m_below.erase(place);
+    if (m_packed)
+        m_packed->remove(logicalIndex);
+}
+
+bool Cell::canPack() const
+{
+    return isArray() && (numberBytes(m_attribute) != 0 || m_attribute.kind == AttributeKind::typed);
+}
+
+PackedElements* Cell::packedFor(int logicalIndex)
+{
+    if (!canPack() || findElement(logicalIndex))
+        return nullptr;
+    if (!m_packed)
+        m_packed = std::make_unique<PackedElements>(numberBytes(m_attribute));
+    return m_packed.get();
+}
+
+Links& Cell::makeLinks()
+{
+    if (!m_links) {
+        m_links = std::make_unique<Links>();
+        countLinked(true);
+    }
+    return *m_links;
+}
+
+void Cell::countLinked(bool more)
+{
+    for (Cell* cell = this; cell; cell = cell->m_parent)
+        cell->m_linkedCells += more ? 1 : static_cast<std::size_t>(-1);
+}
+
+void Cell::dropEmptyLinks()
+{
+    if (!m_links || !m_links->empty())
+        return;
+    m_links.reset();
+    countLinked(false);
+    for (const Cell* cell = this; cell->m_parent; cell = cell->m_parent)
+        if (cell->m_index != Plug::kNoIndex)
+            cell->m_parent->firstFreeHint = std::min(cell->m_parent->firstFreeHint, cell->m_index);
+}
+
+void Cell::connectFrom(Cell& source)
+{
+    Links& mine = makeLinks();
+    Links& theirs = source.makeLinks();
+    mine.m_source = &source;
+    mine.m_place = theirs.m_destinations.size();
+    theirs.m_destinations.push_back(this);
+}
+
+void Cell::disconnectFromSource()
+{
+    Cell& source = *m_links->m_source;
+    Links& theirs = *source.m_links;
+    theirs.m_destinations[m_links->m_place] = nullptr;
+    ++theirs.m_gone;
+    source.compactDestinations();
+    m_links->m_source = nullptr;
+    dropEmptyLinks();
+    source.dropEmptyLinks();
+}
+
+Cell* CellStore::find(const Attribute& topLevel) const
+{
+    const auto place =
+        std::lower_bound(m_roots.begin(), m_roots.end(), &topLevel,
+                         [](const std::unique_ptr<Cell>& cell, const Attribute* attribute) {
+                             return std::less<const Attribute*>()(&cell->attribute(), attribute);
+                         });
+    return place != m_roots.end() && &(*place)->attribute() == &topLevel ? place->get() : nullptr;
+}
+
+Cell& CellStore::make(Attribute& topLevel)
+{
+    if (Cell* cell = find(topLevel))
+        return *cell;
+    const auto place =
+        std::upper_bound(m_roots.begin(), m_roots.end(), &topLevel,
+                         [](const Attribute* attribute, const std::unique_ptr<Cell>& cell) {
+                             return std::less<const Attribute*>()(attribute, &cell->attribute());
+                         });
+    return **m_roots.insert(place, std::make_unique<Cell>(*this, nullptr, topLevel, Plug::kNoIndex));
+}
+
+void CellStore::remove(const Attribute& topLevel)
+{
+    m_roots.erase(
+        std::remove_if(m_roots.begin(), m_roots.end(),
+                       [&](const std::unique_ptr<Cell>& cell) { return &cell->attribute() == &topLevel; }),
+        m_roots.end());
+}
+
+namespace {
+
+/// One step on the way from the top to a plug: into a child, or into an element of the array just reached.
+struct Step
+{
+    Attribute* attribute;
+    int index; ///< of the element to take, when `isElement`
+    bool isElement;
+};
+
+/// The way from the top-level attribute to a plug.
+class Way
+{
+public:
+    explicit Way(const Plug& plug)
+    {
+        int level = plug.indexCount();
+        bool isArrayItself = plug.isArray();
+        for (Attribute* attribute = plug.attribute(); attribute; attribute = attribute->parent) {
+            if (attribute->isArray() && !isArrayItself)
+                m_steps[--m_first] = {attribute, plug.indices()[static_cast<std::size_t>(--level)], true};
+            isArrayItself = false;
+            m_steps[--m_first] = {attribute, Plug::kNoIndex, false};
+        }
+    }
+
+    const Step* begin() const { return m_steps.data() + m_first; }
+    const Step* end() const { return m_steps.data() + m_steps.size(); }
+
+private:
+    static constexpr std::size_t kMaxSteps = Attribute::kMaxNesting + Plug::kMaxDepth;
+    std::array<Step, kMaxSteps> m_steps;
+    std::size_t m_first = kMaxSteps;
+};
+
+} // namespace
+
+Cell* CellStore::findNearest(const Plug& plug) const
+{
+    Cell* cell = nullptr;
+    for (const Step& step : Way(plug)) {
+        Cell* next = !cell            ? find(*step.attribute)
+                     : step.isElement ? cell->findElement(step.index)
+                                      : cell->findChild(*step.attribute);
+        if (!next)
+            break;
+        cell = next;
+    }
+    return cell;
+}
+
+Cell* CellStore::find(const Plug& plug) const
+{
+    Cell* cell = findNearest(plug);
+    const bool isThere = cell && &cell->attribute() == plug.attribute() && cell->isArray() == plug.isArray();
+    return isThere ? cell : nullptr;
+}
+
+Cell* CellStore::make(const Plug& plug)
+{
+    Cell* cell = nullptr;
+    for (const Step& step : Way(plug)) {
+        if (step.isElement && step.index < 0)
+            return nullptr;
+        cell = !cell            ? &make(*step.attribute)
+               : step.isElement ? &cell->makeElement(step.index)
+                                : &cell->makeChild(*step.attribute);
+    }
+    return cell;
+}
+
+ValuePlace CellStore::valueOf(const Plug& plug) const
+{
+    const Cell* cell = findNearest(plug);
+    if (!cell)
+        return {};
+    Attribute& attribute = *plug.attribute();
+    if (&cell->attribute() == &attribute && cell->isArray() == plug.isArray())
+        return {cell->bytes(), cell->bytes() ? nullptr : &cell->data()};
+
+    const std::size_t offset = isInNumberGroup(attribute) ? offsetInGroup(attribute) : 0;
+    const Attribute& holder = isInNumberGroup(attribute) ? *attribute.parent : attribute;
+    if (&cell->attribute() != &holder)
+        return {};
+    if (!cell->isArray())
+        return {cell->bytes() + offset, nullptr};
+    if (!cell->packed())
+        return {};
+    const int index = plug.logicalIndex();
+    if (const std::uint8_t* bytes = cell->packed()->bytes(index))
+        return {bytes + offset, nullptr};
+    return {nullptr, cell->packed()->data(index)};
+}
+
+} // namespace tvxhost::engine

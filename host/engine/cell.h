@@ -1,0 +1,168 @@
+// Cell: where the value, the connections and the state of one plug live; CellStore: the cells of one node.
+#pragma once
+
+#include "attribute.h"
+#include "data.h"
+#include "packedElements.h"
+#include "plug.h"
+
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <vector>
+
+namespace tvxhost::engine {
+
+class Cell;
+class CellStore;
+
+/// Whether a value may be used as it is. `inherited`: as the cell above says, at the top as the attribute
+/// says (outputs begin dirty, everything else clean).
+enum class Freshness : std::uint8_t
+{
+    inherited,
+    dirty,
+    clean
+};
+
+/// The connections of one cell.
+class Links
+{
+public:
+    Cell* source() const { return m_source; }
+    /// In the order of connecting; null where one has gone.
+    const std::vector<Cell*>& destinations() const { return m_destinations; }
+    bool hasDestinations() const { return m_destinations.size() > m_gone; }
+    bool empty() const { return !m_source && !hasDestinations(); }
+
+private:
+    friend class Cell;
+
+    Cell* m_source = nullptr;
+    std::size_t m_place = 0; ///< among the destinations of the source
+    std::vector<Cell*> m_destinations;
+    std::size_t m_gone = 0;
+};
+
+/// One plug's storage. Made when it is needed: a plug without a cell has its attribute's default, no
+/// connection and no state of its own. Cells mirror the attributes: those of a compound hold its children's,
+/// those of an array its elements'. The numbers of a group lie in the group's cell, its children point there.
+class Cell
+{
+public:
+    Cell(CellStore& store, Cell* parent, Attribute& attribute, int index);
+    ~Cell();
+    Cell(const Cell&) = delete;
+    Cell& operator=(const Cell&) = delete;
+
+    CellStore& store() const { return m_store; }
+    Cell* parent() const { return m_parent; }
+    Attribute& attribute() const { return m_attribute; }
+    /// Logical index of an element, Plug::kNoIndex for anything else.
+    int index() const { return m_index; }
+    bool isArray() const { return m_attribute.isArray() && m_index == Plug::kNoIndex; }
+    Plug plug() const;
+
+    // Cells below. Children of a compound may be null; elements are in ascending order and never null.
+    const std::vector<std::unique_ptr<Cell>>& below() const { return m_below; }
+    Cell* findChild(const Attribute& child) const;
+    Cell& makeChild(Attribute& child);
+    Cell* findElement(int logicalIndex) const;
+    /// An element that was packed moves into its own cell.
+    Cell& makeElement(int logicalIndex);
+    /// Forgets an element that has no connections.
+    void removeElement(int logicalIndex);
+
+    // Packed elements of an array of numbers or data; null when there are none.
+    const PackedElements* packed() const { return m_packed.get(); }
+    /// Where a packed element is or shall be; null when the array cannot be packed or the element has a cell.
+    PackedElements* packedFor(int logicalIndex);
+
+    // Value
+    std::uint8_t* bytes() const { return m_bytes; } ///< null when the plug holds no plain numbers
+    Ref<Data>* data() { return &m_data; }
+    const Ref<Data>& data() const { return m_data; }
+
+    // Connections
+    const Links* links() const { return m_links.get(); }
+    Cell* source() const { return m_links ? m_links->source() : nullptr; }
+    /// How many cells at and below this one have a connection.
+    std::size_t linkedCells() const { return m_linkedCells; }
+    void connectFrom(Cell& source);
+    void disconnectFromSource();
+
+    /// For arrays: all elements below this index are connected. Raised by those who look for a free one.
+    int firstFreeHint = 0;
+
+    // State
+    Freshness freshness = Freshness::inherited;
+    bool mixedBelow = false; ///< some cell below has a freshness of its own
+    bool wasSet = false;
+    bool evaluating = false;
+    bool failureTold = false;
+    bool cycleTold = false;
+    PlugState state;
+
+private:
+    bool canPack() const;
+    void adoptValue(int logicalIndex, Cell& element) const;
+    Links& makeLinks();
+    void countLinked(bool more);
+    void dropEmptyLinks();
+    void compactDestinations();
+
+    CellStore& m_store;
+    Cell* m_parent;
+    Attribute& m_attribute;
+    int m_index;
+    bool m_ownsBytes = false;
+    alignas(8) std::uint8_t m_small[8] = {};
+    std::uint8_t* m_bytes = nullptr;
+    Ref<Data> m_data;
+    std::vector<std::unique_ptr<Cell>> m_below;
+    std::unique_ptr<PackedElements> m_packed;
+    std::unique_ptr<Links> m_links;
+    std::size_t m_linkedCells = 0;
+};
+
+/// Where a plug's value can be read without making a cell. All null: the attribute's default.
+struct ValuePlace
+{
+    const std::uint8_t* bytes = nullptr;
+    const Ref<Data>* data = nullptr;
+    bool isDefault() const { return !bytes && !data; }
+};
+
+/// The cells of one node.
+class CellStore
+{
+public:
+    explicit CellStore(Node& node) : m_node(node) {}
+
+    Node& node() const { return m_node; }
+
+    Cell* find(const Attribute& topLevel) const;
+    Cell& make(Attribute& topLevel);
+    void remove(const Attribute& topLevel);
+    const std::vector<std::unique_ptr<Cell>>& roots() const { return m_roots; }
+
+    /// The cell of a plug; null when there is none (or an index on the way is undetermined).
+    Cell* find(const Plug& plug) const;
+    /// Makes it; null only when an index on the way is undetermined.
+    Cell* make(const Plug& plug);
+    /// The cell of a plug or of the nearest thing above it.
+    Cell* findNearest(const Plug& plug) const;
+    ValuePlace valueOf(const Plug& plug) const;
+
+    /// Raised with every change of a value, for those who keep something derived from values.
+    std::uint64_t edits = 0;
+    /// The geometry put together from a mesh's attributes, and the `edits` it belongs to.
+    Ref<Data> derivedMesh;
+    std::uint64_t derivedMeshEdits = 0;
+
+private:
+    Node& m_node;
+    std::vector<std::unique_ptr<Cell>> m_roots; ///< sorted by the address of the attribute
+};
+
+} // namespace tvxhost::engine

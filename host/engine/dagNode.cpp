@@ -1,0 +1,151 @@
+// DagNode: its kind, its local matrix and its own display state.
+#include "builtinTypes.h"
+#include "cell.h"
+#include "scene.h"
+#include "values.h"
+
+#include <array>
+#include <cmath>
+
+namespace tvxhost::engine {
+
+namespace {
+
+/// Values of one node by attribute name; attributes that the node lacks give the neutral value.
+class Values
+{
+public:
+    explicit Values(DagNode& node) : m_node(node) {}
+
+    double number(const char* name, double neutral) const
+    {
+        Attribute* attribute = m_node.type().find(name);
+        return attribute ? readNumber(Plug(m_node, *attribute)).value.asReal() : neutral;
+    }
+    bool flag(const char* name, bool neutral) const { return number(name, neutral) != 0.0; }
+    Vec3d vector(const char* name, double neutral = 0.0) const
+    {
+        Attribute* attribute = m_node.type().find(name);
+        if (!attribute || attribute->children.size() != 3)
+            return Vec3d(neutral);
+        const Plug plug(m_node, *attribute);
+        // Most values are defaults; these need neither evaluation nor a list.
+        if (!m_node.cells().find(*attribute))
+            return {attribute->children[0]->defaultNumber, attribute->children[1]->defaultNumber,
+                    attribute->children[2]->defaultNumber};
+        (void)evaluate(plug);
+        return {storedNumber(plug.child(0)).asReal(), storedNumber(plug.child(1)).asReal(),
+                storedNumber(plug.child(2)).asReal()};
+    }
+
+private:
+    DagNode& m_node;
+};
+
+Matrix translation(const Vec3d& v)
+{
+    Matrix m;
+    m.setTranslation(v);
+    return m;
+}
+
+Matrix scaling(const Vec3d& v)
+{
+    Matrix m;
+    m.setScale(v);
+    return m;
+}
+
+/// For row vectors: x takes part of y and z, y takes part of z.
+Matrix shearing(const Vec3d& v)
+{
+    Matrix m;
+    m[1][0] = v.x;
+    m[2][0] = v.y;
+    m[2][1] = v.z;
+    return m;
+}
+
+Matrix rotationAbout(int axis, double angle)
+{
+    const int j = (axis + 1) % 3;
+    const int k = (axis + 2) % 3;
+    Matrix m;
+    m[j][j] = m[k][k] = std::cos(angle);
+    m[j][k] = std::sin(angle);
+    m[k][j] = -m[j][k];
+    return m;
+}
+
+/// `order` as in the attribute rotateOrder: xyz yzx zxy xzy yxz zyx, first axis first.
+Matrix rotation(const Vec3d& angles, int order)
+{
+    constexpr std::array<std::array<int, 3>, 6> kOrders = {
+        {{0, 1, 2}, {1, 2, 0}, {2, 0, 1}, {0, 2, 1}, {1, 0, 2}, {2, 1, 0}}};
+    Matrix m;
+    for (const int axis : kOrders[static_cast<std::size_t>(order) % kOrders.size()])
+        m *= rotationAbout(axis, angles[axis]);
+    return m;
+}
+
+constexpr int kTemplateDisplay = 1;
+
+} // namespace
+
+DagNode::DagNode(Scene& scene, NodeType& type) : Node(scene, type) {}
+
+bool DagNode::isWorld() const
+{
+    return isAlive() && &scene().world() == this;
+}
+
+bool DagNode::isTransform() const
+{
+    return !type().isShape && type().name != "world";
+}
+
+bool DagNode::isIntermediate()
+{
+    Attribute* attribute = type().find("intermediateObject");
+    return attribute && storedNumber(Plug(*this, *attribute)).asWhole() != 0;
+}
+
+Matrix DagNode::localMatrix()
+{
+    if (!isTransform() || cells().roots().empty())
+        return {};
+    const Values values(*this);
+    const Vec3d scalePivot = values.vector("scalePivot");
+    const Vec3d rotatePivot = values.vector("rotatePivot");
+    const int order = static_cast<int>(values.number("rotateOrder", 0.0));
+    return translation(-scalePivot) * scaling(values.vector("scale", 1.0)) *
+           shearing(values.vector("shear")) *
+           translation(scalePivot + values.vector("scalePivotTranslate") - rotatePivot) *
+           rotation(values.vector("rotateAxis"), 0) * rotation(values.vector("rotate"), order) *
+           rotation(values.vector("jointOrient"), 0) *
+           translation(rotatePivot + values.vector("rotatePivotTranslate") + values.vector("translate"));
+}
+
+bool inheritsTransform(DagNode& node)
+{
+    return Values(node).flag("inheritsTransform", true);
+}
+
+bool isShownByItself(DagNode& node)
+{
+    const Values values(node);
+    if (!values.flag("visibility", true) || !values.flag("lodVisibility", true) || node.isIntermediate())
+        return false;
+    return !values.flag("overrideEnabled", false) || values.flag("overrideVisibility", true);
+}
+
+bool isTemplatedByItself(DagNode& node)
+{
+    const Values values(node);
+    if (values.flag("template", false))
+        return true;
+    return values.flag("overrideEnabled", false) &&
+           static_cast<int>(values.number("overrideDisplayType", 0.0)) == kTemplateDisplay;
+}
+
+} // namespace tvxhost::engine

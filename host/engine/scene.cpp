@@ -1,0 +1,419 @@
+// Scene: the life of a session: nodes made, named, deleted; namespaces; selection; time.
+#include "scene.h"
+
+#include "cell.h"
+#include "defaultNodes.h"
+#include "glob.h"
+#include "nameTable.h"
+#include "uuid.h"
+
+#include <algorithm>
+#include <cctype>
+
+namespace tvxhost::engine {
+
+namespace {
+
+Scene* g_current = nullptr;
+
+bool isLegalIn(char c)
+{
+    return std::isalnum(static_cast<unsigned char>(c)) || c == '_';
+}
+
+/// "fooShape2" = "foo" + "2": the name of the transform for a shape of that name; empty for other names.
+std::string transformNameFor(const std::string& shapeName)
+{
+    constexpr std::string_view kShape = "Shape";
+    const std::size_t digits = shapeName.find_last_not_of("0123456789") + 1;
+    const std::string stem = shapeName.substr(0, digits);
+    if (stem.size() <= kShape.size() || stem.compare(stem.size() - kShape.size(), kShape.size(), kShape) != 0)
+        return {};
+    return stem.substr(0, stem.size() - kShape.size()) + shapeName.substr(digits);
+}
+
+std::string defaultNameOf(const NodeType& type)
+{
+    return type.baseName.empty() ? type.name + "1" : type.baseName + "Shape1";
+}
+
+std::string defaultTransformNameOf(const NodeType& type)
+{
+    return type.baseName.empty() ? "transform1" : type.baseName + "1";
+}
+
+} // namespace
+
+Scene::Scene(bool batch)
+    : m_batch(batch), m_types(std::make_unique<TypeTable>()), m_names(std::make_unique<NameTable>())
+{
+    if (!g_current)
+        g_current = this;
+    m_world = &makeWorld();
+    makeDefaultNodes(*this);
+    isModified = false;
+}
+
+Scene::~Scene()
+{
+    emptyScene();
+    retireNode(*m_world);
+    if (g_current == this)
+        g_current = nullptr;
+}
+
+Scene& Scene::current()
+{
+    static std::unique_ptr<Scene> own;
+    if (!g_current)
+        own = std::make_unique<Scene>();
+    return *g_current;
+}
+
+void Scene::makeCurrent(Scene* scene)
+{
+    g_current = scene;
+}
+
+DagNode& Scene::makeWorld()
+{
+    auto* world = new DagNode(*this, *m_types->find("world"));
+    world->isDefaultNode = true;
+    world->doNotWrite = true;
+    world->m_name = "world";
+    world->m_uuid = makeUuid();
+    world->retain();
+    world->m_serial = m_nextSerial++;
+    world->m_place = m_nodes.insert(m_nodes.end(), world);
+    ++world->type().liveNodes;
+    return *world;
+}
+
+void Scene::adopt(Node& node, const std::string& name)
+{
+    node.retain();
+    node.m_name = name;
+    node.m_uuid = makeUuid();
+    node.m_serial = m_nextSerial++;
+    node.m_place = m_nodes.insert(m_nodes.end(), &node);
+    m_names->add(node);
+    addNamespaceOf(name);
+    ++node.type().liveNodes;
+}
+
+void Scene::retireNode(Node& node)
+{
+    if (&node != m_world)
+        m_names->remove(node);
+    m_nodes.erase(node.m_place);
+    --node.type().liveNodes;
+    node.setAlive(false);
+    node.m_behaviour.reset();
+    node.m_cells = std::make_unique<CellStore>(node);
+    node.release();
+}
+
+Expected<Node*> Scene::createNode(const std::string& type, const std::string& name, DagNode* parent)
+{
+    NodeType* found = m_types->find(type);
+    if (!found)
+        return {Reason::doesNotExist, "Unknown object type: " + type};
+    return createNode(*found, name, parent);
+}
+
+Expected<Node*> Scene::createNode(NodeType& type, const std::string& name, DagNode* parent)
+{
+    if (type.isAbstract)
+        return {Reason::wrongKind, "Unknown object type: " + type.name};
+    if (parent && !type.isDag)
+        return {Reason::wrongKind, "a node of type '" + type.name + "' has no place below another"};
+    if (parent && parent->isShape())
+        return {Reason::wrongKind, "'" + parent->name() + "' is a shape and cannot have children"};
+
+    Expected<Node*> made = makeNode(type, name, parent);
+    if (!made || !type.isDag)
+        return made;
+    auto& node = static_cast<DagNode&>(*made.value);
+    if (!parent && type.isShape) {
+        const std::string wish = name.empty() ? std::string() : transformNameFor(node.name());
+        parent = createNode("transform", wish.empty() ? uniqueName(defaultTransformNameOf(type)) : ":" + wish)
+                     .value->asDag();
+    }
+    link(parent ? *parent : *m_world, node);
+    return made;
+}
+
+Expected<Node*> Scene::makeNode(NodeType& type, const std::string& name, DagNode* parent)
+{
+    const DagNode* scope = parent ? parent : (type.isDag && !type.isShape) ? m_world : nullptr;
+    const std::string wish = name.empty() ? defaultNameOf(type) : legalName(name, true);
+    const std::string fixedName = uniqueName(absoluteName(wish), nullptr, name.empty() ? nullptr : scope);
+
+    Ref<Node> node(type.isDag ? new DagNode(*this, type) : new Node(*this, type));
+    adopt(*node, fixedName);
+    const NodeType* coded = &type;
+    while (coded && !coded->behaviour)
+        coded = coded->parent;
+    if (coded) {
+        node->m_behaviour = coded->behaviour(*node);
+        if (!node->m_behaviour) {
+            retireNode(*node);
+            return {Reason::failed, "the code of '" + type.name + "' made no node"};
+        }
+        node->m_behaviour->postConstructor();
+        if (!name.empty() && node->name() != fixedName)
+            setName(*node, fixedName);
+    }
+    isModified = true;
+    for (const auto& listener : onCreated)
+        listener(*node);
+    return node.get();
+}
+
+Expected<Node*> Scene::createUnknown(const std::string& type, const std::string& name, DagNode* parent,
+                                     bool isDag)
+{
+    // A shape is made only where a transform stands above it: anything else may have children itself.
+    const char* placeholder = !isDag || !parent ? (isDag ? "unknownTransform" : "unknown") : "unknownDag";
+    Expected<Node*> made = createNode(*m_types->find(placeholder), name, parent);
+    if (made)
+        made.value->unknownType = type;
+    return made;
+}
+
+Outcome Scene::deleteNode(Node& node)
+{
+    if (!node.isAlive())
+        return {Reason::doesNotExist, "the node was deleted"};
+    if (node.isLockedNode || node.isReferenced)
+        return {Reason::readOnly, "'" + node.name() + "' is locked or referenced and cannot be deleted"};
+    if (node.isDefaultNode)
+        return {Reason::readOnly, "'" + node.name() + "' is a default node and cannot be deleted"};
+
+    // What hangs below goes too unless it hangs elsewhere as well: listed first, parents before children.
+    std::vector<Ref<Node>> doomed = {Ref<Node>(&node)};
+    for (std::size_t i = 0; i < doomed.size(); ++i) {
+        DagNode* dag = doomed[i]->asDag();
+        if (!dag)
+            continue;
+        if (i == 0)
+            while (!dag->m_parents.empty())
+                unlink(*dag->m_parents.front(), *dag);
+        while (!dag->m_children.empty()) {
+            DagNode& child = *dag->m_children.back();
+            unlink(*dag, child);
+            if (child.m_parents.empty())
+                doomed.emplace_back(&child);
+        }
+    }
+    for (const Ref<Node>& each : doomed) {
+        for (const auto& listener : onDeleted)
+            listener(*each);
+        disconnectAll(*each);
+    }
+    for (const Ref<Node>& each : doomed) {
+        m_selection.removeNode(*each);
+        m_hilite.removeNode(*each);
+        retireNode(*each);
+    }
+    isModified = true;
+    return {};
+}
+
+void Scene::makeUnknown(NodeType& type)
+{
+    NodeType* retired = nullptr;
+    for (Node* node : m_nodes) {
+        if (&node->type() != &type)
+            continue;
+        if (!retired)
+            retired = &m_types->retire(type);
+        node->m_behaviour.reset();
+        node->unknownType = type.name;
+        node->unknownPlugin = type.plugin;
+        node->m_type = retired;
+        --type.liveNodes;
+        ++retired->liveNodes;
+    }
+}
+
+// Names
+// --------------------------------------------------------------------------------------------------------
+
+std::string Scene::absoluteName(const std::string& name) const
+{
+    if (!name.empty() && name[0] == ':')
+        return name.substr(1);
+    return m_namespace == ":" ? name : m_namespace.substr(1) + ":" + name;
+}
+
+std::string Scene::legalName(const std::string& name, bool warn)
+{
+    std::string result = name;
+    bool atStart = true;
+    bool changed = false;
+    for (char& c : result) {
+        const bool isDigit = std::isdigit(static_cast<unsigned char>(c));
+        if (c != ':' && (!isLegalIn(c) || (atStart && isDigit))) {
+            c = '_';
+            changed = true;
+        }
+        atStart = c == ':';
+    }
+    if (changed && warn)
+        m_scriptEditor.warning(
+            "New name contains invalid characters. Illegal characters were converted to \"_\".");
+    return result;
+}
+
+bool Scene::isNameFree(const std::string& name, const Node* except, const DagNode* parent) const
+{
+    if (parent) {
+        const DagNode* sibling = m_names->childNamed(*parent, name);
+        return (!sibling || sibling == except) && !m_names->isTakenByDependencyNode(name);
+    }
+    const std::vector<Node*>& holders = m_names->nodesNamed(name);
+    return holders.empty() || (holders.size() == 1 && holders.front() == except);
+}
+
+std::string Scene::uniqueName(const std::string& wish, const Node* except, const DagNode* parent) const
+{
+    return isNameFree(wish, except, parent) ? wish : m_names->nextFree(wish);
+}
+
+void Scene::setName(Node& node, const std::string& name)
+{
+    DagNode* dag = node.asDag();
+    if (dag)
+        for (const DagNode* parent : dag->m_parents)
+            m_names->removeChild(*parent, *dag);
+    m_names->remove(node);
+    node.m_name = name;
+    m_names->add(node);
+    if (dag)
+        for (const DagNode* parent : dag->m_parents)
+            m_names->addChild(*parent, *dag);
+}
+
+Expected<std::string> Scene::rename(Node& node, const std::string& name, bool createNamespace)
+{
+    if (!node.isAlive())
+        return {Reason::doesNotExist, "the node was deleted"};
+    if (node.isDefaultNode || node.isShared || node.isLockedNode || node.isReferenced)
+        return {Reason::readOnly, "'" + node.name() + "' cannot be renamed"};
+    if (name.empty() || name.find_first_not_of(':') == std::string::npos || name.back() == ':')
+        return {Reason::invalidName, "'" + name + "' is not a legal name"};
+
+    const bool wantsNumber = name.back() == '#';
+    const std::string legal = legalName(wantsNumber ? name.substr(0, name.size() - 1) : name, true);
+    const std::string wish = absoluteName(legal);
+    const std::size_t colon = wish.rfind(':');
+    if (!createNamespace && colon != std::string::npos && !hasNamespace(":" + wish.substr(0, colon)))
+        return {Reason::doesNotExist, "there is no namespace '" + wish.substr(0, colon) + "'"};
+
+    const DagNode* dag = node.asDag();
+    const DagNode* scope = dag && !dag->m_parents.empty() ? dag->m_parents.front() : nullptr;
+    const std::string unique = wantsNumber ? m_names->firstFree(wish) : uniqueName(wish, &node, scope);
+    setName(node, unique);
+    addNamespaceOf(unique);
+    isModified = true;
+    return unique;
+}
+
+// Namespaces
+// ---------------------------------------------------------------------------------------------------
+
+void Scene::addNamespaceOf(const std::string& name)
+{
+    for (std::size_t colon = name.find(':'); colon != std::string::npos; colon = name.find(':', colon + 1))
+        m_namespaces.insert(name.substr(0, colon));
+}
+
+bool Scene::hasNamespace(const std::string& name) const
+{
+    const std::string bare = withoutColon(name);
+    return bare.empty() || m_namespaces.count(bare) != 0;
+}
+
+Outcome Scene::addNamespace(const std::string& name)
+{
+    const std::string bare = absoluteName(name);
+    if (bare.empty() || bare != legalName(bare, false))
+        return {Reason::invalidName, "'" + name + "' is not a legal namespace name"};
+    if (hasNamespace(bare))
+        return {Reason::nameTaken, "the namespace '" + name + "' exists already"};
+    addNamespaceOf(bare + ":");
+    return {};
+}
+
+Outcome Scene::setCurrentNamespace(const std::string& name)
+{
+    if (!hasNamespace(name))
+        return {Reason::doesNotExist, "there is no namespace '" + name + "'"};
+    m_namespace = ":" + withoutColon(name);
+    return {};
+}
+
+std::vector<std::string> Scene::namespaces() const
+{
+    return {m_namespaces.begin(), m_namespaces.end()};
+}
+
+// Selection, time, files
+// ---------------------------------------------------------------------------------------
+
+void Scene::setSelection(SelectionList selection)
+{
+    m_selection = std::move(selection);
+}
+
+void Scene::setTime(double seconds)
+{
+    m_time = seconds;
+    Expected<Node*> clock = findNode(":time1");
+    if (!clock)
+        return;
+    if (Expected<Plug> out = clock.value->findPlug("outTime"))
+        storeInternal(out.value, Number(seconds));
+}
+
+void Scene::emptyScene()
+{
+    m_selection.clear();
+    m_hilite.clear();
+    std::vector<Node*> all(m_nodes.begin(), m_nodes.end());
+    for (Node* node : all)
+        if (node != m_world)
+            for (const auto& listener : onDeleted)
+                listener(*node);
+    m_names->clear();
+    for (Node* node : all) {
+        if (DagNode* dag = node->asDag()) {
+            dag->m_parents.clear();
+            dag->m_children.clear();
+        }
+        node->m_cells = std::make_unique<CellStore>(*node);
+        if (node != m_world)
+            m_names->add(*node);
+    }
+    for (Node* node : all)
+        if (node != m_world)
+            retireNode(*node);
+}
+
+void Scene::newScene()
+{
+    emptyScene();
+    m_namespaces.clear();
+    m_namespace = ":";
+    m_units = Units();
+    m_time = 0.0;
+    fileName.clear();
+    fileInfo.clear();
+    requirements.clear();
+    keptConnections.clear();
+    makeDefaultNodes(*this);
+    isModified = false;
+}
+
+} // namespace tvxhost::engine
