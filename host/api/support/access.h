@@ -18,6 +18,8 @@
 #include <maya/MFnDagNode.h>
 #include <maya/MObject.h>
 #include <maya/MPlug.h>
+#include <maya/MPxCommand.h>
+#include <maya/MPxNode.h>
 #include <maya/MSelectionList.h>
 #include <maya/MStatus.h>
 #include <maya/MString.h>
@@ -28,6 +30,10 @@
 #include <type_traits>
 #include <utility>
 #include <vector>
+
+namespace tvxhost::api {
+class PxBehaviour;
+}
 
 /// Friend of every class of the API. Storage in, storage out; no behaviour.
 class tvxAccess
@@ -125,6 +131,15 @@ public:
 
     static tvxhost::api::Modifier& modifier(MDGModifier& modifier) { return *modifier.modifier; }
 
+    // A plug-in's own objects
+    static void tie(MPxNode& object, tvxhost::engine::Node& node, tvxhost::api::PxBehaviour& behaviour)
+    {
+        object.node = &node;
+        object.reserved = &behaviour;
+    }
+    static tvxhost::api::CommandState*& commandState(MPxCommand& command) { return command.state; }
+    static tvxhost::api::Arguments& arguments(MArgList& list) { return *list.arguments; }
+
     // Arrays: the vector that holds the elements
     template <class Array>
     static auto& elements(Array& array)
@@ -181,9 +196,6 @@ public:
     // MSelectionList
     static tvxhost::engine::SelectionList& selection(MSelectionList& list) { return *list.list; }
     static const tvxhost::engine::SelectionList& selection(const MSelectionList& list) { return *list.list; }
-
-    // MArgList
-    static tvxhost::api::Arguments& arguments(MArgList& list) { return *list.arguments; }
 
     // MCommandResult
     static tvxhost::api::CommandValue& commandValue(MCommandResult& result) { return *result.value; }
