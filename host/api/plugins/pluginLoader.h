@@ -15,6 +15,8 @@
 
 namespace tvxhost::api {
 
+class Library;
+
 /// One plug-in that is or was loaded. This is the object that its entry points are given.
 class OPENMAYA_EXPORT Plugin final : public engine::Object
 {
@@ -29,19 +31,21 @@ public:
     };
 
     Plugin(std::string pluginName, std::filesystem::path libraryFile);
+    ~Plugin() override;
 
     std::string name;           ///< the file's name without folder and extension, unless it was given another
     std::filesystem::path file; ///< full path of the library
     std::string vendor;         ///< as its first MFnPlugin says
     std::string version;
-    std::string apiVersion; ///< of the interface that it was built with: its MApiVersion
+    std::string requiredApiVersion; ///< as its first MFnPlugin says
+    std::string apiVersion;         ///< of the interface that it was built with: its MApiVersion
     Interface interfaceProcedures;
     std::vector<std::string> commands; ///< in the order of registration
     bool isDescribed = false;          ///< its first MFnPlugin was constructed
 
 private:
     friend class PluginLoader;
-    void* m_library = nullptr;
+    std::unique_ptr<Library> m_library;
 };
 
 /// How a load or unload ended. Nothing of it has been shown: callers show the text of the outcome as an
@@ -92,10 +96,9 @@ public:
     engine::Outcome rename(Plugin& plugin, const std::string& wish, bool makeUnique);
 
 private:
-    PluginResult open(const std::filesystem::path& file, const std::string& name);
-    PluginResult start(const engine::Ref<Plugin>& plugin);
+    engine::Outcome start(Plugin& plugin);
     engine::Outcome stop(Plugin& plugin);
-    void forget(Plugin& plugin, bool close);
+    void forget(Plugin& plugin);
     void runInterface(const std::string& interactive, const std::string& batch);
     std::string uniqueName(const std::string& wish) const;
 
