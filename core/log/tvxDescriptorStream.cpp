@@ -10,10 +10,15 @@ DescriptorBuffer::int_type DescriptorBuffer::overflow(int_type character)
     if (traits_type::eq_int_type(character, traits_type::eof()))
         return traits_type::not_eof(character);
     const char text = traits_type::to_char_type(character);
-    return xsputn(&text, 1) == 1 ? character : traits_type::eof();
+    return writeAll(&text, 1) == 1 ? character : traits_type::eof();
 }
 
 std::streamsize DescriptorBuffer::xsputn(const char* text, std::streamsize size)
+{
+    return writeAll(text, size);
+}
+
+std::streamsize DescriptorBuffer::writeAll(const char* text, std::streamsize size)
 {
     std::streamsize done = 0;
     while (done < size) {
@@ -43,6 +48,13 @@ LogFileStream::LogFileStream(const std::string& path) : std::ostream(nullptr)
 LogFileStream::~LogFileStream()
 {
     close();
+}
+
+void LogFileStream::writeAtOnce(const char* text, std::size_t size)
+{
+    const auto count = static_cast<std::streamsize>(size);
+    if (good() && m_buffer.writeAll(text, count) != count)
+        setstate(badbit);
 }
 
 bool LogFileStream::isOpen() const

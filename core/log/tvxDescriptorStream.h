@@ -16,6 +16,10 @@ public:
     /// @param file  an open descriptor, not owned, or descriptor::kNone, to which nothing can be written
     explicit DescriptorBuffer(int file) : m_file(file) {}
 
+    /// Writes all of a text, or as much as the system takes.
+    /// @return the number of characters written
+    std::streamsize writeAll(const char* text, std::streamsize size);
+
     int file() const { return m_file; }
     void setFile(int file) { m_file = file; }
 
@@ -44,6 +48,9 @@ public:
     /// Creates or empties the file; when that fails the stream is not open and has its fail bit set.
     explicit LogFileStream(const std::string& path);
     ~LogFileStream() override;
+
+    /// Writes a text as write() and flush() do, without what they cost beside the system call.
+    void writeAtOnce(const char* text, std::size_t size);
 
     bool isOpen() const;
     /// Closes the file; does nothing when it is not open.

@@ -1,9 +1,7 @@
-// Prefix, time stamp and indentation.
+// The time stamp.
 #include "core/log/tvxLogLine.h"
 
 #include "core/log/tvxNumberText.h"
-
-#include <tvxCore/Severity.h>
 
 #include <algorithm>
 
@@ -20,24 +18,6 @@ void appendTwoDigits(TextBuffer& line, std::int64_t value)
 
 } // namespace
 
-const char* linePrefix(int severity)
-{
-    switch (severity) {
-    case core::kCritical:
-        return "[TarvoxCrowd::CRITICAL]\t";
-    case core::kError:
-        return "[TarvoxCrowd::ERROR]\t";
-    case core::kWarning:
-        return "[TarvoxCrowd::WARNING]\t";
-    case core::kInfo:
-        return "[TarvoxCrowd::INFO]\t";
-    case core::kDebug:
-        return "[TarvoxCrowd::DEBUG]\t";
-    default:
-        return "";
-    }
-}
-
 void appendTimeStamp(TextBuffer& line, std::int64_t elapsedSeconds)
 {
     const std::int64_t seconds = std::max<std::int64_t>(elapsedSeconds, 0);
@@ -47,11 +27,6 @@ void appendTimeStamp(TextBuffer& line, std::int64_t elapsedSeconds)
     line.append(':');
     appendTwoDigits(line, seconds % 60);
     line.append(' ');
-}
-
-void appendIndentation(TextBuffer& line, int levels)
-{
-    line.append(2 * static_cast<std::size_t>(levels), ' ');
 }
 
 } // namespace tarvox::crowd

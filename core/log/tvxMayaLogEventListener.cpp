@@ -10,7 +10,7 @@ MayaLogEventListener::MayaLogEventListener(const std::string& logName) : m_logNa
 void MayaLogEventListener::onLogEvent(const core::LogEvent& event)
 {
     BorrowedText borrowed(m_text);
-    borrowed.text.append(m_logName.data(), m_logName.size());
+    borrowed.text.append(m_logName);
     borrowed.text.append(": ");
     borrowed.text.append(event.message);
     MayaLogger::getInstance().log(event.severity, borrowed.text.c_str(), true);

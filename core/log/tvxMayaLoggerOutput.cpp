@@ -34,30 +34,27 @@ void showInScriptEditor(int severity, const char* line)
     }
 }
 
-void writeAndFlush(std::ostream* output, const TextBuffer& line)
-{
-    if (output)
-        output->write(line.data(), static_cast<std::streamsize>(line.size())).flush();
-}
-
 } // namespace
 
 void MayaLogger::log(int severity, const char* text, bool /*flag*/)
 {
     BorrowedText borrowed(m_line);
     TextBuffer& line = borrowed.text;
-    line.append(linePrefix(severity));
+    appendLinePrefix(line, severity);
     if (severity == core::kDebug) {
         appendTimeStamp(line, static_cast<std::int64_t>(std::time(nullptr)) - m_startTime);
         line.append(' ');
     }
     appendIndentation(line, m_indentation);
-    line.append(text ? text : "");
+    if (text)
+        line.append(text);
     if (m_useScriptEditor)
         showInScriptEditor(severity, line.c_str());
     line.append('\n');
-    writeAndFlush(m_console, line);
-    writeAndFlush(m_file.get(), line);
+    if (m_console)
+        m_console->write(line.data(), static_cast<std::streamsize>(line.size())).flush();
+    if (m_file)
+        m_file->writeAtOnce(line.data(), line.size());
 }
 
 void MayaLogger::log(int severity, const MString& text, bool flag)

@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <cstring>
 #include <memory>
+#include <string_view>
 #include <utility>
 
 namespace tarvox::crowd {
@@ -37,8 +38,7 @@ public:
         m_size += size;
     }
 
-    /// @param text  ends with a zero; not null
-    void append(const char* text) { append(text, std::strlen(text)); }
+    void append(std::string_view text) { append(text.data(), text.size()); }
 
     void append(std::size_t count, char character)
     {

@@ -42,6 +42,21 @@ TEST_F(LogFileStreamTest, WritesEachTextAtOnceWithOneCall)
     EXPECT_EQ(contents(), "first\n" + longText);
 }
 
+TEST_F(LogFileStreamTest, WritesATextAtOnceAsWriteAndFlushDo)
+{
+    LogFileStream stream(path);
+    stream.writeAtOnce("first\n", 6);
+    EXPECT_EQ(contents(), "first\n");
+    system.writes = {Outcome{0, 3}, Outcome{EINTR}, Outcome{0, 3}, Outcome{EIO}};
+    stream.writeAtOnce("whole\n", 6);
+    EXPECT_TRUE(stream.good());
+    stream.writeAtOnce("lost\n", 5);
+    EXPECT_TRUE(stream.bad());
+    stream.writeAtOnce("not tried\n", 10);
+    EXPECT_EQ(system.writeCount, 5);
+    EXPECT_EQ(contents(), "first\nwhole\n");
+}
+
 TEST_F(LogFileStreamTest, WritesSingleCharactersToo)
 {
     LogFileStream stream(path);

@@ -9,6 +9,13 @@
 namespace tarvox::crowd {
 namespace {
 
+std::string linePrefix(int severity)
+{
+    TextBuffer line;
+    appendLinePrefix(line, severity);
+    return line.c_str();
+}
+
 std::string timeStamp(std::int64_t seconds)
 {
     TextBuffer line;
@@ -18,17 +25,17 @@ std::string timeStamp(std::int64_t seconds)
 
 TEST(LogLine, HasAPrefixForEverySeverity)
 {
-    EXPECT_STREQ(linePrefix(0), "[TarvoxCrowd::CRITICAL]\t");
-    EXPECT_STREQ(linePrefix(1), "[TarvoxCrowd::ERROR]\t");
-    EXPECT_STREQ(linePrefix(2), "[TarvoxCrowd::WARNING]\t");
-    EXPECT_STREQ(linePrefix(3), "[TarvoxCrowd::INFO]\t");
-    EXPECT_STREQ(linePrefix(4), "[TarvoxCrowd::DEBUG]\t");
+    EXPECT_EQ(linePrefix(0), "[TarvoxCrowd::CRITICAL]\t");
+    EXPECT_EQ(linePrefix(1), "[TarvoxCrowd::ERROR]\t");
+    EXPECT_EQ(linePrefix(2), "[TarvoxCrowd::WARNING]\t");
+    EXPECT_EQ(linePrefix(3), "[TarvoxCrowd::INFO]\t");
+    EXPECT_EQ(linePrefix(4), "[TarvoxCrowd::DEBUG]\t");
 }
 
 TEST(LogLine, HasNoPrefixForOtherCodes)
 {
-    EXPECT_STREQ(linePrefix(-1), "");
-    EXPECT_STREQ(linePrefix(5), "");
+    EXPECT_EQ(linePrefix(-1), "");
+    EXPECT_EQ(linePrefix(5), "");
 }
 
 TEST(LogLine, CountsHoursMinutesAndSeconds)
