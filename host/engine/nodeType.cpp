@@ -119,6 +119,12 @@ Outcome NodeType::addAffects(const Attribute& input, const Attribute& output)
     return {};
 }
 
+void NodeType::addComputed(const Attribute& output)
+{
+    m_computed.push_back(&output);
+    m_outputCache.clear();
+}
+
 const std::vector<Attribute*>& NodeType::affectedBy(const Attribute& input) const
 {
     const auto known = m_affectedCache.find(&input);
@@ -137,10 +143,11 @@ bool NodeType::isOutput(const Attribute& attribute) const
     const auto known = m_outputCache.find(&attribute);
     if (known != m_outputCache.end())
         return known->second;
+    const auto concerns = [&](const Attribute* output) { return areRelated(*output, attribute); };
     const bool isReached = (parent && parent->isOutput(attribute)) ||
-                           std::any_of(m_affects.begin(), m_affects.end(), [&](const auto& affects) {
-                               return areRelated(*affects.second, attribute);
-                           });
+                           std::any_of(m_affects.begin(), m_affects.end(),
+                                       [&](const auto& affects) { return concerns(affects.second); }) ||
+                           std::any_of(m_computed.begin(), m_computed.end(), concerns);
     return m_outputCache[&attribute] = isReached;
 }
 

@@ -66,6 +66,9 @@ public:
     /// Declares that `input` affects `output`. Both must be attributes of this type (inherited counts), the
     /// output not keyable; a compound stands for its children as well.
     Outcome addAffects(const Attribute& input, const Attribute& output);
+    /// Says that an attribute is computed although nothing of its own node affects it (what a DAG node takes
+    /// from its place).
+    void addComputed(const Attribute& output);
     /// What changes when `input` does: the declared outputs of it and of the compounds above and the children
     /// below it, own and inherited, each once, in the order of declaration.
     const std::vector<Attribute*>& affectedBy(const Attribute& input) const;
@@ -81,6 +84,7 @@ private:
     std::vector<Ref<Attribute>> m_attributes;
     std::unordered_map<std::string, Attribute*> m_names;
     std::vector<std::pair<Attribute*, Attribute*>> m_affects;
+    std::vector<const Attribute*> m_computed;
     mutable std::unordered_map<const Attribute*, std::vector<Attribute*>> m_affectedCache;
     mutable std::unordered_map<const Attribute*, bool> m_outputCache;
 };

@@ -143,6 +143,8 @@ private:
             readType(words);
         else if (words[0] == "affects")
             readAffects(words);
+        else if (words[0] == "computed")
+            readComputed(words);
         else if (words[0] == "}")
             closeBrace();
         else
@@ -329,20 +331,29 @@ private:
             fail(outcome.text);
     }
 
+    const Attribute& attributeNamed(const std::string& name) const
+    {
+        const Attribute* attribute = m_type->find(name);
+        if (!attribute)
+            fail("no attribute '" + name + "'");
+        return *attribute;
+    }
+
+    void readComputed(const Words& words)
+    {
+        for (std::size_t i = 1; i < words.size(); ++i)
+            m_type->addComputed(attributeNamed(words[i]));
+    }
+
     void readAffects(const Words& words)
     {
         std::vector<const Attribute*> inputs, outputs;
         bool isOutput = false;
-        for (std::size_t i = 1; i < words.size(); ++i) {
-            if (words[i] == "->") {
+        for (std::size_t i = 1; i < words.size(); ++i)
+            if (words[i] == "->")
                 isOutput = true;
-                continue;
-            }
-            const Attribute* attribute = m_type->find(words[i]);
-            if (!attribute)
-                fail("no attribute '" + words[i] + "'");
-            (isOutput ? outputs : inputs).push_back(attribute);
-        }
+            else
+                (isOutput ? outputs : inputs).push_back(&attributeNamed(words[i]));
         for (const Attribute* input : inputs)
             for (const Attribute* output : outputs)
                 if (Outcome outcome = m_type->addAffects(*input, *output); !outcome)
