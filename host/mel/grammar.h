@@ -141,7 +141,7 @@ struct string_literal : seq<one<'"'>, string_text, must<string_end>>
 
 struct expression;
 struct operand;
-struct invocation;
+struct captured_invocation;
 
 template <class Opening, class Content, class Closing>
 struct enclosed : if_must<Opening, ws, Content, ws, Closing>
@@ -168,7 +168,7 @@ struct matrix_literal
     : enclosed<string<'<', '<'>, seq<matrix_row, star<ws, one<';'>, must<ws, matrix_row>>>, string<'>', '>'>>
 {
 };
-struct capture : enclosed<one<'`'>, invocation, one<'`'>>
+struct capture : enclosed<one<'`'>, captured_invocation, one<'`'>>
 {
 };
 
@@ -256,15 +256,26 @@ struct argument_variable : seq<variable_name, star<index>, opt<component>, not_a
 struct negated_argument : seq<one<'-'>, sor<argument_variable, parentheses>>
 {
 };
-struct argument : sor<string_literal, argument_variable, parentheses, capture, array_literal, matrix_literal,
-                      negated_argument, flag_token, float_token, integer_token, word_token>
+struct plain_or_enclosed : sor<string_literal, argument_variable, parentheses, array_literal, matrix_literal,
+                               negated_argument, flag_token, float_token, integer_token, word_token>
+{
+};
+struct argument : sor<capture, plain_or_enclosed>
 {
 };
 struct command_name : seq<callable_name, not_at<word_char>>
 {
 };
 // `name (a, b)` is a function call, `name (a) b` a command: what follows the parentheses tells.
-struct invocation : seq<command_name, opt<ws, argument_list>, star<ws, argument>>
+template <class Argument>
+struct invocation_of : seq<command_name, opt<ws, argument_list>, star<ws, Argument>>
+{
+};
+struct invocation : invocation_of<argument>
+{
+};
+// Inside back quotes the next back quote is the closing one.
+struct captured_invocation : invocation_of<plain_or_enclosed>
 {
 };
 

@@ -66,6 +66,7 @@ TVX_KEEP(integer_token, integerToken);
 TVX_KEEP(word_token, wordToken);
 TVX_KEEP(negated_argument, negatedArgument);
 TVX_KEEP(invocation, invocation);
+TVX_KEEP(captured_invocation, invocation);
 TVX_KEEP(block, block);
 TVX_KEEP(array_size, arraySize);
 TVX_KEEP(declarator, declarator);
@@ -109,6 +110,10 @@ struct Limited<grammar::expression> : tao::pegtl::limit_depth<kNestingLimit>
 };
 template <>
 struct Limited<grammar::invocation> : tao::pegtl::limit_depth<kNestingLimit>
+{
+};
+template <>
+struct Limited<grammar::captured_invocation> : tao::pegtl::limit_depth<kNestingLimit>
 {
 };
 

@@ -1,0 +1,83 @@
+// Every script under scripts/ prints exactly what the file of the same name beside it says, errors included.
+#include "mel/interpreter.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+#include <string>
+#include <unistd.h>
+#include <vector>
+
+namespace {
+
+namespace fs = std::filesystem;
+using namespace tvxhost;
+
+const fs::path kFolder = fs::path(TVX_SOURCE_DIR) / "tests/host/mel";
+
+std::vector<std::string> scriptNames()
+{
+    std::vector<std::string> names;
+    for (const auto& entry : fs::directory_iterator(kFolder / "scripts")) {
+        if (entry.path().extension() == ".mel") {
+            names.push_back(entry.path().stem().string());
+        }
+    }
+    std::sort(names.begin(), names.end());
+    return names;
+}
+
+std::string contentOf(const fs::path& file)
+{
+    std::ifstream stream(file, std::ios::binary);
+    EXPECT_TRUE(stream) << file;
+    std::ostringstream text;
+    text << stream.rdbuf();
+    return text.str();
+}
+
+class Script : public testing::TestWithParam<std::string>
+{
+protected:
+    void SetUp() override
+    {
+        m_folder = fs::temp_directory_path() / ("tvxMelScript." + std::to_string(::getpid()));
+        fs::create_directories(m_folder);
+        ::setenv("TVX_TEST_FOLDER", m_folder.c_str(), 1);
+    }
+    void TearDown() override { fs::remove_all(m_folder); }
+
+private:
+    fs::path m_folder;
+};
+
+TEST_P(Script, PrintsWhatIsExpected)
+{
+    std::ostringstream output;
+    engine::ScriptEditor editor;
+    editor.setStreams(&output, &output);
+    mel::CommandTable commands;
+    mel::registerLanguageCommands(commands);
+    mel::Interpreter interpreter(commands, editor);
+    interpreter.scriptPath().append(kFolder / "library");
+
+    interpreter.run(contentOf(kFolder / "scripts" / (GetParam() + ".mel")), GetParam() + ".mel");
+    interpreter.runDeferred();
+
+    EXPECT_EQ(output.str(), contentOf(kFolder / "scripts" / (GetParam() + ".expected")));
+}
+
+INSTANTIATE_TEST_SUITE_P(Mel, Script, testing::ValuesIn(scriptNames()),
+                         [](const auto& test) { return test.param; });
+
+TEST(Scripts, AreAllThere)
+{
+    EXPECT_GE(scriptNames().size(), 200u);
+}
+
+} // namespace
