@@ -30,8 +30,7 @@ struct GlContext::Handles
             eglDestroyContext(display, context);
         if (surface != EGL_NO_SURFACE)
             eglDestroySurface(display, surface);
-        eglTerminate(display);
-        eglReleaseThread();
+        // The display stays initialised: EGL has one for the process, and the next context uses it again.
     }
 };
 
