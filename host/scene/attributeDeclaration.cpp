@@ -247,6 +247,7 @@ std::vector<mel::FlagSpec> addAttrFlags()
         flag("ct", "category", ArgumentType::string, "a word to find it by", mel::kCreate | mel::kMultiUse),
         flag("dcb", "disconnectBehaviour", ArgumentType::integer,
              "what a broken connection does: 0 deletes the element, 1 resets the value, 2 nothing"),
+        flag("bt", "binaryTag", ArgumentType::string, "a tag of binary files; has no effect"),
         flag("ex", "exists", ArgumentType::boolean, "whether the attribute is there", mel::kQuery),
     };
     for (const SwitchRow& row : kSwitches)

@@ -11,18 +11,23 @@ using engine::Plug;
 bool isPerInstance(const engine::Attribute& attribute)
 {
     const engine::Attribute& top = *attribute.topLevel();
-    return top.isArray() && (top.flags.worldSpace || top.longName == "instObjGroups");
+    return top.isArray() &&
+           (top.flags.worldSpace || top.longName == "instObjGroups" || top.longName == "compInstObjGroups");
 }
 
 Expected<Plug> connectionEnd(engine::Scene& scene, const std::string& name)
 {
     Expected<Plug> found = scene.findPlug(name);
-    if (!found || !found.value.isArray() || found.value.isChild() || !isPerInstance(*found.value.attribute()))
+    if (!found || !isPerInstance(*found.value.attribute()))
+        return found;
+    Plug& plug = found.value;
+    const bool isWholeArray = plug.isArray() && !plug.isChild();
+    if (!isWholeArray && plug.indices()[0] != Plug::kNoIndex)
         return found;
     const Expected<engine::SelectionItem> item = scene.findItem(name.substr(0, name.find('.')));
-    if (!item || !item.value.isDag())
-        return found;
-    return found.value.element(item.value.path.instanceNumber());
+    if (item && item.value.isDag())
+        plug.selectIndex(*plug.attribute()->topLevel(), item.value.path.instanceNumber());
+    return found;
 }
 
 std::string referenceName(const engine::Node& node)
@@ -35,16 +40,17 @@ std::string referenceName(const engine::Node& node)
 std::string connectionName(const Plug& plug, bool nextAvailable)
 {
     engine::Node& node = *plug.node();
-    const engine::Attribute& attribute = *plug.attribute();
-    if (plug.isElement() && plug.indexCount() == 1 && isPerInstance(attribute)) {
-        engine::DagNode* dag = node.asDag();
-        const auto paths = dag ? engine::DagPath::allTo(*dag) : std::vector<engine::DagPath>();
-        const auto instance = static_cast<std::size_t>(plug.logicalIndex());
-        if (instance < paths.size())
-            return (paths.size() == 1 ? referenceName(node) : paths[instance].fullName()) + "." +
-                   attribute.shortName;
-    }
-    return referenceName(node) + "." + filePath(nextAvailable ? plug.array() : plug);
+    std::string path = filePath(nextAvailable ? plug.array() : plug);
+    engine::DagNode* dag = node.asDag();
+    if (!dag || plug.indexCount() == 0 || !isPerInstance(*plug.attribute()))
+        return referenceName(node) + "." + path;
+    const std::vector<engine::DagPath> paths = engine::DagPath::allTo(*dag);
+    const auto instance = static_cast<std::size_t>(plug.indices()[0]);
+    if (instance >= paths.size())
+        return referenceName(node) + "." + path;
+    // The path says which instance is meant, so the index need not.
+    path.erase(path.find('['), path.find(']') + 1 - path.find('['));
+    return (paths.size() == 1 ? referenceName(node) : paths[instance].fullName()) + "." + path;
 }
 
 } // namespace tvxhost::scene

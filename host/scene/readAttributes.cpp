@@ -2,6 +2,7 @@
 #include "sceneReader.h"
 
 #include "setAttr.h"
+#include "xformMatrix.h"
 
 #include "mel/value.h"
 
@@ -32,6 +33,12 @@ std::string rawValues(std::string_view source, std::string_view typeName)
         if (character != '\r')
             raw += character;
     return raw;
+}
+
+bool isDeclaredByType(const Node& node, const engine::Attribute& attribute)
+{
+    const engine::Attribute* own = node.type().find(attribute.longName);
+    return own && own->shortName == attribute.shortName;
 }
 
 bool isMissing(const Outcome& outcome)
@@ -70,8 +77,11 @@ void SceneReader::addAttr(const SceneStatement& statement)
             declaration ? m_compounds.declare(*node, declaration.value) : declaration.outcome;
         if (added || isKept)
             return;
-        error(added.text, statement.line);
-        if (added.reason != Reason::nameTaken)
+        // An attribute that this host's type has anyway: the line goes back into the file as it was.
+        const bool isKnown = declaration && isDeclaredByType(*node, *declaration.value.attribute);
+        if (!isKnown)
+            error(added.text, statement.line);
+        if (isKnown || added.reason != Reason::nameTaken)
             keep(node->keptLines, statement);
     } catch (const mel::ValueError& wrong) {
         if (!isKept)
@@ -109,9 +119,16 @@ void SceneReader::setAttr(const SceneStatement& statement)
         request.raw = raw;
     }
     const Outcome set = applySetAttr(target.value, request, {m_scene.units(), engine::Limits::ignore});
-    if (set || isKept)
+    if (isKept)
         return;
-    error("setAttr: " + set.text, statement.line);
+    if (set) {
+        // The parts are more than the matrix that they make.
+        if (isRelative && request.hasValues() && request.values->text == kXformWord)
+            keep(m_section.node->keptLines, statement);
+        return;
+    }
+    if (!isRelative || set.reason != Reason::notImplemented)
+        error("setAttr: " + set.text, statement.line);
     if (isRelative && set.reason != Reason::lockedOrConnected)
         keep(m_section.node->keptLines, statement);
 }

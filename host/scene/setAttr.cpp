@@ -59,8 +59,10 @@ const mel::Argument* takeFlag(const mel::Argument* flag, const mel::Argument* en
         request.clamp = true;
         return flag + 1;
     }
-    if (isOneOf(name, kAlteredFlags))
+    if (isOneOf(name, kAlteredFlags)) {
+        request.hasHint = true;
         return flag + 1;
+    }
     const auto* state = std::find_if(kStateFlags.begin(), kStateFlags.end(), [&](const StateFlag& candidate) {
         return name == candidate.shortName || name == candidate.longName;
     });
@@ -78,7 +80,7 @@ const mel::Argument* takeFlag(const mel::Argument* flag, const mel::Argument* en
     if (isType) {
         request.type = value.text;
     } else if (isSize) {
-        request.hasSize = true;
+        request.hasHint = true;
     } else {
         request.*state->target = booleanOf(value);
         if (!(request.*state->target)) {
@@ -105,6 +107,22 @@ public:
     }
 
     bool isNumeric() const { return !m_leaves.empty(); }
+    /// Numbers of one size side by side: what arrays can take in one go.
+    bool isUniform(const engine::Attribute& attribute) const
+    {
+        return isNumeric() && (attribute.isNumberGroup() || attribute.children.empty());
+    }
+
+    Outcome storeRun(const Plug& array, int first, std::size_t elements)
+    {
+        std::vector<double> values(elements * m_leaves.size());
+        for (std::size_t i = 0; i < values.size(); ++i)
+            values[i] = m_words.number() * m_factors[i % m_factors.size()];
+        if (m_words.failed())
+            return {Reason::typeMismatch, "Error reading the values"};
+        return engine::writeElements(array, first, values.data(), values.size());
+    }
+
     bool canServe(std::size_t elements) const { return m_words.left() >= elements * m_leaves.size(); }
 
     Outcome storeNext(const Plug& plug, engine::Limits limits)
@@ -149,7 +167,7 @@ Outcome storeNumbers(const PlugTarget& target, const SetAttrRequest& request, co
         return first.outcome;
     NumberStream numbers(*first.value.attribute(), Words(request.values, request.end), rules.units);
     if (!numbers.isNumeric())
-        return {Reason::typeMismatch, "The attribute '" + first.value.name() + "' takes no numbers"};
+        return {Reason::notImplemented, "The attribute '" + first.value.name() + "' takes no numbers"};
     if (!target.isRange) {
         if (!numbers.canServe(1))
             return wrongValues(target.plug);
@@ -159,6 +177,11 @@ Outcome storeNumbers(const PlugTarget& target, const SetAttrRequest& request, co
     const auto count = static_cast<std::size_t>(target.last) - static_cast<std::size_t>(target.first) + 1;
     if (!numbers.canServe(count))
         return wrongValues(target.plug);
+    if (target.tail.empty() && limits != engine::Limits::clamp &&
+        numbers.isUniform(*target.plug.attribute())) {
+        const Outcome stored = numbers.storeRun(target.plug, target.first, count);
+        return stored && !numbers.atEnd() ? wrongValues(target.plug) : stored;
+    }
     for (int i = target.first; i <= target.last; ++i) {
         const Expected<Plug> plug = target.tail.empty() ? target.plug.element(i) : target.at(i);
         if (!plug)
@@ -219,7 +242,11 @@ Outcome storeData(const PlugTarget& target, const SetAttrRequest& request)
     if (request.type == "string" && plug.value.attribute()->kind == AttributeKind::typed &&
         plug.value.attribute()->dataType == engine::DataType::string)
         return engine::writeString(plug.value, static_cast<engine::StringData&>(*data.value).value.str());
-    return engine::writeData(plug.value, *data.value);
+    engine::Outcome stored = engine::writeData(plug.value, *data.value);
+    // Data that nobody here understands may well belong there all the same.
+    if (stored.reason == Reason::typeMismatch && data.value->type() == engine::DataType::plugin)
+        stored.reason = Reason::notImplemented;
+    return stored;
 }
 
 bool isKeptNumeric(const Plug& plug)
@@ -335,7 +362,7 @@ Outcome applySetAttr(const PlugTarget& target, const SetAttrRequest& request, co
     if (setsValue(request)) {
         if (Outcome stored = storeValues(target, request, rules); !stored)
             return stored;
-    } else if (!request.changesState() && !request.hasSize) {
+    } else if (!request.changesState() && !request.hasHint) {
         return {Reason::failed, "No values were given for '" + target.plug.name() + "'"};
     }
     return request.changesState() ? changeStates(target, request) : Outcome();

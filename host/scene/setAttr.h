@@ -19,7 +19,7 @@ struct SetAttrRequest
     std::optional<bool> locked;
     std::optional<bool> channelBox;
     std::optional<bool> caching;
-    bool hasSize = false; ///< -size, -capacityHint: hints that need no value
+    bool hasHint = false; ///< -size, -capacityHint, -alteredValue: hints that need no value
     bool clamp = false;
     std::string_view plug;                 ///< as written: "node.path", or ".path" of the current node
     std::string_view type;                 ///< of -type; empty when it was not given
@@ -43,7 +43,8 @@ struct SetAttrRules
 };
 
 /// Sets the value first, then the state. The outcome's text is the message for the user, without
-/// "setAttr: ". Ranges stop at the first element that refuses.
+/// "setAttr: ". Ranges stop at the first element that refuses. notImplemented for a value that the attribute
+/// may hold in Maya but cannot hold here.
 engine::Outcome applySetAttr(const PlugTarget& target, const SetAttrRequest& request,
                              const SetAttrRules& rules);
 

@@ -3,6 +3,7 @@
 
 #include "lineBreaker.h"
 #include "numberText.h"
+#include "xformMatrix.h"
 
 #include <algorithm>
 #include <array>
@@ -65,10 +66,6 @@ void write(LineBreaker& out, double value)
 void write(LineBreaker& out, float value)
 {
     write(out, static_cast<double>(value));
-}
-void write(LineBreaker& out, const engine::Text& value)
-{
-    out.word(mel::quoted(value.str()));
 }
 void write(LineBreaker& out, const engine::Vec3d& value)
 {
@@ -143,7 +140,12 @@ void writeString(std::string& out, const Data& data)
 Ref<Data> parseMatrix(Words& words)
 {
     engine::Matrix matrix;
-    read(words, matrix);
+    if (words.peek() == kXformWord) {
+        words.skip();
+        matrix = parseXformMatrix(words);
+    } else {
+        read(words, matrix);
+    }
     return Ref<Data>(new engine::MatrixData(matrix));
 }
 

@@ -1,11 +1,11 @@
 // Writing Maya ASCII scenes; see writer.h.
 #include "writer.h"
 
-#include "atomicFile.h"
 #include "connectionEnd.h"
 #include "lineBreaker.h"
 #include "nodeWriter.h"
 
+#include "engine/atomicFile.h"
 #include "mel/arguments.h"
 
 #include <algorithm>
@@ -314,7 +314,7 @@ std::string sceneText(Scene& scene, const std::string& fileName, const WriteOpti
 engine::Outcome saveScene(Scene& scene, const std::filesystem::path& file, const WriteOptions& options)
 {
     const std::string text = sceneText(scene, file.filename().string(), options);
-    const engine::Outcome written = writeFileAtomically(file, text);
+    const engine::Outcome written = engine::writeFileAtomically(file, text);
     if (written) {
         scene.fileName = std::filesystem::absolute(file).string();
         scene.isModified = false;

@@ -99,7 +99,8 @@ std::vector<SelectionItem> itemsOf(const CommandContext& context, const std::str
     return items;
 }
 
-std::vector<SelectionItem> itemsOrSelection(const CommandContext& context, const std::vector<std::string>& names)
+std::vector<SelectionItem> itemsOrSelection(const CommandContext& context,
+                                            const std::vector<std::string>& names)
 {
     if (names.empty())
         return sceneOf(context).selection().items();

@@ -15,7 +15,8 @@ InterfaceTree::InterfaceTree()
     add("window", kMainWindow, nullptr)->isShown = true;
 }
 
-InterfaceElement* InterfaceTree::add(const std::string& kind, const std::string& name, InterfaceElement* parent)
+InterfaceElement* InterfaceTree::add(const std::string& kind, const std::string& name,
+                                     InterfaceElement* parent)
 {
     auto& siblings = parent ? parent->m_children : m_windows;
     const bool isTaken = std::any_of(siblings.begin(), siblings.end(),
@@ -36,9 +37,10 @@ InterfaceElement* InterfaceTree::find(const std::string& nameOrPath) const
     std::vector<InterfaceElement*> found;
     collect(m_windows, nameOrPath.substr(bar == std::string::npos ? 0 : bar + 1), found);
     if (bar != std::string::npos)
-        found.erase(std::remove_if(found.begin(), found.end(),
-                                   [&](const InterfaceElement* element) { return element->path() != nameOrPath; }),
-                    found.end());
+        found.erase(
+            std::remove_if(found.begin(), found.end(),
+                           [&](const InterfaceElement* element) { return element->path() != nameOrPath; }),
+            found.end());
     return found.size() == 1 ? found.front() : nullptr;
 }
 

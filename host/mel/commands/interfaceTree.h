@@ -15,8 +15,8 @@ namespace tvxhost::mel {
 class InterfaceElement
 {
 public:
-    std::string kind; ///< the command that made it: "window", "menu", "menuItem" …
-    std::string name; ///< without path
+    std::string kind;                        ///< the command that made it: "window", "menu", "menuItem" …
+    std::string name;                        ///< without path
     std::map<std::string, Value> properties; ///< by the flag's long name
     bool isShown = false;                    ///< windows: showWindow was called
 

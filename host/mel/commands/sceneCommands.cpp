@@ -1,6 +1,8 @@
 // The commands that work on a scene; see sceneCommands.h.
 #include "sceneCommands.h"
 
+#include <initializer_list>
+
 namespace tvxhost::mel {
 
 void registerSceneCommands(CommandTable& table)

@@ -12,8 +12,8 @@ SceneSession::SceneSession(engine::Scene& scene, api::PluginLoader* plugins)
 {
 }
 
-engine::Outcome SceneSession::loadPlugin(const std::string& name, const engine::ScriptPlace& place, bool quiet,
-                                         const std::string& wishedName)
+engine::Outcome SceneSession::loadPlugin(const std::string& name, const engine::ScriptPlace& place,
+                                         bool quiet, const std::string& wishedName)
 {
     if (!m_plugins)
         return {engine::Reason::notImplemented, "Plug-ins cannot be loaded in this session"};

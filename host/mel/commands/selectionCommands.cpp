@@ -51,8 +51,9 @@ std::vector<SelectionItem> wanted(CommandContext& context, const ParsedCommand& 
         return allNodes(scene, !call.has("allDependencyNodes"), !call.has("allDagObjects"));
     std::vector<SelectionItem> items;
     const auto names = call.names();
-    for (const SelectionItem& item : names.empty() && !call.has("hierarchy") ? std::vector<SelectionItem>()
-                                                                             : itemsOrSelection(context, names)) {
+    for (const SelectionItem& item : names.empty() && !call.has("hierarchy")
+                                         ? std::vector<SelectionItem>()
+                                         : itemsOrSelection(context, names)) {
         const bool isSet = item.plug.isNull() && item.node->type().isA("objectSet");
         if (isSet && !call.has("noExpand")) {
             const std::vector<SelectionItem> members = setMembers(*item.node);
@@ -103,20 +104,21 @@ Value select(CommandContext& context, const ParsedCommand& call)
 
 void registerSelectionCommands(CommandTable& table)
 {
-    table.add({makeCommand("select", "Changes the selection",
-                           {switchFlag("r", "replace", "the objects become the selection (the default)"),
-                            switchFlag("add", "add", "adds them at the end"),
-                            switchFlag("af", "addFirst", "adds them at the beginning"),
-                            switchFlag("d", "deselect", "takes them out"),
-                            switchFlag("tgl", "toggle", "adds those that are not selected, takes out the others"),
-                            switchFlag("cl", "clear", "nothing is selected"),
-                            switchFlag("all", "all", "every top-level object and every node"),
-                            switchFlag("ado", "allDagObjects", "every top-level object"),
-                            switchFlag("adn", "allDependencyNodes", "every node"),
-                            switchFlag("hi", "hierarchy", "with everything below"),
-                            switchFlag("ne", "noExpand", "sets themselves, not their members"),
-                            switchFlag("vis", "visible", "visible objects only")},
-                           names(), select)});
+    table.add(
+        {makeCommand("select", "Changes the selection",
+                     {switchFlag("r", "replace", "the objects become the selection (the default)"),
+                      switchFlag("add", "add", "adds them at the end"),
+                      switchFlag("af", "addFirst", "adds them at the beginning"),
+                      switchFlag("d", "deselect", "takes them out"),
+                      switchFlag("tgl", "toggle", "adds those that are not selected, takes out the others"),
+                      switchFlag("cl", "clear", "nothing is selected"),
+                      switchFlag("all", "all", "every top-level object and every node"),
+                      switchFlag("ado", "allDagObjects", "every top-level object"),
+                      switchFlag("adn", "allDependencyNodes", "every node"),
+                      switchFlag("hi", "hierarchy", "with everything below"),
+                      switchFlag("ne", "noExpand", "sets themselves, not their members"),
+                      switchFlag("vis", "visible", "visible objects only")},
+                     names(), select)});
 }
 
 } // namespace tvxhost::mel

@@ -1,0 +1,275 @@
+// setAttr and getAttr.
+#include "commandSupport.h"
+#include "sceneCommands.h"
+
+#include "engine/data.h"
+#include "scene/setAttr.h"
+#include "scene/uiUnits.h"
+
+#include <numeric>
+
+namespace tvxhost::mel {
+
+using engine::Attribute;
+using engine::AttributeKind;
+using engine::Data;
+using engine::DataType;
+using engine::Expected;
+using engine::NumberKind;
+using engine::Plug;
+
+namespace {
+
+// ---- setAttr
+
+Value setAttr(CommandContext& context, const ArgumentList& arguments)
+{
+    engine::Scene& scene = sceneOf(context);
+    const scene::SetAttrRequest request = valueOf(context, scene::parseSetAttr(arguments));
+    const bool isRelative = !request.plug.empty() && request.plug.front() == '.';
+    std::vector<scene::PlugTarget> targets;
+    if (isRelative) {
+        for (const engine::SelectionItem& item : scene.selection().items())
+            targets.push_back(valueOf(context, scene::findTarget(*item.node, request.plug.substr(1))));
+        if (targets.empty())
+            context.fail("Nothing is selected for setAttr " + std::string(request.plug));
+    } else if (hasWildcard(std::string(request.plug))) {
+        for (const engine::SelectionItem& item : itemsOf(context, std::string(request.plug)))
+            if (!item.plug.isNull())
+                targets.push_back({item.plug, false, 0, 0, {}});
+    } else if (request.plug.find(':') == std::string_view::npos ||
+               request.plug.find('[') == std::string_view::npos) {
+        // By the item, so that a transform answers for its shape.
+        const engine::SelectionItem item = itemNamed(context, std::string(request.plug));
+        if (item.plug.isNull())
+            context.fail("No object matches name: " + std::string(request.plug));
+        targets.push_back({item.plug, false, 0, 0, {}});
+    } else {
+        targets.push_back(valueOf(context, scene::findTarget(scene, request.plug)));
+    }
+    for (const scene::PlugTarget& target : targets) {
+        const engine::Outcome set =
+            scene::applySetAttr(target, request, {scene.units(), engine::Limits::refuse});
+        if (!set)
+            context.fail("setAttr: " + set.text);
+    }
+    return {};
+}
+
+CommandSpec setAttrSpec()
+{
+    using A = ArgumentType;
+    CommandSpec spec;
+    spec.name = "setAttr";
+    spec.summary = "Sets the value or the state of an attribute";
+    spec.flags = {
+        valueFlag("typ", "type", A::string, "the type of a value that is no plain number"),
+        valueFlag("k", "keyable", A::boolean, "whether it can have keys"),
+        valueFlag("l", "lock", A::boolean, "whether it is protected"),
+        valueFlag("cb", "channelBox", A::boolean, "whether the channel box shows it"),
+        valueFlag("ca", "caching", A::boolean, "whether its value is cached"),
+        valueFlag("s", "size", A::integer, "how many elements there will be"),
+        valueFlag("ch", "capacityHint", A::integer, "how many values there will be"),
+        switchFlag("c", "clamp", "holds the value to the limits"),
+        switchFlag("av", "alteredValue", "only the value was changed"),
+    };
+    spec.positional = {A::any, 1, PositionalRule::kAny};
+    spec.handler = RawHandler(setAttr);
+    return spec;
+}
+
+// ---- getAttr
+
+bool isWhole(NumberKind kind)
+{
+    return kind != NumberKind::single && kind != NumberKind::real;
+}
+
+Value numberValue(CommandContext& context, const Plug& plug)
+{
+    const engine::Number number = valueOf(context, engine::readNumber(plug));
+    const Attribute& attribute = *plug.attribute();
+    if (isWhole(attribute.number))
+        return Value(static_cast<int>(number.asWhole()));
+    return Value(number.asReal() / scene::internalPerUi(attribute, sceneOf(context).units()));
+}
+
+Value numbersValue(CommandContext& context, const Plug& plug, const std::vector<Attribute*>& leaves)
+{
+    std::vector<double> numbers = valueOf(context, engine::readNumbers(plug));
+    const engine::Units& units = sceneOf(context).units();
+    bool areWhole = true;
+    for (std::size_t i = 0; i < numbers.size() && i < leaves.size(); ++i) {
+        numbers[i] /= scene::internalPerUi(*leaves[i], units);
+        areWhole = areWhole && isWhole(leaves[i]->number);
+    }
+    if (areWhole)
+        return Value(Value::Integers(numbers.begin(), numbers.end()));
+    return Value(std::move(numbers));
+}
+
+template <class ArrayType>
+Value::Strings texts(const Data& data)
+{
+    Value::Strings list;
+    for (const engine::Text& text : static_cast<const ArrayType&>(data).values)
+        list.push_back(text.str());
+    return list;
+}
+
+template <class ArrayType>
+Value::Numbers numbers(const Data& data)
+{
+    const auto& values = static_cast<const ArrayType&>(data).values;
+    return Value::Numbers(values.begin(), values.end());
+}
+
+Value matrixValue(const engine::Matrix& matrix)
+{
+    return Value(Value::Numbers(matrix.getValue(), matrix.getValue() + 16));
+}
+
+Value pointsValue(const Data& data)
+{
+    Value::Numbers list;
+    for (const engine::Vec4d& point : static_cast<const engine::PointArrayData&>(data).values)
+        list.insert(list.end(), {point.x, point.y, point.z, point.w});
+    return Value(std::move(list));
+}
+
+Value dataValue(const Data& data)
+{
+    switch (data.type()) {
+    case DataType::string:
+        return Value(static_cast<const engine::StringData&>(data).value.str());
+    case DataType::matrix:
+        return matrixValue(static_cast<const engine::MatrixData&>(data).value);
+    case DataType::stringArray:
+        return Value(texts<engine::StringArrayData>(data));
+    case DataType::componentList:
+        return Value(texts<engine::ComponentListData>(data));
+    case DataType::intArray: {
+        const auto& values = static_cast<const engine::IntArrayData&>(data).values;
+        return Value(Value::Integers(values.begin(), values.end()));
+    }
+    case DataType::floatArray:
+        return Value(numbers<engine::FloatArrayData>(data));
+    case DataType::doubleArray:
+        return Value(numbers<engine::DoubleArrayData>(data));
+    case DataType::vectorArray: {
+        const auto& values = static_cast<const engine::VectorArrayData&>(data).values;
+        return Value(Value::Vectors(values.begin(), values.end()));
+    }
+    case DataType::pointArray:
+        return pointsValue(data);
+    default:
+        return {};
+    }
+}
+
+Value valueOfPlug(CommandContext& context, const Plug& plug)
+{
+    Attribute& attribute = *plug.attribute();
+    const bool isElementOrPlain = !plug.isArray();
+    if (isElementOrPlain) {
+        const std::vector<Attribute*> leaves = scene::numberLeaves(attribute);
+        if (leaves.size() == 1 && attribute.children.empty())
+            return numberValue(context, plug);
+        if (!leaves.empty())
+            return numbersValue(context, plug, leaves);
+    }
+    if (attribute.kind == AttributeKind::message)
+        context.fail("getAttr: Message attributes have no data values.");
+    if (plug.isArray() || attribute.isCompound())
+        context.fail("getAttr: The attribute '" + plug.name() +
+                     "' has no single value; ask for one of its parts.");
+    const auto data = engine::readData(plug);
+    if (!data && data.outcome.reason == engine::Reason::noData)
+        return {};
+    require(context, data.outcome);
+    return data.value ? dataValue(*data.value) : Value();
+}
+
+Value stateValue(const Plug& plug, const ParsedCommand& call)
+{
+    const engine::PlugState state = engine::stateOf(plug);
+    const engine::AttributeFlags& own = plug.attribute()->flags;
+    if (call.has("lock"))
+        return Value(engine::isLocked(plug));
+    if (call.has("keyable"))
+        return Value(state.keyable.value_or(own.keyable));
+    if (call.has("channelBox"))
+        return Value(state.channelBox.value_or(own.channelBox));
+    if (call.has("caching"))
+        return Value(state.caching.value_or(own.cached));
+    if (call.has("settable"))
+        return Value(own.writable && !engine::isLocked(plug) && !engine::isFedAnywhere(plug));
+    if (call.has("size"))
+        return Value(plug.isArray() ? static_cast<int>(engine::existingElements(plug).size()) : 1);
+    if (call.has("multiIndices"))
+        return Value(Value::Integers(engine::existingElements(plug)));
+    if (call.has("type"))
+        return Value(plug.attribute()->typeName());
+    return {};
+}
+
+/// Reads at another time and comes back.
+class AtTime
+{
+public:
+    AtTime(engine::Scene& scene, double seconds) : m_scene(scene), m_before(scene.time())
+    {
+        scene.setTime(seconds);
+    }
+    ~AtTime() { m_scene.setTime(m_before); }
+    AtTime(const AtTime&) = delete;
+    AtTime& operator=(const AtTime&) = delete;
+
+private:
+    engine::Scene& m_scene;
+    double m_before;
+};
+
+Value getAttr(CommandContext& context, const ParsedCommand& call)
+{
+    engine::Scene& scene = sceneOf(context);
+    const std::string name = call.names().front();
+    const engine::SelectionItem item = itemNamed(context, name);
+    if (item.plug.isNull())
+        context.fail("No object matches name: " + name);
+    if (const Value state = stateValue(item.plug, call); !state.isNone())
+        return state;
+    if (call.has("asString") && item.plug.attribute()->kind == AttributeKind::enumeration) {
+        const auto number = static_cast<short>(valueOf(context, engine::readNumber(item.plug)).asWhole());
+        return Value(item.plug.attribute()->fieldName(number).value_or(""));
+    }
+    if (!call.has("time"))
+        return valueOfPlug(context, item.plug);
+    const AtTime at(scene, toInternal(context, call.use("time")->arguments.front(), ArgumentType::time));
+    return valueOfPlug(context, item.plug);
+}
+
+} // namespace
+
+void registerAttributeValueCommands(CommandTable& table)
+{
+    using A = ArgumentType;
+    table.add({
+        setAttrSpec(),
+        makeCommand("getAttr", "Gives the value or the state of an attribute",
+                    {switchFlag("as", "asString", "the field's name of an enum"),
+                     switchFlag("typ", "type", "the type of the attribute"),
+                     switchFlag("l", "lock", "whether it is locked"),
+                     switchFlag("k", "keyable", "whether it can have keys"),
+                     switchFlag("cb", "channelBox", "whether the channel box shows it"),
+                     switchFlag("ca", "caching", "whether its value is cached"),
+                     switchFlag("se", "settable", "whether it can be set now"),
+                     switchFlag("s", "size", "how many elements an array has"),
+                     switchFlag("mi", "multiIndices", "the indices of an array's elements"),
+                     switchFlag("sl", "silent", "no message when there is no value"),
+                     valueFlag("t", "time", A::time, "at this time")},
+                    names(1, 1), getAttr),
+    });
+}
+
+} // namespace tvxhost::mel

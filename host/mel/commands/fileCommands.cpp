@@ -1,0 +1,352 @@
+// Files: scenes, projects, requirements.
+#include "commandSupport.h"
+#include "sceneCommands.h"
+
+#include "../interpreter.h"
+
+#include "engine/scriptEditor.h"
+
+#include <algorithm>
+
+namespace tvxhost::mel {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+constexpr const char* kUnsaved = "Unsaved changes";
+
+/// A file's name as scripts give it: relative ones start at the project.
+fs::path resolved(const SceneSession& session, const std::string& name)
+{
+    const fs::path path(name);
+    return path.is_absolute() ? path : session.projectFolder / path;
+}
+
+// ---- file
+
+void checkRead(CommandContext& context, const scene::ReadResult& result)
+{
+    if (!result.outcome)
+        throw ScriptError(result.outcome.text, result.place.line > 0 ? result.place : context.place());
+}
+
+void checkUnsaved(CommandContext& context, const ParsedCommand& call)
+{
+    if (sceneOf(context).isModified && !call.has("force"))
+        context.fail(kUnsaved);
+}
+
+Value newFile(CommandContext& context, const ParsedCommand& call)
+{
+    checkUnsaved(context, call);
+    sceneOf(context).newScene();
+    return Value("");
+}
+
+Value openFile(CommandContext& context, const ParsedCommand& call)
+{
+    checkUnsaved(context, call);
+    SceneSession& session = sessionOf(context);
+    const fs::path file = resolved(session, call.names().at(0));
+    checkRead(context, session.open(context.interpreter(), file));
+    return Value(file.string());
+}
+
+Value importFile(CommandContext& context, const ParsedCommand& call)
+{
+    SceneSession& session = sessionOf(context);
+    const fs::path file = resolved(session, call.names().at(0));
+    checkRead(context, session.import(context.interpreter(), file));
+    return Value(file.string());
+}
+
+void checkFormat(CommandContext& context, const ParsedCommand& call, const fs::path& file)
+{
+    const std::string type = call.string("type", file.extension() == ".mb" ? "mayaBinary" : "mayaAscii");
+    if (type != "mayaAscii")
+        context.fail("Only files of type mayaAscii can be written, not " + type);
+}
+
+Value saveFile(CommandContext& context, const ParsedCommand& call)
+{
+    SceneSession& session = sessionOf(context);
+    const std::string name = session.scene().fileName;
+    if (name.empty())
+        context.fail("The scene has no name: use file -rename first");
+    checkFormat(context, call, name);
+    require(context, session.saveAs(name));
+    return Value(name);
+}
+
+Value renameFile(CommandContext& context, const ParsedCommand& call)
+{
+    SceneSession& session = sessionOf(context);
+    session.scene().fileName = resolved(session, call.string("rename")).lexically_normal().string();
+    return Value(session.scene().fileName);
+}
+
+/// Writes the whole scene beside its own file.
+Value exportAll(CommandContext& context, const ParsedCommand& call)
+{
+    SceneSession& session = sessionOf(context);
+    const fs::path file = resolved(session, call.names().at(0));
+    checkFormat(context, call, file);
+    engine::Scene& scene = session.scene();
+    const std::string name = scene.fileName;
+    const bool wasModified = scene.isModified;
+    const engine::Outcome saved = session.saveAs(file);
+    scene.fileName = name;
+    scene.isModified = wasModified;
+    require(context, saved);
+    return Value(file.string());
+}
+
+Value queryFile(CommandContext& context, const ParsedCommand& call)
+{
+    SceneSession& session = sessionOf(context);
+    const engine::Scene& scene = session.scene();
+    const fs::path file(scene.fileName);
+    if (call.has("exists"))
+        return Value(fs::exists(resolved(session, call.names().at(0))));
+    if (call.has("modified"))
+        return Value(scene.isModified);
+    if (call.has("sceneName"))
+        return Value(call.has("shortName") ? file.filename().string() : scene.fileName);
+    if (call.has("location"))
+        return Value(scene.fileName.empty() ? std::string("unknown") : scene.fileName);
+    if (call.has("type"))
+        return Value(Value::Strings{"mayaAscii"});
+    if (call.has("list"))
+        return Value(scene.fileName.empty() ? Value::Strings() : Value::Strings{scene.fileName});
+    context.fail("file: nothing was asked");
+}
+
+Value file(CommandContext& context, const ParsedCommand& call)
+{
+    if (call.queries())
+        return queryFile(context, call);
+    using Action = Value (*)(CommandContext&, const ParsedCommand&);
+    constexpr std::pair<const char*, Action> kActions[] = {
+        {"newFile", newFile},     {"open", openFile},     {"import", importFile},
+        {"exportAll", exportAll}, {"rename", renameFile}, {"save", saveFile},
+    };
+    for (const char* refused : {"reference", "exportSelected", "removeReference", "loadReference"})
+        if (call.has(refused))
+            context.fail(std::string("file -") + refused + " is not implemented");
+    if (call.has("modified")) {
+        sceneOf(context).isModified = call.boolean("modified");
+        return {};
+    }
+    Value value;
+    bool isDone = false;
+    for (const auto& [flag, action] : kActions) {
+        if (!call.has(flag))
+            continue;
+        if (std::string_view(flag) != "rename" && std::string_view(flag) != "save" &&
+            std::string_view(flag) != "newFile" && call.positional.empty())
+            context.fail(std::string("file -") + flag + " needs the name of a file");
+        value = action(context, call);
+        isDone = true;
+    }
+    if (!isDone)
+        context.fail("file: nothing was asked for");
+    return value;
+}
+
+CommandSpec fileCommand()
+{
+    using A = ArgumentType;
+    return makeCommand("file", "Opens, saves and tells scene files",
+                       {switchFlag("new", "newFile", "an empty scene"),
+                        switchFlag("o", "open", "opens a file"),
+                        switchFlag("i", "import", "adds a file's content"),
+                        switchFlag("s", "save", "saves the scene under its name"),
+                        valueFlag("rn", "rename", A::string, "the scene's name from now on"),
+                        switchFlag("ea", "exportAll", "writes everything to another file"),
+                        switchFlag("es", "exportSelected", "writes what is selected to another file"),
+                        switchFlag("r", "reference", "references a file"),
+                        switchFlag("rr", "removeReference", "removes a reference"),
+                        switchFlag("lr", "loadReference", "loads a reference"),
+                        valueFlag("typ", "type", A::string, "mayaAscii", kCreateQuery),
+                        switchFlag("f", "force", "although there are changes that were not saved"),
+                        valueFlag("pmt", "prompt", A::boolean, "whether dialogs may ask"),
+                        valueFlag("op", "options", A::string, "for the writer of the format"),
+                        valueFlag("iv", "ignoreVersion", A::boolean, "reads files of other versions"),
+                        switchFlag("sn", "sceneName", "the scene's file", kQuery),
+                        switchFlag("shn", "shortName", "without its folder", kQuery),
+                        switchFlag("loc", "location", "the scene's file, or unknown", kQuery),
+                        valueFlag("mf", "modified", A::boolean,
+                                  "whether there are changes that were not saved", kCreateQuery),
+                        switchFlag("ex", "exists", "whether a file exists", kQuery),
+                        switchFlag("l", "list", "the files in use", kQuery)},
+                       names(0, 1), file, kQuery);
+}
+
+// ---- requires, fileInfo
+
+Value requiresPlugin(CommandContext& context, const ParsedCommand& call)
+{
+    const std::vector<std::string> words = call.names();
+    if (words[0] == "maya")
+        return {};
+    const engine::Outcome loaded = sessionOf(context).loadPlugin(words[0], context.place(), true);
+    if (!loaded)
+        context.warn(loaded.text);
+    return {};
+}
+
+Value fileInfo(CommandContext& context, const ParsedCommand& call)
+{
+    auto& all = sceneOf(context).fileInfo;
+    const std::vector<std::string> words = call.names();
+    const auto findKey = [&](const std::string& key) {
+        return std::find_if(all.begin(), all.end(), [&](const auto& entry) { return entry.first == key; });
+    };
+    if (call.has("remove")) {
+        if (const auto entry = findKey(call.string("remove")); entry != all.end())
+            all.erase(entry);
+        return {};
+    }
+    if (call.queries()) {
+        Value::Strings list;
+        for (const auto& [key, value] : all) {
+            if (!words.empty() && key != words.front())
+                continue;
+            if (words.empty())
+                list.push_back(key);
+            list.push_back(value);
+        }
+        return Value(std::move(list));
+    }
+    if (words.size() != 2)
+        context.fail("fileInfo needs a keyword and a value");
+    if (const auto entry = findKey(words[0]); entry != all.end())
+        entry->second = words[1];
+    else
+        all.emplace_back(words[0], words[1]);
+    return {};
+}
+
+// ---- workspace, sysFile
+
+std::string withoutSlash(const fs::path& folder)
+{
+    std::string text = folder.lexically_normal().string();
+    while (text.size() > 1 && text.back() == '/')
+        text.pop_back();
+    return text;
+}
+
+Value workspace(CommandContext& context, const ParsedCommand& call)
+{
+    SceneSession& session = sessionOf(context);
+    if (call.queries()) {
+        const std::string root = withoutSlash(session.projectFolder);
+        return Value(call.has("rootDirectory") ? root + "/" : root);
+    }
+    const std::vector<std::string> words = call.names();
+    const std::string folder = call.has("directory") ? call.string("directory")
+                               : words.empty()       ? ""
+                                                     : words.front();
+    if (folder.empty())
+        return {};
+    const fs::path project = resolved(session, folder);
+    if (!fs::is_directory(project))
+        context.fail("workspace: there is no folder \"" + project.string() + "\"");
+    session.projectFolder = project;
+    return {};
+}
+
+/// What sysFile does to a path; each answers whether it could.
+struct FileAction
+{
+    const char* shortName;
+    const char* longName;
+    bool hasTarget;
+    const char* help;
+    bool (*act)(const fs::path& path, const fs::path& target, std::error_code& error);
+};
+
+const FileAction kFileActions[] = {
+    {"md", "makeDir", false, "makes a folder with all that are missing above it",
+     [](const fs::path& path, const fs::path&, std::error_code& error) {
+         fs::create_directories(path, error);
+         return fs::is_directory(path, error);
+     }},
+    {"red", "removeEmptyDir", false, "removes an empty folder",
+     [](const fs::path& path, const fs::path&, std::error_code& error) {
+         return fs::is_directory(path, error) && fs::remove(path, error);
+     }},
+    {"del", "delete", false, "deletes a file",
+     [](const fs::path& path, const fs::path&, std::error_code& error) {
+         return fs::is_regular_file(path, error) && fs::remove(path, error);
+     }},
+    {"ren", "rename", true, "gives a file another name",
+     [](const fs::path& path, const fs::path& target, std::error_code& error) {
+         fs::rename(path, target, error);
+         return !error;
+     }},
+    {"mov", "move", true, "moves a file",
+     [](const fs::path& path, const fs::path& target, std::error_code& error) {
+         fs::rename(path, fs::is_directory(target) ? target / path.filename() : target, error);
+         return !error;
+     }},
+    {"cp", "copy", true, "copies a file",
+     [](const fs::path& path, const fs::path& target, std::error_code& error) {
+         return fs::copy_file(path, fs::is_directory(target) ? target / path.filename() : target,
+                              fs::copy_options::overwrite_existing, error);
+     }},
+};
+
+Value sysFile(CommandContext& context, const ParsedCommand& call)
+{
+    const SceneSession& session = sessionOf(context);
+    const fs::path path = resolved(session, call.names().front());
+    std::error_code error;
+    for (const FileAction& action : kFileActions)
+        if (call.has(action.longName))
+            return Value(action.act(
+                path, action.hasTarget ? resolved(session, call.string(action.longName)) : fs::path(),
+                error));
+    context.fail("sysFile: nothing was asked for");
+}
+
+CommandSpec sysFileCommand()
+{
+    std::vector<FlagSpec> flags;
+    for (const FileAction& action : kFileActions)
+        flags.push_back(action.hasTarget
+                            ? valueFlag(action.shortName, action.longName, ArgumentType::string, action.help)
+                            : switchFlag(action.shortName, action.longName, action.help));
+    return makeCommand("sysFile", "Makes, moves and deletes files and folders", std::move(flags),
+                       {ArgumentType::string, 1, 1}, sysFile);
+}
+
+} // namespace
+
+void registerFileCommands(CommandTable& table)
+{
+    using A = ArgumentType;
+    table.add({
+        fileCommand(),
+        makeCommand(
+            "requires", "Loads a plug-in that a scene needs",
+            {valueFlag("nt", "nodeType", A::string, "a type that it defines", kCreate | kMultiUse),
+             valueFlag("dt", "dataType", A::string, "a type of data that it defines", kCreate | kMultiUse)},
+            names(2, 2), requiresPlugin),
+        makeCommand("fileInfo", "Keeps words with the scene",
+                    {valueFlag("rm", "remove", A::string, "forgets a keyword")}, {A::string, 0, 2}, fileInfo,
+                    kQuery),
+        makeCommand("workspace", "Tells and sets the project",
+                    {switchFlag("fn", "fullName", "the project's folder", kQuery),
+                     switchFlag("rd", "rootDirectory", "the same with a slash at its end", kQuery),
+                     valueFlag("dir", "directory", A::string, "the current folder", kCreateQuery),
+                     switchFlag("o", "openWorkspace", "makes it the project"),
+                     valueFlag("fre", "fileRuleEntry", A::string, "a rule's folder", kQuery)},
+                    {A::string, 0, 1}, workspace, kQuery),
+        sysFileCommand(),
+    });
+}
+
+} // namespace tvxhost::mel

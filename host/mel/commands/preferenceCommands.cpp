@@ -1,0 +1,355 @@
+// Preferences and the session itself: optionVar, savePrefs, windowPref, about, internalVar.
+#include "commandSupport.h"
+#include "sceneCommands.h"
+
+#include <array>
+#include <filesystem>
+#include <type_traits>
+#include <variant>
+
+namespace tvxhost::mel {
+
+using engine::OptionValue;
+using engine::OptionVars;
+
+namespace {
+
+// ---- optionVar
+
+Value toValue(const OptionValue& value)
+{
+    return std::visit([](const auto& held) { return Value(held); }, value);
+}
+
+template <class T>
+void append(OptionVars& variables, const std::string& name, T element)
+{
+    std::vector<T> elements;
+    if (const OptionValue* value = variables.find(name)) {
+        if (const auto* array = std::get_if<std::vector<T>>(value))
+            elements = *array;
+        else if (const auto* single = std::get_if<T>(value))
+            elements = {*single};
+    }
+    elements.push_back(std::move(element));
+    variables.set(name, std::move(elements));
+}
+
+std::size_t sizeOf(const OptionValue* value)
+{
+    return value ? toValue(*value).size() : 0;
+}
+
+void removeElement(OptionVars& variables, const std::string& name, int index)
+{
+    const OptionValue* value = variables.find(name);
+    if (!value)
+        return;
+    OptionValue changed = *value;
+    std::visit(
+        [&](auto& held) {
+            if constexpr (!std::is_arithmetic_v<std::decay_t<decltype(held)>> &&
+                          !std::is_same_v<std::decay_t<decltype(held)>, std::string>)
+                if (index >= 0 && static_cast<std::size_t>(index) < held.size())
+                    held.erase(held.begin() + index);
+        },
+        changed);
+    variables.set(name, std::move(changed));
+}
+
+/// One flag of optionVar that changes a variable.
+struct OptionChange
+{
+    const char* shortName;
+    const char* longName;
+    std::vector<ArgumentType> arguments; ///< behind the variable's name
+    const char* help;
+    void (*apply)(OptionVars& variables, const std::string& name, const std::vector<Value>& arguments);
+};
+
+const std::vector<OptionChange>& optionChanges()
+{
+    using A = ArgumentType;
+    using Values = std::vector<Value>;
+    static const std::vector<OptionChange> changes = {
+        {"iv",
+         "intValue",
+         {A::integer},
+         "sets a whole number",
+         [](OptionVars& v, const std::string& n, const Values& a) { v.set(n, a[1].toInteger()); }},
+        {"fv",
+         "floatValue",
+         {A::number},
+         "sets a number",
+         [](OptionVars& v, const std::string& n, const Values& a) { v.set(n, a[1].toNumber()); }},
+        {"sv",
+         "stringValue",
+         {A::string},
+         "sets a string",
+         [](OptionVars& v, const std::string& n, const Values& a) { v.set(n, a[1].toString()); }},
+        {"iva",
+         "intValueAppend",
+         {A::integer},
+         "adds a whole number to an array",
+         [](OptionVars& v, const std::string& n, const Values& a) { append(v, n, a[1].toInteger()); }},
+        {"fva",
+         "floatValueAppend",
+         {A::number},
+         "adds a number to an array",
+         [](OptionVars& v, const std::string& n, const Values& a) { append(v, n, a[1].toNumber()); }},
+        {"sva",
+         "stringValueAppend",
+         {A::string},
+         "adds a string to an array",
+         [](OptionVars& v, const std::string& n, const Values& a) { append(v, n, a[1].toString()); }},
+        {"ca",
+         "clearArray",
+         {},
+         "empties an array",
+         [](OptionVars& v, const std::string& n, const Values&) {
+             OptionValue empty = v.find(n) ? *v.find(n) : OptionValue(std::vector<std::string>());
+             std::visit(
+                 [](auto& held) {
+                     if constexpr (!std::is_arithmetic_v<std::decay_t<decltype(held)>>)
+                         held.clear();
+                 },
+                 empty);
+             v.set(n, std::move(empty));
+         }},
+        {"rfa",
+         "removeFromArray",
+         {A::integer},
+         "takes one element out of an array",
+         [](OptionVars& v, const std::string& n, const Values& a) { removeElement(v, n, a[1].toInteger()); }},
+        {"rm",
+         "remove",
+         {},
+         "deletes the variable",
+         [](OptionVars& v, const std::string& n, const Values&) { v.remove(n); }},
+    };
+    return changes;
+}
+
+Value optionVar(CommandContext& context, const ParsedCommand& call)
+{
+    OptionVars& variables = sceneOf(context).optionVars();
+    if (call.has("exists"))
+        return Value(variables.exists(call.string("exists")));
+    if (call.has("arraySize"))
+        return Value(static_cast<int>(sizeOf(variables.find(call.string("arraySize")))));
+    if (call.has("list"))
+        return Value(Value::Strings(variables.names()));
+    if (call.queries()) {
+        if (call.positional.empty())
+            context.fail("optionVar: which variable is asked for?");
+        const OptionValue* value = variables.find(call.names().front());
+        return value ? toValue(*value) : Value(0);
+    }
+    for (const FlagUse& use : call.flags)
+        for (const OptionChange& change : optionChanges())
+            if (use.flag->longName == change.longName)
+                change.apply(variables, use.arguments.front().toString(), use.arguments);
+    return {};
+}
+
+CommandSpec optionVarCommand()
+{
+    using A = ArgumentType;
+    std::vector<FlagSpec> flags = {
+        valueFlag("ex", "exists", A::string, "whether there is such a variable",
+                  kCreateQuery | kQueryWithArguments),
+        valueFlag("as", "arraySize", A::string, "how many elements it has",
+                  kCreateQuery | kQueryWithArguments),
+        switchFlag("l", "list", "the names of all", kCreateQuery),
+    };
+    for (const OptionChange& change : optionChanges()) {
+        std::vector<A> arguments = {A::string};
+        arguments.insert(arguments.end(), change.arguments.begin(), change.arguments.end());
+        flags.push_back(
+            {change.shortName, change.longName, std::move(arguments), kCreate | kMultiUse, change.help});
+    }
+    return makeCommand("optionVar", "Sets and tells the user's option variables", std::move(flags),
+                       names(0, 1), optionVar, kQuery);
+}
+
+Value savePrefs(CommandContext& context, const ParsedCommand&)
+{
+    SceneSession& session = sessionOf(context);
+    if (session.preferencesFolder.empty())
+        return Value(0);
+    require(context, session.scene().optionVars().save(session.preferencesFolder));
+    return Value(1);
+}
+
+// ---- about, internalVar
+
+struct Fact
+{
+    const char* shortName;
+    const char* longName;
+    const char* help;
+    Value (*tell)(const engine::Scene& scene);
+};
+
+const Fact kFacts[] = {
+    {"b", "batch", "whether there is no user interface",
+     [](const engine::Scene& scene) { return Value(scene.isBatch()); }},
+    {"v", "version", "the version", [](const engine::Scene&) { return Value("2016"); }},
+    {"api", "apiVersion", "the version of the programming interface",
+     [](const engine::Scene&) { return Value(201602); }},
+    {"p", "product", "the product", [](const engine::Scene&) { return Value("Maya 2016"); }},
+    {"a", "application", "the application", [](const engine::Scene&) { return Value("maya"); }},
+    {"c", "cutIdentifier", "the build", [](const engine::Scene&) { return Value("201610262200-1005964"); }},
+    {"f", "file", "the version in scene files", [](const engine::Scene&) { return Value("2016"); }},
+    {"os", "operatingSystem", "the system", [](const engine::Scene&) { return Value("linux64"); }},
+    {"linux", "linux", "whether the system is Linux", [](const engine::Scene&) { return Value(1); }},
+    {"nt", "ntOS", "whether the system is Windows", [](const engine::Scene&) { return Value(0); }},
+    {"mac", "macOS", "whether the system is macOS", [](const engine::Scene&) { return Value(0); }},
+    {"uil", "uiLanguage", "the language", [](const engine::Scene&) { return Value("en_US"); }},
+};
+
+Value about(CommandContext& context, const ParsedCommand& call)
+{
+    for (const Fact& fact : kFacts)
+        if (call.has(fact.longName))
+            return fact.tell(sceneOf(context));
+    context.fail("about: nothing was asked");
+}
+
+CommandSpec aboutCommand()
+{
+    std::vector<FlagSpec> flags;
+    for (const Fact& fact : kFacts)
+        flags.push_back(switchFlag(fact.shortName, fact.longName, fact.help, kCreateQuery));
+    return makeCommand("about", "Tells about the program", std::move(flags), noArguments(), about, kQuery);
+}
+
+Value internalVar(CommandContext& context, const ParsedCommand& call)
+{
+    const std::filesystem::path& preferences = sessionOf(context).preferencesFolder;
+    if (call.has("userTmpDir"))
+        return Value((std::filesystem::temp_directory_path() / "").string());
+    if (call.has("userScriptDir"))
+        return Value((preferences / "scripts" / "").string());
+    return Value((preferences / "").string());
+}
+
+// ---- windowPref
+
+constexpr std::array<const char*, 5> kWindowNumbers = {"topEdge", "leftEdge", "width", "height", "maximized"};
+
+/// Window preferences live among the option variables, under a name of their own.
+std::string windowVariable(const std::string& window, const std::string& number)
+{
+    return "windowPref:" + window + ":" + number;
+}
+
+bool hasWindowPref(const OptionVars& variables, const std::string& window)
+{
+    return variables.exists(windowVariable(window, kWindowNumbers.front()));
+}
+
+void removeWindowPref(OptionVars& variables, const std::string& window)
+{
+    for (const char* number : kWindowNumbers)
+        variables.remove(windowVariable(window, number));
+}
+
+void removeAllWindowPrefs(OptionVars& variables)
+{
+    for (const std::string& name : variables.names())
+        if (name.rfind("windowPref:", 0) == 0)
+            variables.remove(name);
+}
+
+Value queryWindowPref(CommandContext& context, const ParsedCommand& call, const std::string& window)
+{
+    const OptionVars& variables = sceneOf(context).optionVars();
+    if (!hasWindowPref(variables, window))
+        context.fail("windowPref: there is no preference of a window '" + window + "'");
+    const auto number = [&](const char* name) {
+        return variables.asInt(windowVariable(window, name)).value_or(0);
+    };
+    if (call.has("topLeftCorner"))
+        return Value(Value::Integers{number("topEdge"), number("leftEdge")});
+    if (call.has("widthHeight"))
+        return Value(Value::Integers{number("width"), number("height")});
+    for (const char* name : kWindowNumbers)
+        if (call.has(name))
+            return Value(number(name));
+    return {};
+}
+
+Value windowPref(CommandContext& context, const ParsedCommand& call)
+{
+    OptionVars& variables = sceneOf(context).optionVars();
+    const std::vector<std::string> windows = call.names();
+    if (call.has("removeAll"))
+        removeAllWindowPrefs(variables);
+    if (call.has("saveAll"))
+        return savePrefs(context, call);
+    if (windows.empty())
+        return {};
+    const std::string& window = windows.front();
+    if (call.has("exists"))
+        return Value(hasWindowPref(variables, window));
+    if (call.queries())
+        return queryWindowPref(context, call, window);
+    if (call.has("remove")) {
+        removeWindowPref(variables, window);
+        return {};
+    }
+    const auto set = [&](const char* name, const Value& value) {
+        variables.set(windowVariable(window, name), value.toInteger());
+    };
+    if (!hasWindowPref(variables, window))
+        for (const char* name : kWindowNumbers)
+            set(name, Value(0));
+    for (const char* name : kWindowNumbers)
+        if (const FlagUse* use = call.use(name))
+            set(name, use->arguments.front());
+    if (const FlagUse* use = call.use("topLeftCorner")) {
+        set("topEdge", use->arguments[0]);
+        set("leftEdge", use->arguments[1]);
+    }
+    if (const FlagUse* use = call.use("widthHeight")) {
+        set("width", use->arguments[0]);
+        set("height", use->arguments[1]);
+    }
+    return Value(window);
+}
+
+} // namespace
+
+void registerPreferenceCommands(CommandTable& table)
+{
+    using A = ArgumentType;
+    table.add({
+        optionVarCommand(),
+        makeCommand("savePrefs", "Writes the preferences", {switchFlag("g", "general", "option variables")},
+                    noArguments(), savePrefs),
+        aboutCommand(),
+        makeCommand("internalVar", "Tells the folders of the user",
+                    {switchFlag("upd", "userPrefDir", "preferences"),
+                     switchFlag("uad", "userAppDir", "everything of the user"),
+                     switchFlag("usd", "userScriptDir", "scripts"),
+                     switchFlag("utd", "userTmpDir", "temporary files")},
+                    noArguments(), internalVar),
+        makeCommand("windowPref", "Keeps the places of windows",
+                    {switchFlag("ex", "exists", "whether there is one of this window", kCreateQuery),
+                     valueFlag("te", "topEdge", A::integer, "pixels from the top", kAllModes),
+                     valueFlag("le", "leftEdge", A::integer, "pixels from the left", kAllModes),
+                     valueFlag("w", "width", A::integer, "in pixels", kAllModes),
+                     valueFlag("h", "height", A::integer, "in pixels", kAllModes),
+                     {"tlc", "topLeftCorner", {A::integer, A::integer}, kAllModes, "top and left"},
+                     {"wh", "widthHeight", {A::integer, A::integer}, kAllModes, "width and height"},
+                     valueFlag("max", "maximized", A::boolean, "fills the screen", kAllModes),
+                     switchFlag("r", "remove", "forgets this window"),
+                     switchFlag("ra", "removeAll", "forgets all windows"),
+                     valueFlag("ea", "enableAll", A::boolean, "whether places are kept", kAllModes),
+                     switchFlag("sa", "saveAll", "writes them now")},
+                    names(0, 1), windowPref, kAllModes),
+    });
+}
+
+} // namespace tvxhost::mel

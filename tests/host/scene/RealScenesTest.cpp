@@ -1,0 +1,126 @@
+// Scenes that real Maya wrote: read to their end, counted as an independent scanner counts them, and saved
+// without loss. They are not part of this repository: TVX_SCENES_DIR names a folder of scenes beside a table
+// contents.tsv (columns: file, statements, commands, node types, …).
+#include "scene/reader.h"
+#include "scene/writer.h"
+
+#include "engine/scene.h"
+
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <fstream>
+#include <map>
+#include <sstream>
+#include <string>
+#include <vector>
+
+namespace {
+
+using namespace tvxhost;
+using Counts = std::map<std::string, std::size_t>;
+
+struct SceneRow
+{
+    std::string file;
+    std::size_t statements = 0;
+    Counts commands;
+    Counts nodes;
+};
+
+/// "camera:4 mesh:1"
+Counts parseCounts(const std::string& text)
+{
+    Counts counts;
+    std::istringstream words(text);
+    for (std::string word; words >> word;) {
+        const std::size_t colon = word.rfind(':');
+        counts[word.substr(0, colon)] = std::stoul(word.substr(colon + 1));
+    }
+    return counts;
+}
+
+std::vector<SceneRow> readTable(const std::string& folder)
+{
+    std::vector<SceneRow> rows;
+    std::ifstream table(folder + "/contents.tsv");
+    std::string line;
+    std::getline(table, line);
+    while (std::getline(table, line)) {
+        std::istringstream fields(line);
+        SceneRow row;
+        std::string statements, commands, nodes;
+        std::getline(fields, row.file, '\t');
+        std::getline(fields, statements, '\t');
+        std::getline(fields, commands, '\t');
+        std::getline(fields, nodes, '\t');
+        row.statements = std::stoul(statements);
+        row.commands = parseCounts(commands);
+        row.nodes = parseCounts(nodes);
+        rows.push_back(std::move(row));
+    }
+    return rows;
+}
+
+std::string differences(const Counts& actual, const Counts& expected)
+{
+    std::string text;
+    Counts all = actual;
+    all.insert(expected.begin(), expected.end());
+    for (const auto& entry : all) {
+        const std::string& name = entry.first;
+        const auto count = [&](const Counts& counts) {
+            const auto found = counts.find(name);
+            return found == counts.end() ? std::size_t{0} : found->second;
+        };
+        if (count(actual) != count(expected))
+            text += " " + name + ":" + std::to_string(count(actual)) + "/" + std::to_string(count(expected));
+    }
+    return text;
+}
+
+class RealScenes : public testing::Test
+{
+protected:
+    void SetUp() override
+    {
+        const char* folder = std::getenv("TVX_SCENES_DIR");
+        if (!folder || !*folder)
+            GTEST_SKIP() << "TVX_SCENES_DIR is not set";
+        m_folder = folder;
+        m_rows = readTable(m_folder);
+        ASSERT_FALSE(m_rows.empty()) << "no contents.tsv in " << m_folder;
+    }
+
+    std::string m_folder;
+    std::vector<SceneRow> m_rows;
+};
+
+TEST_F(RealScenes, agreeWithTheTableInStatementsCommandsAndNodesByType)
+{
+    for (const SceneRow& row : m_rows) {
+        engine::Scene scene;
+        const scene::ReadResult result = scene::openScene(scene, m_folder + "/" + row.file);
+        EXPECT_TRUE(result.outcome) << row.file << ": " << result.outcome.text;
+        EXPECT_EQ(result.summary.statements, row.statements) << row.file;
+        EXPECT_EQ(differences(result.summary.commands, row.commands), "") << row.file;
+        EXPECT_EQ(differences(result.summary.nodes, row.nodes), "") << row.file;
+        EXPECT_EQ(result.summary.errors, 0u) << row.file;
+    }
+}
+
+TEST_F(RealScenes, areTheSameTextWhenSavedReadAndSavedAgain)
+{
+    scene::WriteOptions options;
+    options.clock = [] { return std::time_t{1500000000}; };
+    for (const SceneRow& row : m_rows) {
+        engine::Scene scene;
+        ASSERT_TRUE(scene::openScene(scene, m_folder + "/" + row.file).outcome) << row.file;
+        const std::string first = scene::sceneText(scene, "saved.ma", options);
+        ASSERT_TRUE(scene::openSceneText(scene, first, "saved.ma").outcome) << row.file;
+        const std::string second = scene::sceneText(scene, "saved.ma", options);
+        EXPECT_TRUE(first == second) << row.file;
+    }
+}
+
+} // namespace
