@@ -48,13 +48,16 @@ std::size_t PackedElements::make(int index, bool& fresh)
 
 std::uint8_t* PackedElements::makeBytes(int index, bool& fresh)
 {
-    return m_bytes.data() + make(index, fresh) * m_stride;
+    // The room may move while the element is made.
+    const std::size_t place = make(index, fresh);
+    return m_bytes.data() + place * m_stride;
 }
 
 Ref<Data>* PackedElements::makeData(int index)
 {
     bool fresh = false;
-    return m_data.data() + make(index, fresh);
+    const std::size_t place = make(index, fresh);
+    return m_data.data() + place;
 }
 
 bool PackedElements::remove(int index)
