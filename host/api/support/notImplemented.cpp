@@ -7,8 +7,7 @@ namespace tvxhost::api {
 
 MStatus notImplemented(const char* function)
 {
-    engine::Scene::current().scriptEditor().notImplemented(std::string(function) +
-                                                           " is not implemented by this host");
+    engine::Scene::current().scriptEditor().notImplemented(function);
     return failure(StatusText::notImplemented);
 }
 
