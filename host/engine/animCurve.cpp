@@ -1,6 +1,8 @@
 // Animation curves: see animCurve.h.
 #include "animCurve.h"
 
+#include "cell.h"
+#include "dirtySpread.h"
 #include "scene.h"
 #include "values.h"
 
@@ -136,13 +138,43 @@ private:
 
 } // namespace
 
-double valueOfCurve(Node& curve)
+namespace {
+
+/// A curve over time that stands at the scene's time, since nothing feeds its input.
+bool followsTheScene(Node& curve)
 {
     const Plug input(curve, *curve.findAttribute("input"));
-    const bool isTimed = input.attribute()->unit == UnitKind::time;
-    if (isTimed && !isFedAnywhere(input))
+    return input.attribute()->unit == UnitKind::time && !isFedAnywhere(input);
+}
+
+bool hasCurves(Scene& scene, const NodeType& base)
+{
+    const std::vector<NodeType*> types = scene.types().all();
+    return std::any_of(types.begin(), types.end(),
+                       [&](const NodeType* type) { return type->liveNodes > 0 && type->isA(base); });
+}
+
+} // namespace
+
+double valueOfCurve(Node& curve)
+{
+    if (followsTheScene(curve))
         return Curve(curve).valueAt(curve.scene().time());
+    const Plug input(curve, *curve.findAttribute("input"));
     return Curve(curve).valueAt(readNumber(input).value.asReal());
+}
+
+void outdateTimedCurves(Scene& scene)
+{
+    const NodeType& base = *scene.types().find("animCurve");
+    if (!hasCurves(scene, base))
+        return;
+    DirtySpread spread;
+    for (Node* node : scene.nodes())
+        if (node->type().isA(base) && followsTheScene(*node))
+            if (Cell* output = node->cells().find(*node->findAttribute("output")))
+                spread.outdated(*output);
+    spread.run();
 }
 
 } // namespace tvxhost::engine

@@ -11,4 +11,7 @@ namespace tvxhost::engine {
 /// flat at extremes for all but spline. Outside the keys the first or last value holds. 0 without keys.
 double valueOfCurve(Node& curve);
 
+/// The time has changed: curves that stand at it without a connection are out of date.
+void outdateTimedCurves(Scene& scene);
+
 } // namespace tvxhost::engine

@@ -1,6 +1,7 @@
 // Scene: the life of a session: nodes made, named, deleted; namespaces; selection; time.
 #include "scene.h"
 
+#include "animCurve.h"
 #include "cell.h"
 #include "defaultNodes.h"
 #include "glob.h"
@@ -370,6 +371,7 @@ void Scene::setSelection(SelectionList selection)
 void Scene::setTime(double seconds)
 {
     m_time = seconds;
+    outdateTimedCurves(*this);
     Expected<Node*> clock = findNode(":time1");
     if (!clock)
         return;
