@@ -5,8 +5,8 @@
 #include "progress.h"
 
 #include "api/support/faults.h"
+#include "engine/atomicFile.h"
 #include "mel/checker.h"
-#include "scene/atomicFile.h"
 #include "scene/sceneText.h"
 #include "viewport/png.h"
 #include "viewport/viewport.h"
@@ -172,7 +172,7 @@ void Program::renderPicture()
         return;
     const auto bytes = viewport::encodePng(picture.value);
     if (check(bytes.outcome, "cannot draw the viewport: "))
-        check(scene::writeFileAtomically(m_options.picture, bytes.value));
+        check(engine::writeFileAtomically(m_options.picture, bytes.value));
 }
 
 void Program::saveScene()
