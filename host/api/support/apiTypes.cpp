@@ -358,6 +358,8 @@ bool hasFn(const NodeType& nodeType, MFn::Type type)
 {
     if (type == MFn::kBase || type == MFn::kNamedObject || type == MFn::kDependencyNode)
         return true;
+    if (type == MFn::kInvalid)
+        return false;
     for (const NodeType* t = &nodeType; t; t = t->parent)
         if (ownType(*t) == type)
             return true;
