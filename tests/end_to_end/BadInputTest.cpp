@@ -108,7 +108,7 @@ TEST_F(BadInput, APluginThatIsNotThereIsNamed)
 
 TEST_F(BadInput, ALibraryWithoutEntryPointsIsNamed)
 {
-    EXPECT_THAT(onlyError({"--plugin", TVX_LIBRARY_WITHOUT_ENTRY_POINTS}), HasSubstr("initializePlugin"));
+    EXPECT_THAT(onlyError({"--plugin", TVX_CORE_LIBRARY}), HasSubstr("initializePlugin"));
 }
 
 TEST_F(BadInput, ABrokenPreferencesFileIsToldAndSetAside)
