@@ -5,14 +5,17 @@
 
 #include "engine/nodeType.h"
 
+#include <algorithm>
+
 namespace tvxhost::api {
 
 namespace {
 
 std::vector<const BuiltInAttributes*>& allBuiltIn()
 {
-    static std::vector<const BuiltInAttributes*> all;
-    return all;
+    // Never destroyed: libraries that end later take themselves off the list.
+    static auto* const all = new std::vector<const BuiltInAttributes*>;
+    return *all;
 }
 
 } // namespace
@@ -21,6 +24,12 @@ BuiltInAttributes::BuiltInAttributes(const char* nodeType, std::vector<Member> m
     : m_nodeType(nodeType), m_members(std::move(members))
 {
     allBuiltIn().push_back(this);
+}
+
+BuiltInAttributes::~BuiltInAttributes()
+{
+    auto& all = allBuiltIn();
+    all.erase(std::find(all.begin(), all.end(), this));
 }
 
 void BuiltInAttributes::bindAll(const engine::TypeTable& types)

@@ -25,6 +25,8 @@ public:
     };
 
     BuiltInAttributes(const char* nodeType, std::vector<Member> members);
+    /// A library that came with a plug-in may go with it.
+    ~BuiltInAttributes();
     BuiltInAttributes(const BuiltInAttributes&) = delete;
     BuiltInAttributes& operator=(const BuiltInAttributes&) = delete;
 
