@@ -2,6 +2,7 @@
 #include "interpreter.h"
 
 #include "evaluator.h"
+#include "stackRoom.h"
 
 #include <fstream>
 #include <sstream>
@@ -40,10 +41,8 @@ Interpreter::Interpreter(CommandTable& commands, engine::ScriptEditor& editor, S
 
 Interpreter::Depth::Depth(Interpreter& interpreter, const Place& place) : m_interpreter(interpreter)
 {
-    if (interpreter.m_depth >= kDepthLimit) {
-        throw ScriptError("Too many nested calls (" + std::to_string(kDepthLimit) +
-                              "); is a procedure calling itself without end?",
-                          place);
+    if (interpreter.m_depth >= kDepthLimit || !stackHasRoom()) {
+        throw ScriptError("Too many nested calls; is a procedure calling itself without end?", place);
     }
     ++interpreter.m_depth;
 }

@@ -45,7 +45,7 @@ struct Callable
 class Interpreter
 {
 public:
-    /// Nested procedure calls, evals and sourced files that are allowed.
+    /// Nested calls, evals and sourced files that are allowed; fewer where the stack is small.
     static constexpr int kDepthLimit = 500;
 
     /// All three outlive the interpreter; `session` may be null when no command needs it.

@@ -154,23 +154,26 @@ bool StatementReader::next()
     } catch (const GrammarError& error) {
         throw state.errorAt(state.start, error);
     } catch (const tao::pegtl::parse_error& error) {
-        // Only a comment without end stops the light path.
+        // Only a comment without end stops the light path, and leaves nothing behind it to go on with.
         const std::size_t from = std::max(state.start, state.end);
-        throw state.errorAt(from, {error.positions().front().byte, "Unterminated comment."});
+        const SyntaxError shown =
+            state.errorAt(from, {error.positions().front().byte, "Unterminated comment."});
+        state.end = state.text.size();
+        throw shown;
     }
 }
 
 void StatementReader::skipBroken()
 {
     State& state = *m_state;
-    std::size_t at = state.start;
-    while (at < state.text.size()) {
+    std::size_t at = std::max(state.start, state.end);
+    bool isBehind = false;
+    while (at < state.text.size() && !isBehind) {
         const std::size_t lineEnd = std::min(state.text.find_first_of("\r\n", at), state.text.size());
-        const std::size_t last = state.text.find_last_not_of(" \t", lineEnd == 0 ? 0 : lineEnd - 1);
+        const std::string_view line = state.text.substr(at, lineEnd - at);
+        const std::size_t last = line.find_last_not_of(" \t");
+        isBehind = last != std::string_view::npos && line[last] == ';';
         at = lineEnd + 1;
-        if (last != std::string_view::npos && last >= state.start && state.text[last] == ';') {
-            break;
-        }
     }
     state.end = std::min(at, state.text.size());
 }

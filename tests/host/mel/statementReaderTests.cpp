@@ -130,6 +130,8 @@ TEST(StatementReader, NamesTheLineOfAnOpenComment)
         EXPECT_EQ(error.reason(), "Unterminated comment.");
         EXPECT_EQ(error.place().line, 5);
     }
+    reader.skipBroken();
+    EXPECT_FALSE(reader.next());
 }
 
 TEST(StatementReader, ReadsAHugeStatementWithoutATree)
