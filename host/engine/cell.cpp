@@ -12,13 +12,6 @@ namespace tvxhost::engine {
 
 namespace {
 
-auto lowerBoundOf(const std::vector<std::unique_ptr<Cell>>& elements, int logicalIndex)
-{
-    return std::lower_bound(
-        elements.begin(), elements.end(), logicalIndex,
-        [](const std::unique_ptr<Cell>& cell, int index) { return cell->index() < index; });
-}
-
 /// Bytes from the start of a number group to one of its numbers.
 std::size_t offsetInGroup(const Attribute& child)
 {
@@ -90,20 +83,38 @@ Cell& Cell::makeChild(Attribute& child)
     return *place;
 }
 
+/// Where an element is, or where it would go.
+std::size_t Cell::placeOf(int logicalIndex) const
+{
+    // Appending is the common case.
+    if (m_indices.empty() || m_indices.back() < logicalIndex)
+        return m_indices.size();
+    return static_cast<std::size_t>(std::lower_bound(m_indices.begin(), m_indices.end(), logicalIndex) -
+                                    m_indices.begin());
+}
+
 Cell* Cell::findElement(int logicalIndex) const
 {
-    const auto place = lowerBoundOf(m_below, logicalIndex);
-    return place != m_below.end() && (*place)->m_index == logicalIndex ? place->get() : nullptr;
+    const std::size_t place = placeOf(logicalIndex);
+    return place < m_indices.size() && m_indices[place] == logicalIndex ? m_below[place].get() : nullptr;
 }
 
 Cell& Cell::makeElement(int logicalIndex)
 {
-    const auto place = lowerBoundOf(m_below, logicalIndex);
-    if (place != m_below.end() && (*place)->m_index == logicalIndex)
-        return **place;
+    const std::size_t place = placeOf(logicalIndex);
+    const bool hasPlace = place < m_indices.size() && m_indices[place] == logicalIndex;
+    if (hasPlace && m_below[place])
+        return *m_below[place];
     auto element = std::make_unique<Cell>(m_store, this, m_attribute, logicalIndex);
     adoptValue(logicalIndex, *element);
-    return **m_below.insert(place, std::move(element));
+    if (hasPlace) {
+        m_below[place] = std::move(element);
+        --m_goneElements;
+        return *m_below[place];
+    }
+    const auto offset = static_cast<std::ptrdiff_t>(place);
+    m_indices.insert(m_indices.begin() + offset, logicalIndex);
+    return **m_below.insert(m_below.begin() + offset, std::move(element));
 }
 
 void Cell::adoptValue(int logicalIndex, Cell& element) const
@@ -120,11 +131,30 @@ void Cell::adoptValue(int logicalIndex, Cell& element) const
 
 void Cell::removeElement(int logicalIndex)
 {
-    const auto place = lowerBoundOf(m_below, logicalIndex);
-    if (place != m_below.end() && (*place)->m_index == logicalIndex)
-        m_below.erase(place);
+    if (findElement(logicalIndex)) {
+        m_below[placeOf(logicalIndex)].reset();
+        ++m_goneElements;
+        compactElements();
+    }
     if (m_packed)
         m_packed->remove(logicalIndex);
+}
+
+void Cell::compactElements()
+{
+    // Taking each out at once would move all that follow, again and again.
+    if (m_goneElements * 2 <= m_below.size())
+        return;
+    std::size_t kept = 0;
+    for (std::size_t i = 0; i < m_below.size(); ++i) {
+        if (!m_below[i])
+            continue;
+        m_indices[kept] = m_indices[i];
+        m_below[kept++] = std::move(m_below[i]);
+    }
+    m_indices.resize(kept);
+    m_below.resize(kept);
+    m_goneElements = 0;
 }
 
 bool Cell::canPack() const

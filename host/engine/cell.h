@@ -63,7 +63,8 @@ public:
     bool isArray() const { return m_attribute.isArray() && m_index == Plug::kNoIndex; }
     Plug plug() const;
 
-    // Cells below. Children of a compound may be null; elements are in ascending order and never null.
+    // Cells below: the children of a compound, or the elements of an array in ascending order. Any may be
+    // null.
     const std::vector<std::unique_ptr<Cell>>& below() const { return m_below; }
     Cell* findChild(const Attribute& child) const;
     Cell& makeChild(Attribute& child);
@@ -105,6 +106,8 @@ public:
 
 private:
     bool canPack() const;
+    std::size_t placeOf(int logicalIndex) const;
+    void compactElements();
     void adoptValue(int logicalIndex, Cell& element) const;
     Links& makeLinks();
     void countLinked(bool more);
@@ -120,6 +123,8 @@ private:
     std::uint8_t* m_bytes = nullptr;
     Ref<Data> m_data;
     std::vector<std::unique_ptr<Cell>> m_below;
+    std::vector<int> m_indices; ///< of the elements in m_below, also of those that have gone
+    std::size_t m_goneElements = 0;
     std::unique_ptr<PackedElements> m_packed;
     std::unique_ptr<Links> m_links;
     std::size_t m_linkedCells = 0;

@@ -194,7 +194,8 @@ void DirtySpread::outdateBelow(Cell& cell, const std::vector<Attribute*>& way, s
             return;
         }
         for (const std::unique_ptr<Cell>& element : cell.below())
-            outdateBelow(*element, way, level, cause);
+            if (element)
+                outdateBelow(*element, way, level, cause);
         return;
     }
     if (isLast) {

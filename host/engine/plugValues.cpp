@@ -371,7 +371,8 @@ std::vector<int> existingElements(const Plug& arrayPlug)
         return {};
     std::vector<int> indices;
     for (const std::unique_ptr<Cell>& element : cell->below())
-        indices.push_back(element->index());
+        if (element)
+            indices.push_back(element->index());
     if (!cell->packed())
         return indices;
     std::vector<int> all;
@@ -402,9 +403,10 @@ Outcome removeElement(const Plug& arrayPlug, int logicalIndex)
             for (const Plug& destination : destinationsOf(plug))
                 node.scene().breakConnection(plug, destination);
         }
+    // Told from the element: what else is in the array has not changed.
+    noteEdit(element);
+    spreadDirty(element);
     array->removeElement(logicalIndex);
-    ++node.cells().edits;
-    spreadDirty(arrayPlug);
     node.scene().isModified = true;
     return {};
 }

@@ -57,6 +57,8 @@ Scene::Scene(bool batch)
 
 Scene::~Scene()
 {
+    // Those who listened may be gone before the scene is.
+    onDeleted.clear();
     emptyScene();
     retireNode(*m_world);
     if (g_current == this)
