@@ -43,8 +43,9 @@ TEST(PluginBinary, ExportsTheEntryPointsAndNothingElse)
                 ElementsAre("MApiVersion", "_Z16initializePlugin7MObject", "_Z18uninitializePlugin7MObject"));
 }
 
-TEST(PluginBinary, NeedsMayasLibrariesAndItsOwn)
+TEST(PluginBinary, NeedsMayasLibrariesAndItsOwnAndNothingOfTheHost)
 {
+    EXPECT_EQ(lastWords("readelf -d " TVX_PLUGIN_FILE, "(NEEDED)").count("[libTvxHostEngine.so]"), 0u);
     EXPECT_THAT(lastWords("readelf -d " TVX_PLUGIN_FILE, "(NEEDED)"),
                 IsSupersetOf({"[libFoundation.so]", "[libOpenMaya.so]", "[libOpenMayaUI.so]",
                               "[libOpenMayaFX.so]", "[libOpenMayaAnim.so]", "[libtvxCore.so.2]"}));

@@ -3,6 +3,7 @@
 
 #include "api/support/faults.h"
 
+#include <filesystem>
 #include <fstream>
 
 namespace tarvox::crowd::test {
@@ -18,8 +19,9 @@ constexpr char kLogName[] = "Crowd Render: ";
 
 } // namespace
 
-PluginSession::PluginSession() : loader(scene)
+PluginSession::PluginSession() : loader(scene), m_library(m_folder.path("tvxCrowdRender.so"))
 {
+    std::filesystem::copy_file(TVX_PLUGIN_FILE, m_library);
     Scene::makeCurrent(&scene);
     PluginLoader::makeCurrent(&loader);
 }
@@ -34,12 +36,12 @@ PluginSession::~PluginSession()
 
 bool PluginSession::load()
 {
-    return load(TVX_PLUGIN_FILE);
+    return load(m_library);
 }
 
-bool PluginSession::load(const std::string& library)
+bool PluginSession::load(const std::string& file)
 {
-    return static_cast<bool>(loader.load(library).outcome);
+    return static_cast<bool>(loader.load(file).outcome);
 }
 
 bool PluginSession::unload()

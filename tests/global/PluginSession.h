@@ -1,6 +1,7 @@
 // A session of the host with the plug-in in it, for one test.
 #pragma once
 
+#include "TestFolder.h"
 #include "api/plugins/pluginLoader.h"
 #include "engine/scene.h"
 
@@ -12,7 +13,8 @@ namespace tarvox::crowd::test {
 using Lines = std::vector<std::string>;
 
 /// The current session while it lives; nothing is loaded at first. The script editor, its messages and the
-/// preferences are the session's own.
+/// preferences are the session's own, and so is the library: a copy of the plug-in, because the host keeps a
+/// library whose loading failed, with all its statics.
 class PluginSession
 {
 public:
@@ -23,15 +25,22 @@ public:
 
     /// Loads or unloads the plug-in, or the library given. False when the host says that it failed.
     bool load();
-    bool load(const std::string& library);
+    bool load(const std::string& file);
     bool unload();
 
     /// The plug-in's lines in the script editor since the last call, without "[TarvoxCrowd::" and the name of
     /// the log: "INFO]\tAt line …".
     Lines takeReports();
 
+    /// The plug-in's library.
+    const std::string& library() const { return m_library; }
+
     tvxhost::engine::Scene scene;
     tvxhost::api::PluginLoader loader;
+
+private:
+    TestFolder m_folder;
+    std::string m_library;
 };
 
 /// The report that a statement of the sources makes, as takeReports() gives it.

@@ -140,7 +140,7 @@ TEST_F(Plugin, LoadedAgainWithinTheLifeOfItsLibraryGoesOnWithTheSameLogger)
     const test::TestFolder folder;
     session.scene.optionVars().set("tvxPrefLogToFile", 1);
     session.scene.optionVars().set("tvxPrefLogDirectory", folder.path());
-    void* library = dlopen(TVX_PLUGIN_FILE, RTLD_NOW | RTLD_LOCAL);
+    void* library = dlopen(session.library().c_str(), RTLD_NOW | RTLD_LOCAL);
     ASSERT_NE(library, nullptr) << dlerror();
     ASSERT_TRUE(session.load());
     const std::string firstLoad = folder.read("tvxCrowd.log");
@@ -161,7 +161,7 @@ TEST_F(Plugin, LeavesTheProcessAfterAThousandLoads)
         ASSERT_TRUE(session.unload()) << round;
         ASSERT_EQ(session.takeReports().size(), 1u) << round;
     }
-    EXPECT_EQ(dlopen(TVX_PLUGIN_FILE, RTLD_NOW | RTLD_NOLOAD), nullptr);
+    EXPECT_EQ(dlopen(session.library().c_str(), RTLD_NOW | RTLD_NOLOAD), nullptr);
 }
 
 TEST_F(Plugin, SaysNothingBelowInfoButRegistersAllTheSame)

@@ -209,8 +209,8 @@ struct Step
 
 std::vector<Step> steps()
 {
-    constexpr char kColor[] = "MFnNumericAttribute::createColor";
-    constexpr char kNumber[] = "MFnNumericAttribute::create";
+    const char* const kColor = "MFnNumericAttribute::createColor";
+    const char* const kNumber = "MFnNumericAttribute::create";
     std::vector<Step> all = {{kColor, "\"output\"", "Color attribute create error"},
                              {kNumber, "\"selector\"", "Numeric attribute create error"},
                              {kNumber, "\"startOffset\"", "Numeric attribute create error"},
