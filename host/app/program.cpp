@@ -20,6 +20,12 @@ namespace {
 
 using engine::Outcome;
 
+/// A report on lines of its own.
+std::string asLines(const std::string& text)
+{
+    return text.empty() || text.back() == '\n' ? text : text + "\n";
+}
+
 class Program
 {
 public:
@@ -149,8 +155,8 @@ void Program::report()
 {
     if (m_options.summary) {
         const scene::SceneSummary& summary = m_session.commands().lastSummary;
-        print(*m_options.summary == ReportFormat::json ? scene::toJson(summary) + "\n"
-                                                       : scene::toText(summary));
+        print(asLines(*m_options.summary == ReportFormat::json ? scene::toJson(summary)
+                                                               : scene::toText(summary)));
     }
     if (m_options.listNodes)
         printLines(listNodes(m_session.scene()));
@@ -208,8 +214,8 @@ int checkScript(const Options& options, const Streams& streams)
         return 1;
     }
     const mel::CheckReport report = mel::checkScript(text.value, options.check);
-    streams.out << (options.checkFormat == ReportFormat::json ? mel::toJson(report) + "\n"
-                                                              : mel::toText(report));
+    streams.out << asLines(options.checkFormat == ReportFormat::json ? mel::toJson(report)
+                                                                     : mel::toText(report));
     return report.ok() ? 0 : 1;
 }
 

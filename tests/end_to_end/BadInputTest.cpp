@@ -140,7 +140,7 @@ TEST_F(BadInput, APictureThatCannotBeWrittenIsNamed)
 {
     const std::string target = path("no/such.png");
     EXPECT_EQ(onlyError({"--render", target, "--size", "8x8"}),
-              "Error: Cannot write file \"" + target + "\": No such file or directory");
+              "Error: cannot write '" + target + "': No such file or directory");
 }
 
 TEST_F(BadInput, ASceneThatAScriptLeftHalfChangedIsNotSaved)

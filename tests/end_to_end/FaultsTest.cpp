@@ -8,14 +8,12 @@ namespace {
 
 using namespace tvxhost::test;
 using testing::Contains;
-using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::MatchesRegex;
 
 ProgramResult loadWithFault(const std::string& fault)
 {
-    return runHost({"--fail", fault, "--plugin", pluginFile(), "-e",
-                    "print (stringArrayToString(`allNodeTypes`, \" \") + \"\\n\")"});
+    return runHost({"--fail", fault, "--plugin", pluginFile()});
 }
 
 std::string errorOf(const std::string& text)
@@ -36,6 +34,24 @@ TEST(FailingCalls, OfTheFirstRegistrationEndTheLoad)
                                      ".*kFailure.*")));
     EXPECT_EQ(errors[1], "Error: initializePlugin function failed (tvxCrowdRender)");
     EXPECT_EQ(errors.size(), 2u);
+}
+
+TEST(FailingCalls, OfARegistrationLeaveTheRowsBeforeItAndEndThere)
+{
+    const ProgramResult result =
+        runHost({"--fail", "MFnPlugin::registerNode:2", "--list-calls", "--plugin", pluginFile(), "-e",
+                 "createNode CrowdProxyVRay", "-e", "createNode CrowdSwitchShaderVRay"});
+    EXPECT_EQ(result.exitCode, 1);
+    const std::vector<std::string> errors = linesOf(result.errors);
+    ASSERT_EQ(errors.size(), 3u) << result.errors;
+    EXPECT_THAT(errors[0],
+                MatchesRegex(errorOf("initializePlugin: Problem while registering CrowdSwitchShaderVRay "
+                                     "node - \\(kFailure\\): Unexpected Internal Failure")));
+    EXPECT_EQ(errors[1], "Error: initializePlugin function failed (tvxCrowdRender)");
+    EXPECT_THAT(errors[2], HasSubstr("CrowdSwitchShaderVRay"));
+    EXPECT_THAT(linesOf(result.output), Contains("crowdProxyVRayShape"));
+    EXPECT_EQ(linesWith(result.output, "MFnPlugin::registerNode").size(), 2u);
+    EXPECT_EQ(linesWith(result.output, "MFnPlugin::registerUI").size(), 0u);
 }
 
 TEST(FailingCalls, OfTheUserInterfaceEndTheLoad)

@@ -36,8 +36,8 @@ TEST(UserInterface, IsAMenuWithAnItemPerNodeType)
 TEST(UserInterface, ItemsCreateTheirNodes)
 {
     EXPECT_EQ(answerTo({"--interactive", "--plugin", pluginFile(), "-e",
-                        "eval(`menuItem -q -command tvxCreateCrowdProxyVRay`); " +
-                            shown("size(`ls -type CrowdProxyVRay`)")}),
+                        "eval(`menuItem -q -command tvxCreateCrowdProxyVRay`)", "-e",
+                        shown("size(`ls -type CrowdProxyVRay`)")}),
               "1");
 }
 
@@ -65,7 +65,7 @@ TEST(UserInterface, MissingProceduresAreAnErrorAndTheLoadSucceeds)
         runHost({"--plugin", pluginFile(), "-e", shown("`pluginInfo -q -loaded tvxCrowdRender`")},
                 {{"MAYA_SCRIPT_PATH", "/nonexistent"}});
     EXPECT_EQ(result.exitCode, 1);
-    EXPECT_EQ(result.errors, "Error: Cannot find procedure \"tvxCrowdRenderBatchMode\".\n");
+    EXPECT_EQ(result.errors, "Error: line 1: Cannot find procedure \"tvxCrowdRenderBatchMode\".\n");
     EXPECT_EQ(linesOf(result.output).back(), "1");
 }
 

@@ -117,9 +117,10 @@ TEST_F(LoadTest, AThousandTimesInOneProcessEndsCleanly)
 {
     prefer(" -iv \"tvxPrefLogToSE\" 0\n -iv \"tvxPrefLogToFile\" 0\n");
     const std::string name = "\"" + pluginFile().string() + "\"";
-    const ProgramResult result = run({"-e", "int $i; for ($i = 0; $i < 1000; $i++) { loadPlugin " + name +
-                                                "; unloadPlugin tvxCrowdRender; }"
-                                                " print (`pluginInfo -q -loaded tvxCrowdRender` + \"\\n\")"});
+    const ProgramResult result = run(
+        {"-e",
+         "int $i; for ($i = 0; $i < 1000; $i++) { loadPlugin " + name + "; unloadPlugin tvxCrowdRender; }",
+         "-e", "print (`pluginInfo -q -loaded tvxCrowdRender` + \"\\n\")"});
     EXPECT_EQ(result.exitCode, 0) << result.errors;
     EXPECT_EQ(result.errors, "");
     EXPECT_EQ(linesOf(result.output).back(), "0");
