@@ -34,7 +34,8 @@ TEST_F(MNamespaceTest, IsMadeInTheCurrentOneOrInAnother)
     EXPECT_FALSE(MNamespace::namespaceExists(":props"));
     EXPECT_EQ(texts(MNamespace::getNamespaces()), (Texts{"shot:crowd", "shot:props"}));
     EXPECT_EQ(texts(MNamespace::getNamespaces(MString(":"))), (Texts{"shot"}));
-    EXPECT_EQ(texts(MNamespace::getNamespaces(MString(":"), true)), (Texts{"shot", "shot:crowd", "shot:props"}));
+    EXPECT_EQ(texts(MNamespace::getNamespaces(MString(":"), true)),
+              (Texts{"shot", "shot:crowd", "shot:props"}));
     EXPECT_EQ(text(MNamespace::parentNamespace()), ":");
     EXPECT_EQ(MNamespace::setCurrentNamespace(":nowhere"), MS::kFailure);
 }
