@@ -17,6 +17,9 @@ namespace {
 
 Scene* g_current = nullptr;
 
+constexpr const char* kUnknownShape = "unknownDag";
+constexpr const char* kUnknownTransform = "unknownTransform";
+
 bool isLegalIn(char c)
 {
     return std::isalnum(static_cast<unsigned char>(c)) || c == '_';
@@ -130,6 +133,8 @@ Expected<Node*> Scene::createNode(NodeType& type, const std::string& name, DagNo
         return {Reason::wrongKind, "Unknown object type: " + type.name};
     if (parent && !type.isDag)
         return {Reason::wrongKind, "a node of type '" + type.name + "' has no place below another"};
+    if (parent && parent->type().name == kUnknownShape)
+        becomeTransform(*parent);
     if (parent && parent->isShape())
         return {Reason::wrongKind, "'" + parent->name() + "' is a shape and cannot have children"};
 
@@ -176,12 +181,19 @@ Expected<Node*> Scene::makeNode(NodeType& type, const std::string& name, DagNode
 Expected<Node*> Scene::createUnknown(const std::string& type, const std::string& name, DagNode* parent,
                                      bool isDag)
 {
-    // A shape is made only where a transform stands above it: anything else may have children itself.
-    const char* placeholder = !isDag || !parent ? (isDag ? "unknownTransform" : "unknown") : "unknownDag";
+    // What stands below something is taken for a shape until it turns out to have children.
+    const char* placeholder = !isDag || !parent ? (isDag ? kUnknownTransform : "unknown") : kUnknownShape;
     Expected<Node*> made = createNode(*m_types->find(placeholder), name, parent);
     if (made)
         made.value->unknownType = type;
     return made;
+}
+
+void Scene::becomeTransform(DagNode& placeholder)
+{
+    --placeholder.type().liveNodes;
+    placeholder.m_type = m_types->find(kUnknownTransform);
+    ++placeholder.type().liveNodes;
 }
 
 Outcome Scene::deleteNode(Node& node)

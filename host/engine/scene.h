@@ -197,12 +197,11 @@ public:
     std::vector<std::function<void(Node&)>> onCreated, onDeleted;
 
 private:
-    struct Creation;
-
     Expected<Node*> makeNode(NodeType& type, const std::string& name, DagNode* parent);
     DagNode& makeWorld();
     void adopt(Node& node, const std::string& name);
     void retireNode(Node& node);
+    void becomeTransform(DagNode& placeholder);
     void setName(Node& node, const std::string& name);
     bool isNameFree(const std::string& name, const Node* except, const DagNode* parent) const;
     std::string absoluteName(const std::string& name) const;

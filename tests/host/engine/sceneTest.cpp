@@ -380,6 +380,14 @@ TEST_F(SceneTest, UnknownTypesGetAPlaceholder)
     EXPECT_EQ(shape.unknownType, "vendorShape");
 }
 
+TEST_F(SceneTest, APlaceholderThatGetsChildrenIsATransform)
+{
+    Node& inner = *scene.createUnknown("vendorGroup", "g", &makeTransform("p"), true).value;
+    make("transform", "child", inner.asDag());
+    EXPECT_EQ(inner.type().name, "unknownTransform");
+    EXPECT_EQ(DagPath::firstTo(*scene.findNode("child").value->asDag()).fullName(), "|p|g|child");
+}
+
 TEST_F(SceneTest, NodesOfATypeThatGoesKeepTheirValuesAsUnknownNodes)
 {
     NodeType& type = *scene.types().add("ours", 0x1234, *scene.types().find("THdependNode")).value;
