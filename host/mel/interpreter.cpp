@@ -4,6 +4,7 @@
 #include "evaluator.h"
 #include "stackRoom.h"
 
+#include <algorithm>
 #include <fstream>
 #include <sstream>
 
@@ -180,6 +181,17 @@ std::shared_ptr<const ProcedureEntry> Interpreter::procedureFromPath(const std::
     }
     sourceFile(*file);
     return definedProcedure(name);
+}
+
+std::vector<std::string> Interpreter::globalProcedures() const
+{
+    std::vector<std::string> names;
+    names.reserve(m_procedures.size());
+    for (const auto& entry : m_procedures) {
+        names.push_back(entry.first);
+    }
+    std::sort(names.begin(), names.end());
+    return names;
 }
 
 void Interpreter::define(std::shared_ptr<const ProcedureEntry> entry)

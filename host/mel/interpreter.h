@@ -86,6 +86,8 @@ public:
     /// The global procedure that NAME.mel along the script path defines; the file is sourced. Null when there
     /// is no such file, or it does not define the procedure.
     std::shared_ptr<const ProcedureEntry> procedureFromPath(const std::string& name);
+    /// The names of all global procedures, sorted.
+    std::vector<std::string> globalProcedures() const;
     /// Makes the procedure known, globally or to its script only; replaces one of the same name.
     void define(std::shared_ptr<const ProcedureEntry> entry);
     /// The local procedures of a file, of typed text with an empty name.

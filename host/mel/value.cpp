@@ -194,22 +194,22 @@ Value Value::element(std::size_t index) const
 
 void Value::setElement(std::size_t index, const Value& value) const
 {
-    const auto set = [index](auto& elements, auto element) {
+    const auto set = [index](auto& elements, const auto& element, const auto& filler) {
         if (index >= elements.size()) {
-            elements.resize(index + 1);
+            elements.resize(index + 1, filler);
         }
-        elements[index] = std::move(element);
+        elements[index] = element;
     };
     const Value element = value.to(elementOf(type()));
     switch (type()) {
     case Type::integerArray:
-        return set(integers(), element.integer());
+        return set(integers(), element.integer(), 0);
     case Type::numberArray:
-        return set(numbers(), element.number());
+        return set(numbers(), element.number(), 0.0);
     case Type::stringArray:
-        return set(strings(), element.string());
+        return set(strings(), element.string(), std::string());
     case Type::vectorArray:
-        return set(vectors(), element.vector());
+        return set(vectors(), element.vector(), Vector(0.0));
     default:
         throw ValueError(std::string("A value of type ") + typeName(type()) + " has no elements.");
     }

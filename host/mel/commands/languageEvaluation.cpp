@@ -99,6 +99,11 @@ Value env(CommandContext& context, Arguments&)
     return names;
 }
 
+Value melInfo(CommandContext& context, Arguments&)
+{
+    return context.interpreter().globalProcedures();
+}
+
 } // namespace
 
 void addEvaluationCommands(CommandTable& table)
@@ -118,6 +123,7 @@ void addEvaluationCommands(CommandTable& table)
         function("whatIs", "Tells what a name stands for", {kString}, whatIs),
         function("help", "Describes a command", {kString}, help),
         function("env", "Lists the global variables", {}, env),
+        function("melInfo", "Lists the global procedures", {}, melInfo),
     });
 }
 

@@ -132,6 +132,69 @@ Value frewind(OpenFiles& files, Arguments& arguments)
     return {};
 }
 
+void writeBytes(std::FILE* file, const void* bytes, std::size_t size)
+{
+    std::fwrite(bytes, 1, size, file);
+}
+
+/// Binary: an int in 4 bytes, a float in 8, a vector in 24, a string with a zero byte at its end.
+Value fwrite(OpenFiles& files, Arguments& arguments)
+{
+    std::FILE* file = files.get(arguments[0]);
+    const Value& value = arguments[1];
+    switch (value.type()) {
+    case Type::integer: {
+        const int number = value.integer();
+        writeBytes(file, &number, sizeof number);
+        break;
+    }
+    case Type::number: {
+        const double number = value.number();
+        writeBytes(file, &number, sizeof number);
+        break;
+    }
+    case Type::vector: {
+        const Vector& vector = value.vector();
+        writeBytes(file, vector.getValue(), 3 * sizeof(double));
+        break;
+    }
+    default: {
+        const std::string text = value.to(Type::string).string();
+        writeBytes(file, text.c_str(), text.size() + 1);
+    }
+    }
+    return {};
+}
+
+std::string readText(std::FILE* file)
+{
+    std::string text;
+    for (int c = std::fgetc(file); c != EOF && c != 0; c = std::fgetc(file)) {
+        text += static_cast<char>(c);
+    }
+    return text;
+}
+
+/// What `fwrite` wrote, as the type of the second argument; the neutral value past the end.
+Value fread(OpenFiles& files, Arguments& arguments)
+{
+    std::FILE* file = files.get(arguments[0]);
+    const Type type = arguments[1].type();
+    int integer = 0;
+    double numbers[3] = {};
+    switch (type) {
+    case Type::integer:
+        return std::fread(&integer, sizeof integer, 1, file) == 1 ? integer : 0;
+    case Type::number:
+        return std::fread(numbers, sizeof(double), 1, file) == 1 ? numbers[0] : 0.0;
+    case Type::vector:
+        return std::fread(numbers, sizeof numbers, 1, file) == 1 ? Vector(numbers[0], numbers[1], numbers[2])
+                                                                 : Vector(0.0);
+    default:
+        return readText(file);
+    }
+}
+
 bool isAllowed(const std::string& path, int mode)
 {
     return ::access(path.c_str(), mode) == 0;
@@ -314,6 +377,9 @@ void addHandleCommands(CommandTable& table)
         function("fprint", "Writes a value's text to a file", {kInt, kAny}, onFiles(fprint)),
         function("fgetline", "The next line of a file with its end", {kInt}, onFiles(fgetline)),
         function("fgetword", "The next word of a file", {kInt, optional(kString)}, onFiles(fgetword)),
+        function("fwrite", "Writes a value to a file as bytes", {kInt, kAny}, onFiles(fwrite)),
+        function("fread", "Reads a value of the second argument's type from a file", {kInt, kAny},
+                 onFiles(fread)),
         function("feof", "Whether a file is read to its end", {kInt}, onFiles(feof)),
         function("fflush", "Writes out what is held back of a file", {kInt}, onFiles(fflush)),
         function("frewind", "Goes back to the start of a file", {kInt}, onFiles(frewind)),

@@ -77,7 +77,7 @@ INSTANTIATE_TEST_SUITE_P(Mel, Script, testing::ValuesIn(scriptNames()),
 
 TEST(Scripts, AreAllThere)
 {
-    EXPECT_GE(scriptNames().size(), 200u);
+    EXPECT_GE(scriptNames().size(), 300u);
 }
 
 } // namespace
