@@ -135,13 +135,17 @@ MObject queueNewNode(Modifier& modifier, engine::NodeType& type, engine::DagNode
         *made = engine::Ref<engine::Node>(created.value);
         return toStatus(created.outcome);
     };
-    // The caller is owed a node now, so it is there before doIt is.
+    // The caller is owed a node now, so it is there before doIt is, and goes when doIt never comes.
     const MStatus status = create();
     give(returnStatus, status);
     if (!status)
         return MObject();
-    modifier.queue.push_back({[=] { return (*made)->isAlive() ? MStatus() : create(); },
-                              [=] { return toStatus(engine::Scene::current().deleteNode(**made)); }});
+    const auto remove = [made] { return toStatus(engine::Scene::current().deleteNode(**made)); };
+    modifier.queue.push_back({[made, create] { return (*made)->isAlive() ? MStatus() : create(); }, remove,
+                              [made, remove] {
+                                  if ((*made)->isAlive())
+                                      remove();
+                              }});
     return tvxAccess::handle(made->get());
 }
 

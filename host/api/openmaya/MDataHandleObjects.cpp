@@ -106,6 +106,14 @@ bool copyValue(const MDataHandle& source, MDataHandle& target)
     return true;
 }
 
+MStatus takeObject(MDataHandle& handle, const MObject& object)
+{
+    Data* data = dataOf(object);
+    if (!data)
+        return failure(object.isNull() ? StatusText::nullArgument : StatusText::objectIsIncompatible);
+    return setData(handle, data) ? MStatus() : failure(StatusText::objectIsIncompatible);
+}
+
 /// The number in a value of any kind, converted; 0 when it is none.
 template <class T>
 T genericNumber(const MDataHandle& handle, NumberKind kind)
@@ -204,15 +212,13 @@ MStatus MDataHandle::copy(const MDataHandle& src)
 MStatus MDataHandle::setMObject(const MObject& data)
 {
     TVX_API_CALL("MDataHandle::setMObject");
-    Data* object = dataOf(data);
-    if (!object)
-        return failure(data.isNull() ? StatusText::nullArgument : StatusText::objectIsIncompatible);
-    return setData(*this, object) ? MStatus() : failure(StatusText::objectIsIncompatible);
+    return takeObject(*this, data);
 }
 
 MStatus MDataHandle::set(const MObject& data)
 {
-    return setMObject(data);
+    TVX_API_CALL("MDataHandle::set");
+    return takeObject(*this, data);
 }
 
 #define TVX_OBJECT(plain, transformed, dataType)                                                             \

@@ -81,6 +81,15 @@ Plug plugNamed(Node& node, const std::string& name)
     return attribute ? Plug(node, *attribute) : Plug();
 }
 
+/// Empty when the plug has none.
+std::string aliasOf(const MFnDependencyNode& set, const MPlug& plug, MStatus* returnStatus)
+{
+    const Node* node = nodeOf(set);
+    if (!requireAttached(node, returnStatus) || !requirePlug(tvxAccess::plug(plug), returnStatus))
+        return {};
+    return node->aliasOf(tvxAccess::plug(plug));
+}
+
 void append(MObjectArray& array, const Attribute& attribute)
 {
     tvxAccess::elements(array).push_back(tvxAccess::handle(&attribute));
@@ -429,16 +438,15 @@ bool MFnDependencyNode::getAliasList(MStringArray& strArray, MStatus* ReturnStat
 MString MFnDependencyNode::plugsAlias(const MPlug& plug, MStatus* ReturnStatus)
 {
     TVX_API_CALL_OR("MFnDependencyNode::plugsAlias", ReturnStatus, MString());
-    const Node* node = nodeOf(*this);
-    if (!requireAttached(node, ReturnStatus) || !requirePlug(tvxAccess::plug(plug), ReturnStatus))
-        return MString();
-    return tvxAccess::string(node->aliasOf(tvxAccess::plug(plug)));
+    return tvxAccess::string(aliasOf(*this, plug, ReturnStatus));
 }
 
 bool MFnDependencyNode::getPlugsAlias(const MPlug& plug, MString& aliasName, MStatus* ReturnStatus)
 {
-    aliasName = plugsAlias(plug, ReturnStatus);
-    return !tvxAccess::text(aliasName).empty();
+    TVX_API_CALL_OR("MFnDependencyNode::getPlugsAlias", ReturnStatus, false);
+    const std::string alias = aliasOf(*this, plug, ReturnStatus);
+    aliasName = tvxAccess::string(alias);
+    return !alias.empty();
 }
 
 // State

@@ -19,6 +19,18 @@ bool lessValue(const EnumField& a, const EnumField& b)
     return a.value < b.value;
 }
 
+MStatus defaultNameOf(const MFnBase& set, MString& name)
+{
+    const Attribute* attribute = attributeOf(set);
+    if (!attribute)
+        return notAttached();
+    const auto found = attribute->fieldName(static_cast<short>(attribute->defaultNumber));
+    if (!found)
+        return failure(StatusText::itemNotFound);
+    name = tvxAccess::string(*found);
+    return MS::kSuccess;
+}
+
 } // namespace
 
 TVX_FUNCTION_SET(MFnEnumAttribute, MFn::kEnumAttribute)
@@ -128,19 +140,13 @@ MStatus MFnEnumAttribute::getDefault(short& index) const
 MStatus MFnEnumAttribute::getDefault(MString& fieldString) const
 {
     TVX_API_CALL("MFnEnumAttribute::getDefault");
-    const Attribute* attribute = attributeOf(*this);
-    if (!attribute)
-        return notAttached();
-    const auto name = attribute->fieldName(static_cast<short>(attribute->defaultNumber));
-    if (!name)
-        return failure(StatusText::itemNotFound);
-    fieldString = tvxAccess::string(*name);
-    return MS::kSuccess;
+    return defaultNameOf(*this, fieldString);
 }
 
 MString MFnEnumAttribute::defaultValue(MStatus* ReturnStatus) const
 {
+    TVX_API_CALL_OR("MFnEnumAttribute::defaultValue", ReturnStatus, MString());
     MString name;
-    give(ReturnStatus, getDefault(name));
+    give(ReturnStatus, defaultNameOf(*this, name));
     return name;
 }

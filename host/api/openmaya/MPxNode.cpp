@@ -138,22 +138,26 @@ void MPxNode::setMPSafe(bool) {}
 
 MStatus MPxNode::setExistWithoutInConnections(bool flag)
 {
+    TVX_API_CALL("MPxNode::setExistWithoutInConnections");
     return flag ? MStatus() : notImplemented("MPxNode::setExistWithoutInConnections(false)");
 }
 
 bool MPxNode::existWithoutInConnections(MStatus* ReturnStatus) const
 {
+    TVX_API_CALL_OR("MPxNode::existWithoutInConnections", ReturnStatus, false);
     giveSuccess(ReturnStatus);
     return true;
 }
 
 MStatus MPxNode::setExistWithoutOutConnections(bool flag)
 {
+    TVX_API_CALL("MPxNode::setExistWithoutOutConnections");
     return flag ? MStatus() : notImplemented("MPxNode::setExistWithoutOutConnections(false)");
 }
 
 bool MPxNode::existWithoutOutConnections(MStatus* ReturnStatus) const
 {
+    TVX_API_CALL_OR("MPxNode::existWithoutOutConnections", ReturnStatus, false);
     giveSuccess(ReturnStatus);
     return true;
 }

@@ -7,7 +7,6 @@
 
 #include <algorithm>
 #include <cstdlib>
-#include <exception>
 #include <sstream>
 
 namespace tvxhost::api {
@@ -65,7 +64,7 @@ bool call(Library::EntryPoint entryPoint, const Plugin& plugin)
 {
     try {
         return entryPoint(tvxAccess::handle(&plugin));
-    } catch (const std::exception&) {
+    } catch (...) {
         return false;
     }
 }

@@ -26,11 +26,19 @@ MStatus Modifier::doIt()
     for (; done < queue.size(); ++done) {
         const MStatus status = queue[done].perform();
         if (!status) {
-            queue.resize(done);
+            forgetRest();
             return status;
         }
     }
     return MS::kSuccess;
+}
+
+void Modifier::forgetRest()
+{
+    for (std::size_t i = done; i < queue.size(); ++i)
+        if (queue[i].discard)
+            queue[i].discard();
+    queue.resize(done);
 }
 
 MStatus Modifier::undoIt()

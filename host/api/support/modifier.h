@@ -24,7 +24,14 @@ struct Modifier
     {
         std::function<MStatus()> perform;
         std::function<MStatus()> revert;
+        /// Called when the operation is forgotten without being done; may be empty.
+        std::function<void()> discard = nullptr;
     };
+
+    Modifier() = default;
+    Modifier(const Modifier&) = default;
+    Modifier& operator=(const Modifier&) = default;
+    ~Modifier() { forgetRest(); }
 
     /// Does what is queued and not done yet. When an operation fails, those before it stay done, and it is
     /// forgotten with all that follow.
@@ -34,6 +41,9 @@ struct Modifier
 
     std::vector<Operation> queue;
     std::size_t done = 0; ///< how many of them, from the front
+
+private:
+    void forgetRest();
 };
 
 } // namespace tvxhost::api

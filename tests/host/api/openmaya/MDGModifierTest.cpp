@@ -157,6 +157,17 @@ TEST_F(Modifiers, NodesAreMadeAndUnmade)
     EXPECT_EQ(before + 1, scene.nodeCount());
 }
 
+TEST_F(Modifiers, ANodeThatIsNeverDoneGoesWithItsModifier)
+{
+    MObject made;
+    {
+        MDGModifier forgotten;
+        made = forgotten.createNode("lambert");
+        EXPECT_EQ(MFn::kLambert, made.apiType());
+    }
+    EXPECT_EQ(MFn::kInvalid, made.apiType());
+}
+
 TEST_F(Modifiers, DeletingCannotBeTakenBackAndSaysSo)
 {
     modifier.deleteNode(b);
