@@ -171,7 +171,7 @@ def look_at(eye, target):
 
 
 def add_cameras(scene):
-    eye, target = (9.5, 7.5, 15.5), (0.0, 0.6, -0.5)
+    eye, target = (11.0, 13.5, 24.0), (0.9, 0.0, -1.4)
     rotation, distance = look_at(eye, target)
     scene.camera("persp", eye, rotation, ["\tsetAttr \".fl\" 34.999999999999993;",
                                           "\tsetAttr \".coi\" %.17g;" % distance])
@@ -186,14 +186,14 @@ def audience():
     """Places of the audience, row by row: position, heading in degrees, height factor, pose."""
     dice = random.Random(20160307)
     poses = list(POSES)
-    for row in range(10):
-        radius = 4.2 + 0.85 * row
-        count = int(radius * math.radians(150) / 0.62)
+    for row in range(9):
+        radius = 4.5 + 1.1 * row
+        count = int(radius * math.radians(200) / 0.98)
         places = []
         for i in range(count):
-            angle = math.radians(-75 + 150 * (i + 0.5) / count)
-            r = radius + dice.uniform(-0.12, 0.12)
-            x, z = r * math.sin(angle), r * math.cos(angle) - 4
+            angle = math.radians(-100 + 200 * (i + 0.5) / count)
+            r = radius + dice.uniform(-0.15, 0.15)
+            x, z = r * math.sin(angle), r * math.cos(angle) - 5
             heading = math.degrees(angle) + 180 + dice.uniform(-14, 14)
             pose = poses[dice.choices(range(4), (5, 1, 3, 2))[0]]
             places.append(((round(x, 3), 0, round(z, 3)), round(heading, 2), round(dice.uniform(0.9, 1.1), 3),
@@ -229,28 +229,28 @@ def add_figures(scene):
             serial += 1
             place("figure%d" % serial, "|crowd|" + row_name, pose, t, (0, heading, 0), (height,) * 3)
 
-    scene.transform("stewardsLeft", "crowd", (-11, 0, 2), (0, 155, 0))
+    scene.transform("stewardsLeft", "crowd", (-4, 0, -9), (0, 155, 0))
     scene.transform("troop", "|crowd|stewardsLeft")
     for i in range(6):
         place("steward%d" % (i + 1), "|crowd|stewardsLeft|troop", "walker",
               (round(0.9 * (i % 2), 3), 0, round(1.1 * (i // 2), 3)), (0, 0, 0), (1.05,) * 3)
-    scene.transform("stewardsRight", "crowd", (11, 0, -1), (0, 205, 0))
+    scene.transform("stewardsRight", "crowd", (3, 0, -9), (0, 205, 0))
     scene.instances.append("parent -s -nc -r -add \"|crowd|stewardsLeft|troop\" \"stewardsRight\" ;")
     paths["walker"] += [p.replace("stewardsLeft", "stewardsRight") for p in paths["walker"] if "|troop|" in p]
     return paths
 
 
 def add_stage(scene):
-    scene.transform("stage", None, (0, 0, -4))
+    scene.transform("stage", None, (0, 0, -5))
     scene.boxes_mesh("stageShape", "stage", box((0, 0.4, 0), (4.4, 0.8, 2.6)) + box((0, 2.2, -1.25), (4.4, 2.8, 0.1)), 1)
     return ["stageShape"]
 
 
 # Name, position, heading and what the proxy stands for.
-PROXIES = [("proxyFrontLeft", (-7.5, 1, 6.5), 20, "plaza_left"), ("proxyFrontRight", (8, 1, 5.5), -15, "plaza_right"),
-           ("proxyStage", (0, 1.8, -4), 0, "band"), ("proxyWest", (-13, 1, -3), 40, "street_west"),
-           ("proxyEast", (13.5, 1, -5), -40, "street_east"), ("proxyBackLeft", (-6, 1, -9), 10, "backstage"),
-           ("proxyBackRight", (6, 1, -9), -10, "backstage"), ("proxyGate", (1.5, 1, 8.5), 0, "gate")]
+PROXIES = [("proxyStage", (0, 1.8, -5), 0, "band"), ("proxyGate", (3, 1, 10), 10, "gate"),
+           ("proxyWest", (-15, 1, -1), 40, "street_west"), ("proxyEast", (15, 1, -3), -40, "street_east"),
+           ("proxyBackLeft", (-6, 1, -11), 10, "backstage_left"), ("proxyBackRight", (6, 1, -11), -10, "backstage_right"),
+           ("proxyLeft", (-9.5, 1, 7.5), 20, "plaza_left"), ("proxyRight", (10.5, 1, 4.5), -15, "plaza_right")]
 
 
 def add_proxies(scene):

@@ -44,7 +44,7 @@ TEST(ExampleScene, EvaluatesEachNodeOfThePlugin)
     EXPECT_THAT(switches, testing::Contains("waverSwitch.output = 0.1 0.25 0.6"));
     EXPECT_EQ(switches.size(), 4u);
     EXPECT_THAT(linesWith(result.output, "crowdProxyVRayShape.sceneName"),
-                ElementsAre("crowdProxyVRayShape.sceneName = \"plaza_left\""));
+                ElementsAre("crowdProxyVRayShape.sceneName = \"band\""));
     EXPECT_EQ(linesWith(result.output, ".pythonCallback = ").size(), 8u);
 }
 
@@ -68,8 +68,8 @@ TEST(ExampleScene, IsSavedSoThatReadingAndSavingAgainGivesTheSameBytes)
     EXPECT_EQ(runHost(withPlugin({first, "--save", second}), clock).exitCode, 0);
     const std::string saved = contentsOf(first);
     EXPECT_THAT(saved,
-                HasSubstr("createNode CrowdProxyVRay -n \"crowdProxyVRayShape\" -p \"proxyFrontLeft\";\n"));
-    EXPECT_THAT(saved, HasSubstr("\tsetAttr \".scn\" -type \"string\" \"plaza_left\";\n"));
+                HasSubstr("createNode CrowdProxyVRay -n \"crowdProxyVRayShape\" -p \"proxyStage\";\n"));
+    EXPECT_THAT(saved, HasSubstr("\tsetAttr \".scn\" -type \"string\" \"band\";\n"));
     EXPECT_THAT(saved, HasSubstr("requires -nodeType \"CrowdProxyVRay\" -nodeType \"CrowdSwitchShaderVRay\" "
                                  "\"tvxCrowdRender\" \"2.5.0.1\";\n"));
     EXPECT_EQ(saved, contentsOf(second));
