@@ -31,6 +31,7 @@ struct SwitchRow
     const char* longName;
     bool AttributeFlags::*member;
     const char* help;
+    bool isBare = false; ///< takes no value: its presence means true
 };
 
 constexpr SwitchRow kSwitches[] = {
@@ -39,8 +40,8 @@ constexpr SwitchRow kSwitches[] = {
     {"w", "writable", &AttributeFlags::writable, "can be set and be the destination of a connection"},
     {"s", "storable", &AttributeFlags::storable, "saved in files"},
     {"ci", "cachedInternally", &AttributeFlags::cached, "keeps the value it computed"},
-    {"uac", "usedAsColor", &AttributeFlags::usedAsColor, "three floats that are a colour"},
-    {"uaf", "usedAsFilename", &AttributeFlags::usedAsFilename, "a string that names a file"},
+    {"uac", "usedAsColor", &AttributeFlags::usedAsColor, "three floats that are a colour", true},
+    {"uaf", "usedAsFilename", &AttributeFlags::usedAsFilename, "a string that names a file", true},
     {"h", "hidden", &AttributeFlags::hidden, "not shown in editors"},
     {"k", "keyable", &AttributeFlags::keyable, "can have keys"},
     {"im", "indexMatters", &AttributeFlags::indexMatters, "each element's index has a meaning"},
@@ -154,7 +155,7 @@ void applySwitches(const mel::ParsedCommand& flags, Attribute& attribute)
 {
     for (const SwitchRow& row : kSwitches)
         if (flags.has(row.longName))
-            attribute.flags.*row.member = flags.boolean(row.longName);
+            attribute.flags.*row.member = row.isBare || flags.boolean(row.longName);
     attribute.flags.array = flags.has("multi");
     if (attribute.flags.array && !attribute.flags.indexMatters)
         attribute.flags.readable = false;
@@ -191,7 +192,7 @@ void addSwitch(LineBreaker& line, const AttributeFlags& flags, const char* short
         });
     const bool value = flags.*row->member;
     if (value != AttributeFlags().*row->member)
-        line.word('-' + std::string(shortName) + ' ' + truth(value));
+        line.word('-' + std::string(shortName) + (row->isBare ? "" : std::string(" ") + truth(value)));
 }
 
 void addNumbers(LineBreaker& line, const Attribute& attribute, const engine::Units& units)
@@ -251,7 +252,10 @@ std::vector<mel::FlagSpec> addAttrFlags()
         flag("ex", "exists", ArgumentType::boolean, "whether the attribute is there", mel::kQuery),
     };
     for (const SwitchRow& row : kSwitches)
-        flags.push_back(flag(row.shortName, row.longName, ArgumentType::boolean, row.help));
+        flags.push_back(
+            {row.shortName, row.longName,
+             row.isBare ? std::vector<ArgumentType>() : std::vector<ArgumentType>{ArgumentType::boolean},
+             mel::kCreate, row.help});
     for (const LimitRow& row : kLimits)
         flags.push_back(flag(row.shortName, row.longName, ArgumentType::number, row.help));
     return flags;

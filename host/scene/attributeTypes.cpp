@@ -64,17 +64,6 @@ constexpr std::array kRows = {
     other("generic", AttributeKind::generic),
 };
 
-/// Two to four angles or distances side by side are declared as a group of doubles.
-bool isUnitGroup(const engine::Attribute& attribute)
-{
-    const auto& children = attribute.children;
-    return attribute.kind == AttributeKind::compound && children.size() >= 2 && children.size() <= 4 &&
-           std::all_of(children.begin(), children.end(), [&](const auto& child) {
-               return child->kind == AttributeKind::unit && child->unit == children.front()->unit &&
-                      !child->isArray();
-           });
-}
-
 } // namespace
 
 const AttributeTypeRow* attributeTypeNamed(std::string_view name)
@@ -86,8 +75,6 @@ const AttributeTypeRow* attributeTypeNamed(std::string_view name)
 
 std::string attributeTypeName(const engine::Attribute& attribute)
 {
-    if (isUnitGroup(attribute))
-        return "double" + std::to_string(attribute.children.size());
     const bool isNumber = attribute.kind == AttributeKind::numeric;
     const auto* row = std::find_if(kRows.begin(), kRows.end(), [&](const AttributeTypeRow& candidate) {
         return candidate.kind == attribute.kind &&

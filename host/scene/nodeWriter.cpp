@@ -14,6 +14,7 @@
 #include "engine/data.h"
 
 #include <algorithm>
+#include <array>
 
 namespace tvxhost::scene {
 
@@ -48,7 +49,8 @@ std::string stateFlags(const Plug& plug)
     const auto add = [&](const char* name, bool value) {
         flags += std::string(" -") + name + (value ? " on" : " off");
     };
-    if (state.locked)
+    // The lock of a plug that is fed goes with its connection: nothing could be connected to it otherwise.
+    if (state.locked && engine::sourceOf(plug).isNull())
         add("l", true);
     if (state.keyable && *state.keyable != own.keyable)
         add("k", *state.keyable);
@@ -69,6 +71,20 @@ bool isStored(const Plug& plug)
     return true;
 }
 
+/// Types whose defaults are known for sure.
+constexpr std::array<std::string_view, 7> kCertainTypes = {"node",          "entity",  "dagNode",  "shape",
+                                                           "geometryShape", "locator", "transform"};
+
+/// Whether a value that was set is written even when it is the default: that an element is there says
+/// something, and of most built-in types Maya may have another default than the host's tables.
+bool tellsWhenSet(const Plug& plug)
+{
+    const engine::NodeType* owner = plug.attribute()->topLevel()->owner;
+    const bool isBuiltIn = owner && owner->plugin.empty();
+    return plug.isElement() || (isBuiltIn && std::find(kCertainTypes.begin(), kCertainTypes.end(),
+                                                       owner->name) == kCertainTypes.end());
+}
+
 bool isNumeric(const Attribute& attribute)
 {
     return attribute.kind == AttributeKind::numeric || attribute.kind == AttributeKind::unit ||
@@ -82,10 +98,26 @@ bool isGroup(const Attribute& attribute)
     return isNumericTypeName(type);
 }
 
+/// Numbers, groups of them and compounds of single numbers ("ktv"): what one list of values can hold.
+bool isFlat(const Attribute& attribute)
+{
+    return attribute.kind == AttributeKind::numeric ||
+           std::none_of(attribute.children.begin(), attribute.children.end(),
+                        [](const auto& child) { return child->isCompound(); });
+}
+
 std::vector<double> numbersOf(const Plug& plug)
 {
     const auto numbers = engine::readNumbers(plug);
     return numbers ? numbers.value : std::vector<double>();
+}
+
+/// Groups of a mesh whose lists Maya writes without a type.
+constexpr std::array<std::string_view, 2> kBareGroups = {"vrts", "edge"};
+
+bool isBare(const Attribute& attribute)
+{
+    return std::find(kBareGroups.begin(), kBareGroups.end(), attribute.longName) != kBareGroups.end();
 }
 
 std::string typeFlag(const Attribute& attribute)
@@ -229,7 +261,8 @@ void NodeWriter::writeCompound(const Plug& plug)
 std::string NodeWriter::valueWords(const Plug& plug)
 {
     const Attribute& attribute = *plug.attribute();
-    if (!isStored(plug) || engine::isFedAnywhere(plug) || engine::isDefault(plug))
+    const bool isNews = tellsWhenSet(plug) ? engine::hasOwnValue(plug) : !engine::isDefault(plug);
+    if (!isNews || !isStored(plug) || engine::isFedAnywhere(plug))
         return {};
     if (isGroup(attribute)) {
         const std::vector<Attribute*> leaves = numberLeaves(*plug.attribute());
@@ -265,24 +298,28 @@ void NodeWriter::writeArray(const Plug& array)
                 writePlug(array.element(index));
         return;
     }
-    const std::size_t leaves = numberLeaves(*array.attribute()).size();
+    const std::size_t start = m_out.size();
+    const std::size_t leaves = isFlat(attribute) ? numberLeaves(*array.attribute()).size() : 0;
     std::vector<std::string> runs;
     if (leaves > 0)
         runs = numberRuns(array, elements, leaves);
     else if (attribute.kind == AttributeKind::typed && attribute.dataType == engine::DataType::polyFaces)
         runs = faceRuns(array, elements);
-    const bool isOne = runs.size() == 1;
-    if (elements.size() > 1 && !isOne)
-        line("setAttr" + sizeFlag(elements.size()) + pathText(filePath(array)) + ";");
+    const bool isOne = runs.size() == 1 && elements.size() > 1;
     for (const std::string& run : runs)
-        line("setAttr" + (isOne && elements.size() > 1 ? sizeFlag(elements.size()) : std::string()) + run);
+        line("setAttr" + (isOne ? sizeFlag(elements.size()) : std::string()) + run);
+    std::size_t written = runs.empty() ? 0 : elements.size();
     for (const int index : elements) {
         const Plug element = array.element(index);
-        if (leaves == 0 && runs.empty())
+        const std::size_t before = m_out.size();
+        if (runs.empty() || (leaves > 0 && (engine::isFedAnywhere(element) || !stateFlags(element).empty())))
             writePlug(element);
-        else if (leaves > 0 && (engine::isFedAnywhere(element) || !stateFlags(element).empty()))
-            writePlug(element);
+        if (runs.empty() &&
+            (m_out.size() != before || engine::isFedAnywhere(element) || engine::isConnected(element)))
+            ++written;
     }
+    if (written > 1 && !isOne)
+        m_out.insert(start, "\tsetAttr" + sizeFlag(written) + pathText(filePath(array)) + ";\n");
 }
 
 std::vector<std::string> NodeWriter::numberRuns(const Plug& array, const std::vector<int>& elements,
@@ -293,26 +330,23 @@ std::vector<std::string> NodeWriter::numberRuns(const Plug& array, const std::ve
         return isStored(element) && engine::hasOwnValue(element) && !engine::isFedAnywhere(element) &&
                stateFlags(element).empty() && !isSkipped(element);
     };
+    const Attribute& attribute = *array.attribute();
     const std::vector<Attribute*> leafAttributes = numberLeaves(*array.attribute());
-    const bool inGroup = leaves > 1;
+    const bool isTyped = isGroup(attribute) && !isBare(attribute);
     std::vector<std::string> runs;
     forEachRun(elements, std::max<std::size_t>(1, kValuesPerStatement / leaves), fits,
                [&](std::size_t begin, std::size_t end) {
-                   if (end - begin == 1 && engine::isDefault(array.element(elements[begin])))
-                       return;
-                   std::string run =
-                       rangeText(array, elements[begin], elements[end - 1]) + typeFlag(*array.attribute());
-                   if (!isGroup(*array.attribute()) && (inGroup || end - begin > 1))
-                       run += ' ';
+                   const bool isList = leaves > 1 || end - begin > 1;
+                   std::string run = rangeText(array, elements[begin], elements[end - 1]);
+                   run += isTyped ? typeFlag(attribute) : isList ? " " : "";
                    LineBreaker words(run);
                    for (std::size_t i = begin; i < end; ++i) {
                        const std::vector<double> numbers = numbersOf(array.element(elements[i]));
                        for (std::size_t leaf = 0; leaf < std::min(numbers.size(), leaves); ++leaf)
-                           words.word(leafText(*leafAttributes[leaf], numbers[leaf], m_scene.units(),
-                                               inGroup || end - begin > 1));
+                           words.word(
+                               leafText(*leafAttributes[leaf], numbers[leaf], m_scene.units(), isList));
                    }
-                   const bool isOneGroup = isGroup(*array.attribute()) && end - begin == 1;
-                   runs.push_back(run + (isOneGroup ? " ;" : ";"));
+                   runs.push_back(run + (isTyped && end - begin == 1 ? " ;" : ";"));
                });
     return runs;
 }

@@ -18,16 +18,16 @@ Outcome nameTaken(const Node& node, const Attribute& attribute)
                                    "': an attribute with that name cannot be added"};
 }
 
-/// A child of a group of equal numbers makes the group what the group's numbers are.
+/// A group of numbers is one only when its children turn out to be such numbers (angles and distances are).
 void settleGroup(Attribute& compound)
 {
     if (compound.kind != engine::AttributeKind::numeric)
         return;
-    const bool allPlain =
+    const bool areEqual =
         std::all_of(compound.children.begin(), compound.children.end(), [&](const auto& child) {
-            return child->kind == engine::AttributeKind::numeric && child->number == compound.number;
+            return child->number == compound.number && child->children.empty() && !child->isArray();
         });
-    if (!allPlain)
+    if (!areEqual)
         compound.kind = engine::AttributeKind::compound;
 }
 

@@ -28,7 +28,7 @@ void takeTimeOver(engine::Scene& scene)
     if (!time)
         return;
     const engine::Expected<engine::Number> seconds = engine::readNumber(time.value);
-    if (seconds)
+    if (seconds && seconds.value.asReal() != scene.time())
         scene.setTime(seconds.value.asReal());
 }
 

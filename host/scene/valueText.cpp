@@ -25,9 +25,18 @@ double parse(const std::string& text)
     return value;
 }
 
+std::string shortText(double value)
+{
+    char buffer[40];
+    const auto written = std::to_chars(buffer, buffer + sizeof buffer, value, std::chars_format::general, 9);
+    return {buffer, written.ptr};
+}
+
 /// A text for a UI value near `guess` that converts to exactly `internal`.
 std::optional<std::string> exactText(double internal, double factor, double guess)
 {
+    if (std::string text = shortText(guess); parse(text) * factor == internal)
+        return text;
     constexpr int kNeighbours = 3;
     double below = guess;
     double above = guess;

@@ -10,7 +10,6 @@
 
 #include <algorithm>
 #include <cstdlib>
-#include <set>
 #include <unordered_set>
 
 #include <sys/utsname.h>
@@ -26,22 +25,28 @@ namespace {
 
 constexpr const char* kVersion = "2016";
 
-/// Default nodes that every file names, in this order, even when nothing of them is saved.
-constexpr const char* kListedDefaults[] = {
-    "time1",
-    "hardwareRenderingGlobals",
-    "renderPartition",
-    "renderGlobalsList1",
-    "defaultShaderList1",
-    "postProcessList1",
-    "defaultRenderUtilityList1",
-    "defaultRenderingList1",
-    "defaultTextureList1",
-    "initialShadingGroup",
-    "initialParticleSE",
-    "defaultRenderGlobals",
-    "defaultResolution",
-    "hardwareRenderGlobals",
+/// Default nodes in the order in which files name them; some are named even when nothing of them is saved.
+struct DefaultRow
+{
+    const char* name;
+    bool isAlwaysNamed;
+};
+
+constexpr DefaultRow kDefaults[] = {
+    {"time1", true},
+    {"hardwareRenderingGlobals", true},
+    {"renderPartition", true},
+    {"renderGlobalsList1", true},
+    {"defaultShaderList1", true},
+    {"postProcessList1", true},
+    {"defaultRenderUtilityList1", false},
+    {"defaultRenderingList1", true},
+    {"defaultTextureList1", false},
+    {"initialShadingGroup", true},
+    {"initialParticleSE", true},
+    {"defaultRenderGlobals", false},
+    {"defaultResolution", true},
+    {"hardwareRenderGlobals", true},
 };
 
 std::string dateText(const WriteOptions& options)
@@ -217,8 +222,8 @@ void SceneWriter::collectNodes()
         if (isCreated(*node) && !node->asDag())
             m_dependNodes.push_back(node);
     }
-    for (const char* name : kListedDefaults) {
-        const auto node = m_scene.findNode(std::string(":") + name);
+    for (const DefaultRow& row : kDefaults) {
+        const auto node = m_scene.findNode(std::string(":") + row.name);
         if (node && node.value->isDefaultNode)
             m_defaultNodes.push_back(node.value);
     }
@@ -259,15 +264,18 @@ void SceneWriter::writeInstances()
     }
 }
 
+bool isAlwaysNamed(const Node& node)
+{
+    return std::any_of(std::begin(kDefaults), std::end(kDefaults),
+                       [&](const DefaultRow& row) { return row.isAlwaysNamed && node.name() == row.name; });
+}
+
 void SceneWriter::writeDefaults()
 {
-    std::size_t listed = 0;
     for (Node* node : m_defaultNodes) {
         const std::size_t before = m_out.size();
         m_out += "select -ne :" + node->name() + ";\n";
-        const bool isListed = listed < std::size(kListedDefaults) && node->name() == kListedDefaults[listed];
-        listed += isListed;
-        if (!m_nodes.writeLines(*node) && !isListed)
+        if (!m_nodes.writeLines(*node) && !isAlwaysNamed(*node))
             m_out.resize(before);
     }
     writeKept([](const std::string& text) { return beginsWith(text, "select"); });

@@ -19,6 +19,22 @@ Plug endNamed(const CommandContext& context, const std::string& name)
     return valueOf(context, scene::connectionEnd(sceneOf(context), name));
 }
 
+/// Goes past unit conversions: from a plug to what really feeds or is fed.
+Plug pastConversion(const Plug& plug, bool towardsSource)
+{
+    if (!plug.node()->type().isA("unitConversion"))
+        return plug;
+    const auto other = plug.node()->findPlug(towardsSource ? "input" : "output");
+    if (!other)
+        return plug;
+    if (towardsSource) {
+        const Plug source = engine::sourceOf(other.value);
+        return source.isNull() ? plug : source;
+    }
+    const std::vector<Plug> fed = engine::destinationsOf(other.value);
+    return fed.empty() ? plug : fed.front();
+}
+
 Value connectAttr(CommandContext& context, const ParsedCommand& call)
 {
     engine::Scene& scene = sceneOf(context);
@@ -64,7 +80,10 @@ Value isConnected(CommandContext& context, const ParsedCommand& call)
 {
     const std::vector<std::string> names = call.names();
     const Plug source = endNamed(context, names[0]);
-    return Value(engine::sourceOf(endNamed(context, names[1])) == source);
+    Plug feeding = engine::sourceOf(endNamed(context, names[1]));
+    if (!feeding.isNull() && call.has("ignoreUnitConversion"))
+        feeding = pastConversion(feeding, true);
+    return Value(feeding == source);
 }
 
 Value connectionInfo(CommandContext& context, const ParsedCommand& call)
@@ -86,22 +105,6 @@ Value connectionInfo(CommandContext& context, const ParsedCommand& call)
 }
 
 // ---- listConnections
-
-/// Goes past unit conversions: from a plug to what really feeds or is fed.
-Plug pastConversion(const Plug& plug, bool towardsSource)
-{
-    if (!plug.node()->type().isA("unitConversion"))
-        return plug;
-    const auto other = plug.node()->findPlug(towardsSource ? "input" : "output");
-    if (!other)
-        return plug;
-    if (towardsSource) {
-        const Plug source = engine::sourceOf(other.value);
-        return source.isNull() ? plug : source;
-    }
-    const std::vector<Plug> fed = engine::destinationsOf(other.value);
-    return fed.empty() ? plug : fed.front();
-}
 
 bool isOfType(const Node& node, const ParsedCommand& call)
 {
@@ -139,9 +142,8 @@ void addConnection(const Plug& own, const Plug& direct, bool isSource, const Par
 
 Value listConnections(CommandContext& context, const ParsedCommand& call)
 {
-    // Naming one direction alone means that one only.
-    const bool sources = call.boolean("source", !call.boolean("destination"));
-    const bool destinations = call.boolean("destination", !call.boolean("source"));
+    const bool sources = call.boolean("source", true);
+    const bool destinations = call.boolean("destination", true);
     Value::Strings list;
     for (const engine::SelectionItem& item : itemsOrSelection(context, call.names())) {
         const std::vector<Plug> plugs = engine::connectedPlugs(*item.node);

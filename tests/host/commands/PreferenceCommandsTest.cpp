@@ -1,0 +1,98 @@
+// optionVar, savePrefs, windowPref, about, help.
+#include "CommandFixture.h"
+
+#include <filesystem>
+#include <set>
+
+#include <unistd.h>
+
+namespace tvxhost::mel {
+
+using testing::ElementsAre;
+
+class PreferenceCommandsTest : public CommandFixture
+{
+};
+
+TEST_F(PreferenceCommandsTest, variablesHaveTheTypeOfTheirLastValue)
+{
+    run("optionVar -iv \"n\" 3 -fv \"x\" 1.5 -sv \"s\" \"hello\"");
+    EXPECT_EQ(run("optionVar -q \"n\""), "3");
+    EXPECT_EQ(run("optionVar -q \"x\""), "1.5");
+    EXPECT_EQ(run("optionVar -q \"s\""), "hello");
+    run("optionVar -sv \"n\" \"three\"");
+    EXPECT_EQ(run("optionVar -q \"n\""), "three");
+    EXPECT_EQ(run("optionVar -ex \"n\""), "1");
+    run("optionVar -rm \"n\"");
+    EXPECT_EQ(run("optionVar -ex \"n\""), "0");
+    EXPECT_EQ(run("optionVar -q \"n\""), "0");
+}
+
+TEST_F(PreferenceCommandsTest, arraysGrowAndShrink)
+{
+    run("optionVar -iva \"a\" 1 -iva \"a\" 2 -iva \"a\" 3");
+    EXPECT_THAT(value("optionVar -q \"a\"").integers(), ElementsAre(1, 2, 3));
+    run("optionVar -rfa \"a\" 1");
+    EXPECT_THAT(value("optionVar -q \"a\"").integers(), ElementsAre(1, 3));
+    EXPECT_EQ(run("optionVar -as \"a\""), "2");
+    run("optionVar -ca \"a\"");
+    EXPECT_EQ(run("optionVar -as \"a\""), "0");
+    EXPECT_EQ(run("optionVar -ex \"a\""), "1");
+}
+
+TEST_F(PreferenceCommandsTest, savePrefsWritesTheFolderOfTheSession)
+{
+    session.preferencesFolder =
+        std::filesystem::temp_directory_path() / ("tvxPrefs." + std::to_string(::getpid()));
+    run("optionVar -iv \"n\" 3; savePrefs");
+    engine::OptionVars read;
+    EXPECT_TRUE(read.load(session.preferencesFolder));
+    EXPECT_EQ(read.asInt("n"), 3);
+    std::filesystem::remove_all(session.preferencesFolder);
+}
+
+TEST_F(PreferenceCommandsTest, windowPreferencesKeepTopBeforeLeft)
+{
+    EXPECT_EQ(run("windowPref -ex \"w\""), "0");
+    run("windowPref -tlc 10 20 -wh 300 200 \"w\"");
+    EXPECT_EQ(run("windowPref -ex \"w\""), "1");
+    EXPECT_THAT(value("windowPref -q -tlc \"w\"").integers(), ElementsAre(10, 20));
+    EXPECT_EQ(run("windowPref -q -te \"w\""), "10");
+    EXPECT_EQ(run("windowPref -q -w \"w\""), "300");
+    run("windowPref -r \"w\"");
+    EXPECT_EQ(run("windowPref -ex \"w\""), "0");
+}
+
+TEST_F(PreferenceCommandsTest, aboutTellsTheVersion)
+{
+    EXPECT_EQ(run("about -v"), "2016");
+    EXPECT_EQ(run("about -api"), "201602");
+    EXPECT_EQ(run("about -batch"), "1");
+}
+
+TEST_F(PreferenceCommandsTest, everyCommandOfTheSceneHasHelp)
+{
+    for (const std::string& name : table.names()) {
+        const auto spec = table.find(name);
+        EXPECT_FALSE(spec->summary.empty()) << name;
+        for (const FlagSpec& flag : spec->flags) {
+            EXPECT_FALSE(flag.longName.empty()) << name;
+            EXPECT_FALSE(flag.shortName.empty()) << name << " -" << flag.longName;
+        }
+    }
+}
+
+TEST_F(PreferenceCommandsTest, noFlagHasTheNameOfAnotherOfItsCommand)
+{
+    for (const std::string& name : table.names()) {
+        std::set<std::string> seen;
+        for (const FlagSpec& flag : table.find(name)->flags) {
+            EXPECT_TRUE(seen.insert(flag.longName).second) << name << " -" << flag.longName;
+            if (flag.shortName != flag.longName) {
+                EXPECT_TRUE(seen.insert(flag.shortName).second) << name << " -" << flag.shortName;
+            }
+        }
+    }
+}
+
+} // namespace tvxhost::mel
