@@ -7,9 +7,10 @@ set(devkit ${work}/devkit)
 file(REMOVE_RECURSE ${work})
 
 function(run)
-  execute_process(COMMAND ${ARGN} RESULT_VARIABLE code OUTPUT_VARIABLE output ERROR_VARIABLE output)
+  execute_process(COMMAND ${ARGV} RESULT_VARIABLE code OUTPUT_VARIABLE output ERROR_VARIABLE output)
   if(code)
-    message(FATAL_ERROR "${ARGN}\n${output}")
+    list(JOIN ARGV " " command)
+    message(FATAL_ERROR "${command}\n${output}")
   endif()
 endfunction()
 
@@ -27,8 +28,10 @@ function(facts out library)
 endfunction()
 
 run(${CMAKE_COMMAND} --install ${BUILD_DIR} --component devkit --prefix ${devkit})
-run(${CMAKE_COMMAND} -S ${SOURCE_DIR} -B ${work}/build -G ${GENERATOR}
-    -D MAYA_LOCATION=${devkit} -D CMAKE_BUILD_TYPE=${BUILD_TYPE} -D TVX_SCALABLE_MALLOC=${SCALABLE_MALLOC})
+string(TOUPPER ${BUILD_TYPE} config)
+run(${CMAKE_COMMAND} -S ${SOURCE_DIR} -B ${work}/build -G ${GENERATOR} -D MAYA_LOCATION=${devkit}
+    -D CMAKE_BUILD_TYPE=${BUILD_TYPE} -D CMAKE_CXX_FLAGS_${config}=${CXX_FLAGS}
+    -D TVX_SCALABLE_MALLOC=${SCALABLE_MALLOC})
 run(${CMAKE_COMMAND} --build ${work}/build --target tvxCrowdRender)
 
 set(alone ${work}/build/plug-ins/tvxCrowdRender.so)
