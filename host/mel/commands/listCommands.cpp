@@ -82,7 +82,13 @@ std::vector<SelectionItem> candidates(CommandContext& context, const ParsedComma
             const std::vector<SelectionItem> found = scene.findItems(name);
             items.insert(items.end(), found.begin(), found.end());
         } else if (const auto found = scene.findItem(name)) {
-            items.push_back(found.value);
+            const bool isNode = found.value.plug.isNull() && found.value.components.empty();
+            if (call.has("allPaths") && isNode && name.find('|') == std::string::npos) {
+                const std::vector<SelectionItem> paths = itemsOfNode(*found.value.node, true);
+                items.insert(items.end(), paths.begin(), paths.end());
+            } else {
+                items.push_back(found.value);
+            }
         } else if (found.outcome.reason == engine::Reason::ambiguous) {
             // A name that several objects have lists them all.
             const std::vector<SelectionItem> all = scene.findItems("*" + name);

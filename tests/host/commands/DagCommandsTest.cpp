@@ -52,7 +52,7 @@ TEST_F(DagCommandsTest, parentAddMakesInstances)
     run("parent -s -add s c");
     EXPECT_THAT(strings("ls -ap -l s"), ElementsAre("|a|b|s", "|c|s"));
     EXPECT_THAT(strings("listRelatives -ap s"), ElementsAre("b", "c"));
-    run("parent -rm \"|c|s\"");
+    run("parent -s -rm \"|c|s\"");
     EXPECT_THAT(strings("ls -ap -l s"), ElementsAre("|a|b|s"));
 }
 

@@ -20,8 +20,8 @@ TEST_F(NodeCommandsTest, createNodeGivesTheNameAndSelectsTheNode)
 
 TEST_F(NodeCommandsTest, createNodePutsShapesUnderANewOrANamedTransform)
 {
-    run("createNode transform -n \"top\"; createNode mesh -n \"inner\" -p \"top\"");
-    EXPECT_THAT(strings("listRelatives -f \"top\""), ElementsAre("|top|inner"));
+    run("createNode transform -n \"body\"; createNode mesh -n \"inner\" -p \"body\"");
+    EXPECT_THAT(strings("listRelatives -f \"body\""), ElementsAre("|body|inner"));
     run("createNode mesh -n \"ballShape\"");
     EXPECT_THAT(strings("ls -l \"ballShape\""), ElementsAre("|ball|ballShape"));
 }
@@ -99,9 +99,9 @@ TEST_F(NodeCommandsTest, lsListsByTypeNameAndPattern)
 
 TEST_F(NodeCommandsTest, lsFlattensComponents)
 {
-    run("createNode mesh -n \"m\"; select -r \"m.vtx[0:2]\"");
-    EXPECT_THAT(strings("ls -sl"), ElementsAre("m.vtx[0:2]"));
-    EXPECT_THAT(strings("ls -sl -fl"), ElementsAre("m.vtx[0]", "m.vtx[1]", "m.vtx[2]"));
+    run("createNode mesh -n \"ballShape\"; select -r \"ball.vtx[0:2]\"");
+    EXPECT_THAT(strings("ls -sl"), ElementsAre("ball.vtx[0:2]"));
+    EXPECT_THAT(strings("ls -sl -fl"), ElementsAre("ball.vtx[0]", "ball.vtx[1]", "ball.vtx[2]"));
 }
 
 TEST_F(NodeCommandsTest, selectionKeepsItsOrder)
