@@ -46,6 +46,7 @@ function(tvx_test name)
   add_executable(${name} ${arg_UNPARSED_ARGUMENTS})
   tvx_warnings(${name})
   target_link_libraries(${name} PRIVATE ${arg_LIBRARIES} GTest::gmock GTest::gtest_main)
+  target_precompile_headers(${name} REUSE_FROM tvxTestHeaders)
   target_compile_definitions(${name} PRIVATE
     TVX_SOURCE_DIR="${CMAKE_SOURCE_DIR}"
     TVX_BUILD_DIR="${CMAKE_BINARY_DIR}")
