@@ -20,6 +20,13 @@ namespace {
 
 using engine::Outcome;
 
+/// A plug-in as the command line names it: a file that is there, or a name to look for.
+std::string pluginName(const std::string& word)
+{
+    std::error_code ignored;
+    return std::filesystem::is_regular_file(word, ignored) ? std::filesystem::absolute(word).string() : word;
+}
+
 /// A report on lines of its own.
 std::string asLines(const std::string& text)
 {
@@ -105,7 +112,7 @@ void Program::loadPreferences()
 void Program::loadPlugins()
 {
     for (const std::string& plugin : m_options.plugins)
-        check(m_session.commands().loadPlugin(plugin, {}));
+        check(m_session.commands().loadPlugin(pluginName(plugin), {}));
 }
 
 bool Program::openScene()

@@ -4,6 +4,7 @@
 #include "interpreter.h"
 
 #include <algorithm>
+#include <stdexcept>
 
 namespace tvxhost::mel {
 
@@ -49,7 +50,9 @@ bool CommandTable::add(CommandSpec spec)
 void CommandTable::add(std::initializer_list<CommandSpec> specs)
 {
     for (const CommandSpec& spec : specs) {
-        add(spec);
+        if (!add(spec)) {
+            throw std::logic_error("the command '" + spec.name + "' is declared twice");
+        }
     }
 }
 

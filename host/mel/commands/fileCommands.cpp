@@ -228,7 +228,7 @@ Value fileInfo(CommandContext& context, const ParsedCommand& call)
     return {};
 }
 
-// ---- workspace, sysFile
+// ---- workspace
 
 std::string withoutSlash(const fs::path& folder)
 {
@@ -258,71 +258,6 @@ Value workspace(CommandContext& context, const ParsedCommand& call)
     return {};
 }
 
-/// What sysFile does to a path; each answers whether it could.
-struct FileAction
-{
-    const char* shortName;
-    const char* longName;
-    bool hasTarget;
-    const char* help;
-    bool (*act)(const fs::path& path, const fs::path& target, std::error_code& error);
-};
-
-const FileAction kFileActions[] = {
-    {"md", "makeDir", false, "makes a folder with all that are missing above it",
-     [](const fs::path& path, const fs::path&, std::error_code& error) {
-         fs::create_directories(path, error);
-         return fs::is_directory(path, error);
-     }},
-    {"red", "removeEmptyDir", false, "removes an empty folder",
-     [](const fs::path& path, const fs::path&, std::error_code& error) {
-         return fs::is_directory(path, error) && fs::remove(path, error);
-     }},
-    {"del", "delete", false, "deletes a file",
-     [](const fs::path& path, const fs::path&, std::error_code& error) {
-         return fs::is_regular_file(path, error) && fs::remove(path, error);
-     }},
-    {"ren", "rename", true, "gives a file another name",
-     [](const fs::path& path, const fs::path& target, std::error_code& error) {
-         fs::rename(path, target, error);
-         return !error;
-     }},
-    {"mov", "move", true, "moves a file",
-     [](const fs::path& path, const fs::path& target, std::error_code& error) {
-         fs::rename(path, fs::is_directory(target) ? target / path.filename() : target, error);
-         return !error;
-     }},
-    {"cp", "copy", true, "copies a file",
-     [](const fs::path& path, const fs::path& target, std::error_code& error) {
-         return fs::copy_file(path, fs::is_directory(target) ? target / path.filename() : target,
-                              fs::copy_options::overwrite_existing, error);
-     }},
-};
-
-Value sysFile(CommandContext& context, const ParsedCommand& call)
-{
-    const SceneSession& session = sessionOf(context);
-    const fs::path path = resolved(session, call.names().front());
-    std::error_code error;
-    for (const FileAction& action : kFileActions)
-        if (call.has(action.longName))
-            return Value(action.act(
-                path, action.hasTarget ? resolved(session, call.string(action.longName)) : fs::path(),
-                error));
-    context.fail("sysFile: nothing was asked for");
-}
-
-CommandSpec sysFileCommand()
-{
-    std::vector<FlagSpec> flags;
-    for (const FileAction& action : kFileActions)
-        flags.push_back(action.hasTarget
-                            ? valueFlag(action.shortName, action.longName, ArgumentType::string, action.help)
-                            : switchFlag(action.shortName, action.longName, action.help));
-    return makeCommand("sysFile", "Makes, moves and deletes files and folders", std::move(flags),
-                       {ArgumentType::string, 1, 1}, sysFile);
-}
-
 } // namespace
 
 void registerFileCommands(CommandTable& table)
@@ -345,7 +280,6 @@ void registerFileCommands(CommandTable& table)
                      switchFlag("o", "openWorkspace", "makes it the project"),
                      valueFlag("fre", "fileRuleEntry", A::string, "a rule's folder", kQuery)},
                     {A::string, 0, 1}, workspace, kQuery),
-        sysFileCommand(),
     });
 }
 

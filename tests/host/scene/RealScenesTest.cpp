@@ -84,15 +84,11 @@ class RealScenes : public testing::Test
 protected:
     void SetUp() override
     {
-        const char* folder = std::getenv("TVX_SCENES_DIR");
-        if (!folder || !*folder)
-            GTEST_SKIP() << "TVX_SCENES_DIR is not set";
-        m_folder = folder;
         m_rows = readTable(m_folder);
         ASSERT_FALSE(m_rows.empty()) << "no contents.tsv in " << m_folder;
     }
 
-    std::string m_folder;
+    const std::string m_folder = TVX_SCENES_DIR;
     std::vector<SceneRow> m_rows;
 };
 
