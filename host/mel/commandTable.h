@@ -162,7 +162,8 @@ class CommandTable
 public:
     /// Adds a command; false (and no change) when the name is taken.
     bool add(CommandSpec spec);
-    /// Adds the commands of a family. Throws std::logic_error for a name that is taken: two families declare it.
+    /// Adds the commands of a family. Throws std::logic_error for a name that is taken: two families declare
+    /// it.
     void add(std::initializer_list<CommandSpec> specs);
     /// Takes a command away, as unloading a plug-in does; false when there is none. A call under way keeps
     /// it.
