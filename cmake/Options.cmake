@@ -46,8 +46,6 @@ endif()
 if(TVX_SANITIZE)
   add_compile_options(-fsanitize=${TVX_SANITIZE} -fno-omit-frame-pointer -fno-sanitize-recover=all)
   add_link_options(-fsanitize=${TVX_SANITIZE})
-  # Instrumented, GCC 12's own <regex> and <functional> seem uninitialized to it.
-  add_compile_options($<$<CXX_COMPILER_ID:GNU>:-Wno-maybe-uninitialized>)
 endif()
 if(TVX_COVERAGE)
   add_compile_options(--coverage -O0)
