@@ -5,38 +5,73 @@
 
 #include <GL/gl.h>
 
-#include <iomanip>
-#include <limits>
-#include <sstream>
-
 namespace tarvox::crowd::test {
 
 namespace {
 
 GlRecorder* current = nullptr;
 
-// A call as it would be written; floats with all the digits that tell them apart.
+// A call as it would be written; nothing is written down while no recorder lives.
 template <class... Arguments>
 void note(const char* function, Arguments... arguments)
 {
-    if (!current)
-        return;
-    std::ostringstream text;
-    text << std::setprecision(std::numeric_limits<float>::max_digits10) << function << "(";
-    [[maybe_unused]] const char* separator = "";
-    ((text << separator << arguments, separator = ", "), ...);
-    text << ")";
-    current->add(text.str());
+    if (current)
+        current->add(glCall(function, arguments...));
 }
 
+/// A GL constant and its name.
+struct Name
+{
+    unsigned int value;
+    const char* text;
+};
+
+template <std::size_t count>
+std::string nameIn(const Name (&names)[count], unsigned int value)
+{
+    for (const Name& name : names)
+        if (name.value == value)
+            return name.text;
+    return std::to_string(value);
+}
+
+// Numbers are reused in GL: each kind of argument has names of its own.
 std::string mode(GLenum value)
 {
-    return value == GL_LINES ? "GL_LINES" : std::to_string(value);
+    static constexpr Name names[] = {
+        {GL_LINES, "GL_LINES"},     {GL_LINE_LOOP, "GL_LINE_LOOP"},
+        {GL_QUADS, "GL_QUADS"},     {GL_QUAD_STRIP, "GL_QUAD_STRIP"},
+        {GL_POLYGON, "GL_POLYGON"}, {GL_TRIANGLE_FAN, "GL_TRIANGLE_FAN"},
+    };
+    return nameIn(names, value);
 }
 
 std::string bits(GLbitfield value)
 {
-    return value == GL_ALL_ATTRIB_BITS ? "GL_ALL_ATTRIB_BITS" : std::to_string(value);
+    static constexpr Name names[] = {
+        {GL_ALL_ATTRIB_BITS, "GL_ALL_ATTRIB_BITS"},
+        {GL_CURRENT_BIT, "GL_CURRENT_BIT"},
+        {GL_POLYGON_BIT, "GL_POLYGON_BIT"},
+    };
+    return nameIn(names, value);
+}
+
+std::string constant(GLenum value)
+{
+    static constexpr Name names[] = {
+        {GL_BLEND, "GL_BLEND"},
+        {GL_SRC_ALPHA, "GL_SRC_ALPHA"},
+        {GL_ONE_MINUS_SRC_ALPHA, "GL_ONE_MINUS_SRC_ALPHA"},
+        {GL_FRONT_AND_BACK, "GL_FRONT_AND_BACK"},
+        {GL_FILL, "GL_FILL"},
+        {GL_LINE, "GL_LINE"},
+    };
+    return nameIn(names, value);
+}
+
+std::string boolean(GLboolean value)
+{
+    return value ? "GL_TRUE" : "GL_FALSE";
 }
 
 } // namespace
@@ -86,6 +121,18 @@ void glVertex3f(GLfloat x, GLfloat y, GLfloat z)
 {
     note("glVertex3f", x, y, z);
 }
+void glVertex3d(GLdouble x, GLdouble y, GLdouble z)
+{
+    note("glVertex3d", x, y, z);
+}
+void glNormal3f(GLfloat x, GLfloat y, GLfloat z)
+{
+    note("glNormal3f", x, y, z);
+}
+void glColor3f(GLfloat r, GLfloat g, GLfloat b)
+{
+    note("glColor3f", r, g, b);
+}
 void glColor4f(GLfloat r, GLfloat g, GLfloat b, GLfloat a)
 {
     note("glColor4f", r, g, b, a);
@@ -98,6 +145,18 @@ void glPopMatrix()
 {
     note("glPopMatrix");
 }
+void glTranslatef(GLfloat x, GLfloat y, GLfloat z)
+{
+    note("glTranslatef", x, y, z);
+}
+void glRotatef(GLfloat angle, GLfloat x, GLfloat y, GLfloat z)
+{
+    note("glRotatef", angle, x, y, z);
+}
+void glScalef(GLfloat x, GLfloat y, GLfloat z)
+{
+    note("glScalef", x, y, z);
+}
 void glPushAttrib(GLbitfield value)
 {
     note("glPushAttrib", bits(value));
@@ -105,6 +164,26 @@ void glPushAttrib(GLbitfield value)
 void glPopAttrib()
 {
     note("glPopAttrib");
+}
+void glPolygonMode(GLenum face, GLenum value)
+{
+    note("glPolygonMode", constant(face), constant(value));
+}
+void glEnable(GLenum capability)
+{
+    note("glEnable", constant(capability));
+}
+void glDisable(GLenum capability)
+{
+    note("glDisable", constant(capability));
+}
+void glBlendFunc(GLenum source, GLenum destination)
+{
+    note("glBlendFunc", constant(source), constant(destination));
+}
+void glDepthMask(GLboolean value)
+{
+    note("glDepthMask", boolean(value));
 }
 
 } // extern "C"

@@ -1,10 +1,33 @@
 // Stands in for OpenGL and writes down what is called.
 #pragma once
 
+#include <limits>
+#include <sstream>
 #include <string>
+#include <type_traits>
 #include <vector>
 
 namespace tarvox::crowd::test {
+
+/// An argument as a recorder writes it: numbers with all the digits that tell them apart.
+template <class Argument>
+std::string glArgument(const Argument& argument)
+{
+    std::ostringstream text;
+    if constexpr (std::is_floating_point_v<Argument>)
+        text.precision(std::numeric_limits<Argument>::max_digits10);
+    text << argument;
+    return text.str();
+}
+
+/// A call as a recorder writes it, for example "glVertex3f(1, 0.5, 0)".
+template <class... Arguments>
+std::string glCall(const std::string& function, const Arguments&... arguments)
+{
+    std::string list;
+    ((list += (list.empty() ? "" : ", ") + glArgument(arguments)), ...);
+    return function + "(" + list + ")";
+}
 
 /// While one lives, the GL functions that the plug-in draws with only write themselves down, as they would be
 /// written in C. Calls of the host's API that were recorded meanwhile stand between them.

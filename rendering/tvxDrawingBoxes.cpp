@@ -1,4 +1,4 @@
-// Simple shapes in immediate-mode OpenGL.
+// Boxes: as wires and solid, and the cross of their axes.
 #include "rendering/tvxDrawing.h"
 
 #include "rendering/tvxGL.h"
