@@ -43,8 +43,7 @@ public:
     /// is registered already only counts one use more.
     /// @param name          marks its messages and names its option variable
     /// @param defaultLevel  severity filter when the option variable does not exist; also becomes the level
-    /// up
-    ///                      to which indent() and unindent() are heeded
+    ///                      up to which indent() and unindent() are heeded
     void registerLog(core::Log& log, const std::string& name, int defaultLevel);
 
     /// Takes back one registration; the last one detaches the log. A log that is not registered is ignored.

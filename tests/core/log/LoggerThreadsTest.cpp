@@ -1,5 +1,7 @@
 // The logger is made once, whoever asks first. A program of its own: the instance must not be there yet.
 #include "HostSession.h"
+#include "SystemCalls.h"
+#include "TestFolder.h"
 #include "core/log/tvxMayaLogger.h"
 
 #include <gtest/gtest.h>
@@ -12,10 +14,14 @@
 namespace tarvox::crowd {
 namespace {
 
-TEST(LoggerThreads, SixtyFourThreadsGetOneLogger)
+TEST(LoggerThreads, SixtyFourThreadsGetOneLoggerThatIsMadeOnce)
 {
     constexpr std::size_t kThreads = 64;
     test::HostSession host;
+    const test::TestFolder folder;
+    host.scene.optionVars().set("tvxPrefLogToFile", 1);
+    host.scene.optionVars().set("tvxPrefLogDirectory", folder.path());
+    const test::SystemCalls system;
     std::atomic<std::size_t> ready{0};
     std::vector<const MayaLogger*> seen(kThreads);
     std::vector<std::thread> threads;
@@ -31,6 +37,7 @@ TEST(LoggerThreads, SixtyFourThreadsGetOneLogger)
     const std::set<const MayaLogger*> loggers(seen.begin(), seen.end());
     EXPECT_EQ(loggers.size(), 1u);
     EXPECT_EQ(loggers.count(&MayaLogger::getInstance()), 1u);
+    EXPECT_EQ(system.openCount, 1) << "each construction opens the log file";
 }
 
 } // namespace

@@ -1,5 +1,6 @@
 // How a new logger follows the user's preferences.
 #include "LoggerTest.h"
+#include "SystemCalls.h"
 
 #include <maya/MGlobal.h>
 
@@ -58,6 +59,28 @@ TEST_F(MayaLoggerConstruction, DoesWithoutStandardOutputWhenItsPreferenceIsOff)
     EXPECT_EQ(logOn(*makeLogger()), "");
 }
 
+TEST_F(MayaLoggerConstruction, TakesAnyNumberButZeroForOn)
+{
+    for (const int on : {-1, 2}) {
+        MGlobal::setOptionVarValue("tvxPrefLogToSE", on);
+        MGlobal::setOptionVarValue("tvxPrefLogToOW", on);
+        MGlobal::setOptionVarValue("tvxPrefLogToFile", on);
+        MGlobal::setOptionVarValue("tvxPrefLogDirectory", MString(folder.path().c_str()));
+        EXPECT_EQ(logOn(*makeLogger()), "[TarvoxCrowd::INFO]\thello\n") << on;
+        EXPECT_THAT(host.takeMessages(), ElementsAre("info|[TarvoxCrowd::INFO]\thello")) << on;
+        EXPECT_EQ(folder.read("tvxCrowd.log"), "[TarvoxCrowd::INFO]\thello\n") << on;
+    }
+}
+
+TEST_F(MayaLoggerConstruction, LeavesTheLogFileAloneWhenItsPreferenceIsOff)
+{
+    MGlobal::setOptionVarValue("tvxPrefLogToFile", 0);
+    MGlobal::setOptionVarValue("tvxPrefLogDirectory", MString(folder.path().c_str()));
+    folder.write("tvxCrowd.log", "of the last session\n");
+    logOn(*makeLogger());
+    EXPECT_EQ(folder.read("tvxCrowd.log"), "of the last session\n");
+}
+
 TEST_F(MayaLoggerConstruction, OpensTheLogFileWhenItsPreferenceIsOn)
 {
     MGlobal::setOptionVarValue("tvxPrefLogToFile", 1);
@@ -71,13 +94,26 @@ TEST_F(MayaLoggerConstruction, OpensTheLogFileWhenItsPreferenceIsOn)
 
 TEST_F(MayaLoggerConstruction, TurnsFileOutputOffWithoutAWordWhenTheFileCannotBeOpened)
 {
+    folder.write("taken", "a file");
+    MGlobal::setOptionVarValue("tvxPrefLogToFile", 1);
+    for (const std::string& unusable : {folder.path("none"), folder.path("taken"), std::string("/proc")}) {
+        MGlobal::setOptionVarValue("tvxPrefLogDirectory", MString(unusable.c_str()));
+        const Owned logger = makeLogger();
+        EXPECT_THAT(host.takeMessages(), IsEmpty()) << unusable;
+        EXPECT_EQ(MGlobal::optionVarIntValue("tvxPrefLogToFile"), 1) << "the preference stays";
+        logOn(*logger);
+        EXPECT_THAT(host.takeMessages(), ElementsAre("info|[TarvoxCrowd::INFO]\thello")) << unusable;
+    }
+    EXPECT_EQ(folder.read("taken"), "a file");
+}
+
+TEST_F(MayaLoggerConstruction, OpensNoFileInALaterFolderAfterAFailureAndRemembersThatFileOutputIsOff)
+{
     MGlobal::setOptionVarValue("tvxPrefLogToFile", 1);
     MGlobal::setOptionVarValue("tvxPrefLogDirectory", MString(folder.path("none").c_str()));
-    const Owned logger = makeLogger();
-    EXPECT_THAT(host.takeMessages(), IsEmpty());
-    // File output is off: moving the folder does not open a file.
-    logger->setLogDirectory(folder.path());
+    makeLogger()->setLogDirectory(folder.path());
     EXPECT_EQ(folder.read("tvxCrowd.log"), "(no such file)");
+    EXPECT_EQ(MGlobal::optionVarIntValue("tvxPrefLogToFile"), 0);
 }
 
 TEST_F(MayaLoggerConstruction, LooksForTheFileOnDriveCWithoutADirectory)
@@ -89,6 +125,28 @@ TEST_F(MayaLoggerConstruction, LooksForTheFileOnDriveCWithoutADirectory)
     logOn(*makeLogger());
     std::filesystem::current_path(before);
     EXPECT_EQ(folder.read("c:/tvxCrowd.log"), "[TarvoxCrowd::INFO]\thello\n");
+}
+
+TEST_F(MayaLoggerConstruction, BeginsTheTimeOfTheTimeStamps)
+{
+    test::SystemCalls system;
+    system.clock = 1000000;
+    const Owned logger = makeLogger();
+    system.clock += 10;
+    logger->log(core::kDebug, "before the start");
+    EXPECT_THAT(host.takeMessages(), ElementsAre("info|[TarvoxCrowd::DEBUG]\t00:00:10  before the start"));
+}
+
+TEST_F(MayaLoggerConstruction, MakesWarningTheDefaultLevel)
+{
+    const Owned logger = makeLogger();
+    EXPECT_EQ(logger->getLogLevelPreference("Unheard of"), core::kWarning);
+    logger->indent(core::kInfo, 1);
+    logOn(*logger);
+    logger->indent(core::kWarning, 1);
+    logOn(*logger);
+    EXPECT_THAT(host.takeMessages(),
+                ElementsAre("info|[TarvoxCrowd::INFO]\thello", "info|[TarvoxCrowd::INFO]\t  hello"));
 }
 
 TEST_F(MayaLoggerConstruction, DoesNotRun)

@@ -7,6 +7,10 @@
 #include <gmock/gmock.h>
 
 #include <cerrno>
+#include <filesystem>
+#include <functional>
+#include <ostream>
+#include <sstream>
 #include <string>
 
 namespace tarvox::crowd {
@@ -79,6 +83,69 @@ TEST_F(LoggerOutput, GivesConsoleAndFileTheLineWithItsEnd)
     EXPECT_EQ(takeConsole(), "[TarvoxCrowd::WARNING]\ttext\n");
     EXPECT_EQ(file(), "[TarvoxCrowd::WARNING]\ttext\n");
     EXPECT_THAT(host.takeMessages(), IsEmpty());
+}
+
+TEST_F(LoggerOutput, GivesEveryOutputTheSameLinesOfEverySeverity)
+{
+    SystemCalls system;
+    system.clock = 1000000;
+    logger.start();
+    system.clock += 3661;
+    logger.setOutputStream(&console);
+    logToFile();
+    logger.indent(core::kCritical, 3);
+    for (int severity = 0; severity <= 4; ++severity)
+        logger.log(severity, "text");
+    const std::string lines[] = {"[TarvoxCrowd::CRITICAL]\t      text", "[TarvoxCrowd::ERROR]\t      text",
+                                 "[TarvoxCrowd::WARNING]\t      text", "[TarvoxCrowd::INFO]\t      text",
+                                 "[TarvoxCrowd::DEBUG]\t01:01:01        text"};
+    std::string all;
+    for (const std::string& line : lines)
+        all += line + "\n";
+    EXPECT_THAT(host.takeMessages(),
+                ElementsAre("error|" + lines[0], "error|" + lines[1], "warning|" + lines[2],
+                            "info|" + lines[3], "info|" + lines[4]));
+    EXPECT_EQ(takeConsole(), all);
+    EXPECT_EQ(file(), all);
+}
+
+TEST_F(LoggerOutput, ReachesTheScriptEditorThenTheConsoleThenTheFile)
+{
+    class Watcher : public std::stringbuf
+    {
+    public:
+        std::function<std::string()> file;
+        std::string fileWhenFlushed;
+
+    protected:
+        int sync() override
+        {
+            fileWhenFlushed = file();
+            return 0;
+        }
+    } watcher;
+    watcher.file = [this] { return file(); };
+    std::ostream stream(&watcher);
+    std::string consoleWhenShown = "(not shown)";
+    host.scene.scriptEditor().setListener(
+        [&](const tvxhost::engine::Message&) { consoleWhenShown = watcher.str(); });
+    logger.setOutputStream(&stream);
+    logToFile();
+    logger.log(core::kInfo, "first");
+    logger.log(core::kInfo, "second");
+    host.scene.scriptEditor().setListener(nullptr);
+    logger.setOutputStream(nullptr);
+    EXPECT_EQ(consoleWhenShown, "[TarvoxCrowd::INFO]\tfirst\n");
+    EXPECT_EQ(watcher.fileWhenFlushed, "[TarvoxCrowd::INFO]\tfirst\n");
+    EXPECT_EQ(file(), "[TarvoxCrowd::INFO]\tfirst\n[TarvoxCrowd::INFO]\tsecond\n");
+}
+
+TEST_F(LoggerOutput, IndentsLinesWithoutAPrefixToo)
+{
+    logger.setOutputStream(&console);
+    logger.indent(core::kCritical, 2);
+    logger.log(5, "five");
+    EXPECT_EQ(takeConsole(), "    five\n");
 }
 
 TEST_F(LoggerOutput, SendsOtherSeveritiesToConsoleAndFileOnlyAndWithoutAPrefix)
@@ -162,6 +229,22 @@ TEST_F(LoggerOutput, GoesOnAfterAFailedWrite)
     EXPECT_EQ(file(), "[TarvoxCrowd::INFO]\tback\n");
 }
 
+TEST_F(LoggerOutput, AFullDeviceSilencesTheFileAndNothingElse)
+{
+    logger.setOutputStream(&console);
+    std::filesystem::create_symlink("/dev/full", folder.path("tvxCrowd.log"));
+    logToFile();
+    logger.log(core::kInfo, "first");
+    logger.log(core::kInfo, "second");
+    EXPECT_EQ(takeConsole(), "[TarvoxCrowd::INFO]\tfirst\n[TarvoxCrowd::INFO]\tsecond\n");
+    EXPECT_THAT(host.takeMessages(),
+                ElementsAre("info|[TarvoxCrowd::INFO]\tfirst", "info|[TarvoxCrowd::INFO]\tsecond"));
+    std::filesystem::remove(folder.path("tvxCrowd.log"));
+    logger.setUseFile(true);
+    logger.log(core::kInfo, "third");
+    EXPECT_EQ(file(), "[TarvoxCrowd::INFO]\tthird\n");
+}
+
 TEST_F(LoggerOutput, StopsAllTheSameWhenTheFileCannotBeClosed)
 {
     logToFile();
@@ -215,7 +298,36 @@ TEST_F(LoggerOutput, ANestedMessageLeavesTheOuterOneAlone)
                       "[TarvoxCrowd::INFO]\touter\n");
 }
 
+TEST_F(LoggerOutput, ANestedTraceOfTheSameLogLeavesTheOuterOneAlone)
+{
+    core::Log log;
+    registerLog(log, "Mine", core::kInfo);
+    logger.start();
+    logger.setOutputStream(&console);
+    host.scene.scriptEditor().setListener([&](const tvxhost::engine::Message& message) {
+        if (message.text.find("outer") != std::string::npos)
+            trace(log, core::kWarning, "inner, of another length than the other one");
+    });
+    trace(log, core::kInfo, "outer");
+    host.scene.scriptEditor().setListener(nullptr);
+    EXPECT_EQ(takeConsole(), "[TarvoxCrowd::WARNING]\tMine: inner, of another length than the other one\n"
+                             "[TarvoxCrowd::INFO]\tMine: outer\n");
+}
+
 // write
+
+TEST_F(LoggerOutput, ANestedWriteLeavesTheOuterOneAlone)
+{
+    logger.setOutputStream(&console);
+    host.scene.scriptEditor().setListener([this](const tvxhost::engine::Message& message) {
+        if (message.text.find("outer") != std::string::npos)
+            logger.write(core::kWarning, true, "inner %d, of another length than the other one", 2);
+    });
+    logger.write(core::kInfo, true, "outer %d", 1);
+    host.scene.scriptEditor().setListener(nullptr);
+    EXPECT_EQ(takeConsole(), "[TarvoxCrowd::WARNING]\tinner 2, of another length than the other one\n"
+                             "[TarvoxCrowd::INFO]\touter 1\n");
+}
 
 TEST_F(LoggerOutput, WritesAPercentageAtInfo)
 {
@@ -255,6 +367,26 @@ TEST_F(LoggerOutput, ReportsAnUnknownLongConversionBeforeItsMessage)
     logger.write(core::kWarning, true, "a long text before it %lxand %d behind", 7);
     EXPECT_EQ(takeConsole(), "[TarvoxCrowd::ERROR]\tMayaLogger::write(...) using unknown format %lx\n"
                              "[TarvoxCrowd::WARNING]\ta long text before it and 7 behind\n");
+}
+
+TEST_F(LoggerOutput, ReportsAnUnknownConversionOnEveryOutput)
+{
+    logger.setOutputStream(&console);
+    logToFile();
+    logger.write(core::kInfo, true, "%l%");
+    EXPECT_THAT(host.takeMessages(),
+                ElementsAre("error|[TarvoxCrowd::ERROR]\tMayaLogger::write(...) using unknown format %l%",
+                            "info|[TarvoxCrowd::INFO]\t"));
+    EXPECT_EQ(file(), "[TarvoxCrowd::ERROR]\tMayaLogger::write(...) using unknown format %l%\n"
+                      "[TarvoxCrowd::INFO]\t\n");
+    EXPECT_EQ(takeConsole(), file());
+}
+
+TEST_F(LoggerOutput, DropsAPercentSignAtTheEndWithoutAReport)
+{
+    logToConsole();
+    logger.write(core::kInfo, true, "100%");
+    EXPECT_EQ(takeConsole(), "[TarvoxCrowd::INFO]\t100\n");
 }
 
 TEST_F(LoggerOutput, ReportsEachUnknownConversion)

@@ -4,6 +4,8 @@
 
 #include "core/log/tvxCoreLog.h"
 
+#include <tvxCore/Exception.h>
+
 #include <maya/MGlobal.h>
 
 #include <gmock/gmock.h>
@@ -12,6 +14,7 @@
 #include <climits>
 #include <filesystem>
 #include <string>
+#include <utility>
 
 namespace tarvox::crowd {
 namespace {
@@ -61,6 +64,7 @@ TEST_F(Logger, RegisteringTwiceNeitherAddsAListenerNorChangesTheFilter)
     logger.registerLog(log, "Other name", core::kDebug);
     EXPECT_EQ(log.getSeverityFilter(), core::kInfo);
     EXPECT_EQ(optionVar("tvxPrefLogLevelForOther_name"), -1);
+    EXPECT_EQ(logger.getLogLevelPreference("Unheard of"), core::kInfo) << "the default level stays, too";
     trace(log, core::kInfo, "once");
     EXPECT_EQ(takeConsole(), "[TarvoxCrowd::INFO]\tMine: once\n");
     logger.unregisterLog(log);
@@ -197,6 +201,13 @@ TEST_F(Logger, KeepsTheLevelOfALogWithBlanksInItsNameUnderUnderscores)
     EXPECT_EQ(logger.getLogLevelPreference("My Log"), core::kError);
 }
 
+TEST_F(Logger, MakesEveryBlankOfALogsNameAnUnderscoreAndKeepsTheOtherCharacters)
+{
+    logger.setLogLevelPreference(" My  other\tLog ", core::kInfo);
+    EXPECT_EQ(optionVar("tvxPrefLogLevelFor_My__other\tLog_"), core::kInfo);
+    EXPECT_EQ(host.scene.optionVars().exists("tvxPrefLogLevelFor My  other\tLog "), false);
+}
+
 TEST_F(Logger, TakesTheUsersLevelInsteadOfTheDefault)
 {
     MGlobal::setOptionVarValue("tvxPrefLogLevelForMine", 1);
@@ -225,6 +236,18 @@ TEST_F(Logger, SetsOneFilterAtOnceWhileItRuns)
     EXPECT_EQ(optionVar("tvxPrefLogLevelForSecond"), core::kInfo);
 }
 
+TEST_F(Logger, KeepsAFilterThatWasSetWhileItRanForTheNextStart)
+{
+    registerLog(log, "Mine", core::kInfo);
+    logger.start();
+    logger.setSeverityFilter(0, core::kDebug, false);
+    logger.stop();
+    log.setSeverityFilter(core::kCritical);
+    logger.start();
+    EXPECT_EQ(log.getSeverityFilter(), core::kDebug);
+    EXPECT_EQ(optionVar("tvxPrefLogLevelForMine"), core::kInfo);
+}
+
 TEST_F(Logger, SetsAFilterForTheNextStartWhileItDoesNotRun)
 {
     registerLog(log, "Mine", core::kInfo);
@@ -245,6 +268,18 @@ TEST_F(Logger, SetsAllFiltersAndCountsThem)
     EXPECT_EQ(other.getSeverityFilter(), core::kCritical);
     EXPECT_EQ(optionVar("tvxPrefLogLevelForFirst"), core::kCritical);
     EXPECT_EQ(optionVar("tvxPrefLogLevelForSecond"), core::kCritical);
+}
+
+TEST_F(Logger, SetsAllFiltersForTheNextStartWhileItDoesNotRun)
+{
+    registerLog(log, "First", core::kInfo);
+    registerLog(other, "Second", core::kInfo);
+    EXPECT_EQ(logger.setSeverityFilterAll(core::kDebug, false), 2u);
+    EXPECT_EQ(log.getSeverityFilter(), core::kWarning);
+    EXPECT_EQ(optionVar("tvxPrefLogLevelForSecond"), core::kInfo);
+    logger.start();
+    EXPECT_EQ(log.getSeverityFilter(), core::kDebug);
+    EXPECT_EQ(other.getSeverityFilter(), core::kDebug);
 }
 
 TEST_F(Logger, SetsNoFilterWithoutLogs)
@@ -368,6 +403,66 @@ TEST_F(LoggerFileFailure, AFolderThatDoesNotExistIsReportedAndTurnsFileOutputOff
     EXPECT_EQ(folder.read("tvxCrowd.log"), "(no such file)") << "file output is off";
 }
 
+TEST_F(LoggerFileFailure, ANewFolderWritesThePreferenceAsFileOutputIsInUse)
+{
+    logger.setLogDirectory(folder.path("none"));
+    logger.setUseFile(true);
+    logger.setLogDirectory(folder.path());
+    EXPECT_EQ(optionVar("tvxPrefLogToFile"), 0) << "the failure turned it off";
+    logger.setUseFile(true);
+    MGlobal::setOptionVarValue("tvxPrefLogToFile", 0);
+    logger.setLogDirectory(folder.path());
+    EXPECT_EQ(optionVar("tvxPrefLogToFile"), 1);
+}
+
+TEST_F(LoggerFileFailure, AFileInPlaceOfTheFolderIsReportedAndKept)
+{
+    folder.write("taken", "a file");
+    logger.setLogDirectory(folder.path("taken"));
+    logger.setUseFile(true);
+    EXPECT_EQ(takeConsole(),
+              errorLine("Unable to create " + folder.path("taken/tvxCrowd.log") + " as log file"));
+    EXPECT_EQ(folder.read("taken"), "a file");
+}
+
+TEST_F(LoggerFileFailure, AnExistingFolderThatTakesNoFilesIsReported)
+{
+    logger.setLogDirectory("/proc");
+    logger.setUseFile(true);
+    EXPECT_EQ(takeConsole(), errorLine("Unable to create /proc/tvxCrowd.log as log file"));
+}
+
+TEST_F(LoggerFileFailure, NamesTheRootWhenTheFolderIsEmpty)
+{
+    logger.setLogDirectory("");
+    test::SystemCalls system;
+    system.opens = {test::Outcome{EACCES}};
+    logger.setUseFile(true);
+    EXPECT_EQ(takeConsole(), errorLine("Unable to create /tvxCrowd.log as log file"));
+}
+
+TEST_F(LoggerFileFailure, ACoreExceptionWhileItIsReportedIsLoggedInItsPlace)
+{
+    class Throwing : public core::ILogEventListener
+    {
+    public:
+        void onLogEvent(const core::LogEvent&) override
+        {
+            if (first)
+                throw core::Exception(std::exchange(first, nullptr));
+        }
+        const char* first = "no more room";
+    } throwing;
+    coreLog().addLogEventListener(&throwing);
+    logger.setLogDirectory(folder.path("none"));
+    EXPECT_NO_THROW(logger.setUseFile(true));
+    coreLog().removeLogEventListener(&throwing);
+    EXPECT_EQ(takeConsole(),
+              errorLine("Unable to create " + folder.path("none/tvxCrowd.log") + " as log file") +
+                  "[TarvoxCrowd::ERROR]\tCrowd Render: no more room\n");
+    EXPECT_EQ(place.function, "tarvox::crowd::MayaLogger::setUseFile");
+}
+
 TEST_F(LoggerFileFailure, APathThatIsAFolderIsReported)
 {
     std::filesystem::create_directory(folder.path("tvxCrowd.log"));
@@ -407,14 +502,20 @@ TEST_F(LoggerFileFailure, AnEmptyPathIsReported)
     EXPECT_EQ(folder.read("tvxCrowd.log"), "(no such file)") << "file output is off";
 }
 
-TEST_F(LoggerFileFailure, IsNotReportedBelowTheFilterButTurnsFileOutputOffAllTheSame)
+TEST_F(LoggerFileFailure, IsReportedWithAnyFilterThatAdmitsErrorsAndTurnsFileOutputOffWithEvery)
 {
-    coreLog().setSeverityFilter(core::kCritical);
-    logger.setLogDirectory(folder.path("none"));
-    logger.setUseFile(true);
-    EXPECT_EQ(takeConsole(), "");
-    logger.setLogDirectory(folder.path());
-    EXPECT_EQ(folder.read("tvxCrowd.log"), "(no such file)");
+    for (int filter = core::kCritical; filter <= core::kDebug; ++filter) {
+        coreLog().setSeverityFilter(filter);
+        logger.setLogDirectory(folder.path("none"));
+        logger.setUseFile(true);
+        EXPECT_EQ(takeConsole(),
+                  filter < core::kError
+                      ? ""
+                      : errorLine("Unable to create " + folder.path("none/tvxCrowd.log") + " as log file"))
+            << filter;
+        logger.setLogDirectory(folder.path());
+        EXPECT_EQ(folder.read("tvxCrowd.log"), "(no such file)") << filter;
+    }
 }
 
 // Indentation
@@ -454,6 +555,11 @@ TEST_F(Logger, HeedsIndentationUpToTheDefaultLevelOnly)
 
 TEST_F(Logger, SurvivesAbsurdIndentation)
 {
+    logger.indent(core::kCritical, INT_MAX);
+    logger.indent(core::kCritical, INT_MAX);
+    logger.unindent(core::kCritical, INT_MAX - 1);
+    logger.log(core::kInfo, "one");
+    EXPECT_EQ(takeConsole(), "[TarvoxCrowd::INFO]\t  one\n");
     logger.unindent(core::kCritical, INT_MIN);
     logger.unindent(core::kCritical, INT_MAX);
     logger.indent(core::kCritical, -1);

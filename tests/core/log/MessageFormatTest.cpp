@@ -98,6 +98,25 @@ TEST_F(MessageFormat, LeavesUnknownConversionsOutWithoutTakingAnArgument)
     EXPECT_THAT(unknown, ElementsAre("%q", "%lq"));
 }
 
+TEST_F(MessageFormat, KnowsNoOtherCharacterAsAConversion)
+{
+    const std::string conversions = "%cdiufspl";
+    const std::string longConversions = "dif";
+    for (int code = 1; code < 256; ++code) {
+        const char character = static_cast<char>(code);
+        unknown.clear();
+        if (conversions.find(character) == std::string::npos) {
+            EXPECT_EQ(format((std::string("a%") + character + "b%d").c_str(), 3), "ab3") << code;
+            EXPECT_THAT(unknown, ElementsAre(std::string("%") + character));
+        }
+        unknown.clear();
+        if (longConversions.find(character) == std::string::npos) {
+            EXPECT_EQ(format((std::string("a%l") + character + "b%d").c_str(), 3), "ab3") << code;
+            EXPECT_THAT(unknown, ElementsAre(std::string("%l") + character));
+        }
+    }
+}
+
 TEST_F(MessageFormat, KnowsNoFlagsWidthsOrPrecisions)
 {
     EXPECT_EQ(format("%5d"), "d");
