@@ -4,8 +4,7 @@
 #include "rendering/tvxDrawing.h"
 #include "rendering/tvxLocatorDrawing.h"
 #include "rendering/tvxNodeAttributes.h"
-
-#include <maya/MFnDependencyNode.h>
+#include "rendering/tvxShapeName.h"
 
 namespace tarvox::crowd {
 
@@ -31,7 +30,7 @@ MStatus CrowdProxyVRay::initialize()
 
 void CrowdProxyVRay::postConstructor()
 {
-    MFnDependencyNode(thisMObject(), nullptr).setName("crowdProxyVRayShape", false);
+    nameShape(thisMObject(), "crowdProxyVRayShape");
 }
 
 MStatus CrowdProxyVRay::compute(const MPlug& /*plug*/, MDataBlock& /*dataBlock*/)
@@ -42,7 +41,8 @@ MStatus CrowdProxyVRay::compute(const MPlug& /*plug*/, MDataBlock& /*dataBlock*/
 void CrowdProxyVRay::draw(M3dView& view, const MDagPath& /*path*/, M3dView::DisplayStyle /*style*/,
                           M3dView::DisplayStatus status)
 {
-    const ProxyDrawing drawing(view, status);
+    const LocatorDrawing drawing(view);
+    setProxyColor(status);
     drawWireBox(2, 2, 2);
 }
 

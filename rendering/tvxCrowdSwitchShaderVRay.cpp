@@ -2,11 +2,7 @@
 #include "rendering/tvxCrowdSwitchShaderVRay.h"
 
 #include "rendering/tvxNodeAttributes.h"
-
-#include <maya/MDataBlock.h>
-#include <maya/MDataHandle.h>
-#include <maya/MFloatVector.h>
-#include <maya/MPlug.h>
+#include "rendering/tvxShadingOutput.h"
 
 #include <string>
 
@@ -28,7 +24,7 @@ void* CrowdSwitchShaderVRay::creator()
 
 MStatus CrowdSwitchShaderVRay::initialize()
 {
-    const MColor orange(1.0f, 0.45f, 0.0f);
+    const MColor orange = outputColor();
     const NodeAttributes make("tarvox::crowd::CrowdSwitchShaderVRay::initialize");
     TVX_REQUIRE(make.color(output, "output", "op", orange, kOutput));
     TVX_REQUIRE(make.integer(selector, "selector", "sel", 0, kKeyableInput));
@@ -49,17 +45,7 @@ MStatus CrowdSwitchShaderVRay::initialize()
 
 MStatus CrowdSwitchShaderVRay::compute(const MPlug& plug, MDataBlock& dataBlock)
 {
-    if (plug != output && plug.parent() != output)
-        return MStatus::kUnknownParameter;
-    MDataHandle outputHandle = dataBlock.outputValue(output);
-    MDataHandle shaderHandle = dataBlock.inputValue(shaders[0]);
-    MFloatVector& result = outputHandle.asFloatVector();
-    const MFloatVector& shader = shaderHandle.asFloatVector();
-    result.x = shader.x;
-    result.y = shader.y;
-    result.z = shader.z;
-    outputHandle.setClean();
-    return MStatus::kSuccess;
+    return passColorThrough(plug, dataBlock, shaders[0], output);
 }
 
 } // namespace tarvox::crowd

@@ -11,15 +11,18 @@ MColor activeProxyColor();
 /// The colour of a proxy in any other state: brown.
 MColor dormantProxyColor();
 
+/// Makes that of a proxy with the display status the current colour.
+void setProxyColor(M3dView::DisplayStatus status);
+
 /// Brackets a locator's drawing: the view's GL context, one level of the matrix stack and all attributes,
-/// given back when it ends. The current colour is that of a proxy with the display status.
-class ProxyDrawing
+/// given back when it ends.
+class LocatorDrawing
 {
 public:
-    ProxyDrawing(M3dView& view, M3dView::DisplayStatus status);
-    ~ProxyDrawing();
-    ProxyDrawing(const ProxyDrawing&) = delete;
-    ProxyDrawing& operator=(const ProxyDrawing&) = delete;
+    explicit LocatorDrawing(M3dView& view);
+    ~LocatorDrawing();
+    LocatorDrawing(const LocatorDrawing&) = delete;
+    LocatorDrawing& operator=(const LocatorDrawing&) = delete;
 
 private:
     M3dView& m_view;

@@ -11,6 +11,7 @@
 #include <maya/MPxNode.h>
 #include <maya/MStatus.h>
 
+#include <initializer_list>
 #include <optional>
 #include <string>
 
@@ -47,6 +48,20 @@ inline constexpr AttributeFlags kKeyableInput{true, true, true, false, false, tr
 /// A setting that is not offered for animation.
 inline constexpr AttributeFlags kInput{false, true, true, false, false, true, true};
 
+/// Hard limits of a number, both included.
+struct Range
+{
+    double minimum;
+    double maximum;
+};
+
+/// One of the values that a choice can take.
+struct ChoiceField
+{
+    const char* name;
+    short value;
+};
+
 /// What became of one step of an initializer.
 struct AttributeStep
 {
@@ -72,11 +87,21 @@ public:
     /// A 32-bit integer.
     AttributeStep integer(MObject& attribute, const char* longName, const char* shortName, int defaultValue,
                           const AttributeFlags& flags) const;
+    /// A number in double precision.
+    AttributeStep number(MObject& attribute, const char* longName, const char* shortName, double defaultValue,
+                         const AttributeFlags& flags, const std::optional<Range>& range = {}) const;
+    /// One of several named values; the default is 0.
+    AttributeStep choice(MObject& attribute, const char* longName, const char* shortName,
+                         std::initializer_list<ChoiceField> fields, const AttributeFlags& flags) const;
     /// A string that is empty until it is set.
     AttributeStep string(MObject& attribute, const char* longName, const char* shortName,
                          const AttributeFlags& flags) const;
 
 private:
+    template <class Function, class Create, class Prepare>
+    AttributeStep createAndAdd(MObject& attribute, const char* problem, const AttributeFlags& flags,
+                               Create create, Prepare prepare) const;
+
     const char* m_function;
 };
 

@@ -27,7 +27,9 @@ TEST(UserInterface, IsAMenuWithAnItemPerNodeType)
 {
     EXPECT_EQ(answerTo({"--interactive", "--plugin", pluginFile(), "-e",
                         shown("stringArrayToString(`menu -q -itemArray tvxCrowdRenderMenu`, \" \")")}),
-              "tvxCreateCrowdProxyVRay tvxCreateCrowdSwitchShaderVRay");
+              "tvxCreateCrowdRenderManagerNode tvxCreateCrowdProxyVRay tvxCreateCrowdProxyRendermanStudio "
+              "tvxCreateCrowdSwitchShaderVRay tvxCreateCrowdHSLShaderVRay tvxCreateCrowdGetUserDataVRay "
+              "tvxCreateCrowdSwitchShader3Delight tvxCreateCrowdGetUserData3Delight");
     EXPECT_EQ(answerTo({"--interactive", "--plugin", pluginFile(), "-e",
                         shown("`menu -q -label tvxCrowdRenderMenu`")}),
               "Crowd Render");
@@ -46,7 +48,7 @@ TEST(UserInterface, IsMadeOnceAndRemovedWhole)
     EXPECT_EQ(
         answerTo({"--interactive", "--plugin", pluginFile(), "-e",
                   "tvxCrowdRenderCreateUI(); " + shown("size(`menu -q -itemArray tvxCrowdRenderMenu`)")}),
-        "2");
+        "8");
     EXPECT_EQ(answerTo({"--interactive", "--plugin", pluginFile(), "-e", "unloadPlugin tvxCrowdRender", "-e",
                         shown("`menu -exists tvxCrowdRenderMenu`")}),
               "0");

@@ -1,7 +1,7 @@
 // Loading and unloading the plug-in: what is registered, what is said, and every failure on the way.
 #include "PluginSession.h"
 
-#include "CoreLogFault.h"
+#include "CoreLogTrap.h"
 #include "TestFolder.h"
 #include "api/support/faults.h"
 
@@ -28,6 +28,12 @@ using testing::IsEmpty;
 
 constexpr char kEntryFile[] = "global/tvxCrowdRenderPlugin.cpp";
 
+// The node types in the order in which they are registered.
+constexpr const char* kTypes[] = {"CrowdRenderManagerNode",    "CrowdProxyVRay",
+                                  "CrowdProxyRendermanStudio", "CrowdSwitchShaderVRay",
+                                  "CrowdHSLShaderVRay",        "CrowdGetUserDataVRay",
+                                  "CrowdSwitchShader3Delight", "CrowdGetUserData3Delight"};
+
 // The statement of each report of the entry points.
 constexpr char kNoPlugin[] = "\"registering Plugin\"";
 constexpr char kNoNode[] = "\"registering \" << row.name";
@@ -43,6 +49,15 @@ std::string entryReport(const std::string& severity, const char* statement, cons
 std::string loadedReport()
 {
     return entryReport("INFO", kLoaded, "initializePlugin: tvxCrowdRender plugin loaded.");
+}
+
+// The plug-in's node types that a session knows, in the order in which they were registered.
+Lines registeredTypes(PluginSession& session)
+{
+    Lines names;
+    for (const tvxhost::engine::NodeType* type : session.scene.types().ofPlugin("tvxCrowdRender"))
+        names.push_back(type->name);
+    return names;
 }
 
 const MStatus kRefused(MStatus::kFailure);
@@ -103,8 +118,13 @@ TEST_F(Plugin, RegistersItsNodeTypesInOrder)
         types.push_back(type->name + " " + std::to_string(type->id) + (type->isShape ? " locator" : " node") +
                         " '" + type->classification + "'");
     EXPECT_THAT(types,
-                ElementsAre("CrowdProxyVRay 1140958 locator ''",
-                            "CrowdSwitchShaderVRay 1140961 node 'utility/general:swatch/VRayMtlSwatchGen'"));
+                ElementsAre("CrowdRenderManagerNode 1140965 locator ''", "CrowdProxyVRay 1140958 locator ''",
+                            "CrowdProxyRendermanStudio 1140960 locator ''",
+                            "CrowdSwitchShaderVRay 1140961 node 'utility/general:swatch/VRayMtlSwatchGen'",
+                            "CrowdHSLShaderVRay 1140962 node 'utility/general:swatch/VRayMtlSwatchGen'",
+                            "CrowdGetUserDataVRay 1140963 node 'utility/general'",
+                            "CrowdSwitchShader3Delight 1140969 node 'utility/general'",
+                            "CrowdGetUserData3Delight 1140968 node 'utility/general'"));
 }
 
 TEST_F(Plugin, CreatesThePreferenceOfItsLog)
@@ -120,7 +140,7 @@ TEST_F(Plugin, TakesItsNodeTypesBackInTheSameOrderAndSaysNothing)
     session.takeReports();
     faults::record(true);
     ASSERT_TRUE(session.unload());
-    EXPECT_EQ(faults::countOf("MFnPlugin::deregisterNode"), 2u);
+    EXPECT_EQ(faults::countOf("MFnPlugin::deregisterNode"), std::size(kTypes));
     EXPECT_THAT(session.takeReports(), IsEmpty()) << "the logger is stopped before the last report";
     EXPECT_THAT(session.scene.types().ofPlugin("tvxCrowdRender"), IsEmpty());
 }
@@ -170,8 +190,8 @@ TEST_F(Plugin, SaysNothingBelowInfoButRegistersAllTheSame)
         session.scene.optionVars().set("tvxPrefLogLevelForCrowd_Render", level);
         ASSERT_TRUE(session.load());
         EXPECT_THAT(session.takeReports(), IsEmpty()) << level;
-        EXPECT_TRUE(isRegistered("CrowdProxyVRay"));
-        EXPECT_TRUE(isRegistered("CrowdSwitchShaderVRay"));
+        for (const char* type : kTypes)
+            EXPECT_TRUE(isRegistered(type)) << type;
         ASSERT_TRUE(session.unload());
     }
     for (const int level : {3, 4}) {
@@ -192,13 +212,12 @@ TEST_F(Plugin, ReportsThatMayaDoesNotAcceptIt)
         session.takeReports(),
         ElementsAre(entryReport("ERROR", kNoPlugin,
                                 "initializePlugin: Problem while registering Plugin - " + refusedText())));
-    EXPECT_FALSE(isRegistered("CrowdProxyVRay"));
+    EXPECT_THAT(session.scene.types().ofPlugin("tvxCrowdRender"), IsEmpty());
 }
 
 TEST_F(Plugin, ReportsTheFirstNodeTypeThatIsRefusedAndTriesNoOther)
 {
-    const char* const types[] = {"CrowdProxyVRay", "CrowdSwitchShaderVRay"};
-    for (std::size_t refused = 0; refused < 2; ++refused) {
+    for (std::size_t refused = 0; refused < std::size(kTypes); ++refused) {
         PluginSession own;
         faults::record(true);
         faults::failCall("MFnPlugin::registerNode", refused + 1, kRefused);
@@ -206,11 +225,10 @@ TEST_F(Plugin, ReportsTheFirstNodeTypeThatIsRefusedAndTriesNoOther)
         EXPECT_THAT(own.takeReports(),
                     ElementsAre(entryReport("ERROR", kNoNode,
                                             std::string("initializePlugin: Problem while registering ") +
-                                                types[refused] + " node - " + refusedText())));
+                                                kTypes[refused] + " node - " + refusedText())));
         EXPECT_EQ(faults::countOf("MFnPlugin::registerNode"), refused + 1);
         EXPECT_EQ(faults::countOf("MFnPlugin::registerUI"), 0u);
-        for (std::size_t i = 0; i < 2; ++i)
-            EXPECT_EQ(own.scene.types().find(std::string(types[i])) != nullptr, i < refused) << types[i];
+        EXPECT_EQ(registeredTypes(own), Lines(kTypes, kTypes + refused));
     }
 }
 
@@ -222,38 +240,29 @@ TEST_F(Plugin, ReportsThatItsInterfaceIsRefusedAndKeepsItsNodeTypes)
                 ElementsAre(entryReport("ERROR", kNoInterface,
                                         "initializePlugin: Problem while registering Crowd Render UI - " +
                                             refusedText())));
-    EXPECT_TRUE(isRegistered("CrowdProxyVRay"));
-    EXPECT_TRUE(isRegistered("CrowdSwitchShaderVRay"));
+    for (const char* type : kTypes)
+        EXPECT_TRUE(isRegistered(type)) << type;
 }
 
-TEST_F(Plugin, ReportsTheTypeWhoseIdAnotherPluginOwns)
+TEST_F(Plugin, ReportsTheTypeWhoseIdAnotherPluginOwnsAndTriesNoOther)
 {
-    ASSERT_TRUE(session.load(TVX_OWNER_OF_SECOND_ID));
-    faults::record(true);
-    EXPECT_FALSE(session.load());
-    EXPECT_THAT(
-        session.takeReports(),
-        ElementsAre(entryReport("ERROR", kNoNode,
-                                "initializePlugin: Problem while registering CrowdSwitchShaderVRay node - " +
-                                    refusedText())));
-    EXPECT_TRUE(isRegistered("CrowdProxyVRay"));
-    EXPECT_FALSE(isRegistered("CrowdSwitchShaderVRay"));
-    EXPECT_TRUE(isRegistered("OwnerOfTheId"));
-    EXPECT_EQ(faults::countOf("MFnPlugin::registerNode"), 2u);
-    EXPECT_EQ(faults::countOf("MFnPlugin::registerUI"), 0u);
-}
-
-TEST_F(Plugin, TriesNoRowAfterTheOneWhoseIdAnotherPluginOwns)
-{
-    ASSERT_TRUE(session.load(TVX_OWNER_OF_FIRST_ID));
-    faults::record(true);
-    EXPECT_FALSE(session.load());
-    EXPECT_THAT(session.takeReports(),
-                ElementsAre(entryReport("ERROR", kNoNode,
-                                        "initializePlugin: Problem while registering CrowdProxyVRay node - " +
-                                            refusedText())));
-    EXPECT_EQ(faults::countOf("MFnPlugin::registerNode"), 1u);
-    EXPECT_FALSE(isRegistered("CrowdSwitchShaderVRay"));
+    const char* const owners[] = {TVX_OWNERS_OF_IDS};
+    ASSERT_EQ(std::size(owners), std::size(kTypes));
+    for (std::size_t owned = 0; owned < std::size(kTypes); ++owned) {
+        PluginSession own;
+        ASSERT_TRUE(own.load(owners[owned]));
+        faults::record(true);
+        EXPECT_FALSE(own.load());
+        EXPECT_THAT(own.takeReports(),
+                    ElementsAre(entryReport("ERROR", kNoNode,
+                                            std::string("initializePlugin: Problem while registering ") +
+                                                kTypes[owned] + " node - " + refusedText())));
+        EXPECT_EQ(registeredTypes(own), Lines(kTypes, kTypes + owned));
+        EXPECT_NE(own.scene.types().find(std::string("OwnerOfTheId")), nullptr);
+        EXPECT_EQ(faults::countOf("MFnPlugin::registerNode"), owned + 1);
+        EXPECT_EQ(faults::countOf("MFnPlugin::registerUI"), 0u);
+        faults::clear();
+    }
 }
 
 TEST_F(Plugin, FailsSilentlyWhenOnlyCriticalMessagesPass)
@@ -262,7 +271,7 @@ TEST_F(Plugin, FailsSilentlyWhenOnlyCriticalMessagesPass)
     faults::failCall("MFnPlugin::registerNode", 2, kRefused);
     EXPECT_FALSE(session.load());
     EXPECT_THAT(session.takeReports(), IsEmpty());
-    EXPECT_FALSE(isRegistered("CrowdSwitchShaderVRay"));
+    EXPECT_THAT(registeredTypes(session), ElementsAre("CrowdRenderManagerNode"));
 }
 
 TEST_F(Plugin, LogsACoreExceptionInPlaceOfAReport)
@@ -290,10 +299,9 @@ TEST_F(Plugin, LoadsThoughItsLogIsBroken)
 
 // Failures of unloading
 
-TEST_F(Plugin, ReportsTheFirstNodeTypeThatCannotBeTakenBackAndGoesOnLogging)
+TEST_F(Plugin, ReportsTheFirstNodeTypeThatCannotBeTakenBackAndTriesNoOther)
 {
-    const char* const types[] = {"CrowdProxyVRay", "CrowdSwitchShaderVRay"};
-    for (std::size_t refused = 0; refused < 2; ++refused) {
+    for (std::size_t refused = 0; refused < std::size(kTypes); ++refused) {
         PluginSession own;
         ASSERT_TRUE(own.load());
         own.takeReports();
@@ -303,8 +311,9 @@ TEST_F(Plugin, ReportsTheFirstNodeTypeThatCannotBeTakenBackAndGoesOnLogging)
         EXPECT_THAT(own.takeReports(),
                     ElementsAre(entryReport("ERROR", kNoLongerNode,
                                             std::string("uninitializePlugin: Problem while unregistering ") +
-                                                types[refused] + " node - " + refusedText())));
+                                                kTypes[refused] + " node - " + refusedText())));
         EXPECT_EQ(faults::countOf("MFnPlugin::deregisterNode"), refused + 1);
+        EXPECT_EQ(registeredTypes(own), Lines(kTypes + refused, std::end(kTypes)));
     }
 }
 

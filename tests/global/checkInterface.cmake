@@ -41,8 +41,11 @@ function(expect_output mode expected)
   endif()
 endfunction()
 
-expect_output("--interactive" "// ${loaded}loaded: \\[Crowd Render: tvxCreateCrowdProxyVRay tvxCreateCrowdSwitchShaderVRay\\]
-made again: \\[Crowd Render: tvxCreateCrowdProxyVRay tvxCreateCrowdSwitchShaderVRay\\]
+set(items "tvxCreateCrowdRenderManagerNode tvxCreateCrowdProxyVRay tvxCreateCrowdProxyRendermanStudio")
+string(APPEND items " tvxCreateCrowdSwitchShaderVRay tvxCreateCrowdHSLShaderVRay tvxCreateCrowdGetUserDataVRay")
+string(APPEND items " tvxCreateCrowdSwitchShader3Delight tvxCreateCrowdGetUserData3Delight")
+expect_output("--interactive" "// ${loaded}loaded: \\[Crowd Render: ${items}\\]
+made again: \\[Crowd Render: ${items}\\]
 createNode CrowdProxyVRay
 removed: \\[\\]
 removed again: \\[\\]

@@ -1,4 +1,4 @@
-// The attributes that a node type declares, as text.
+// What a node type declares, as text.
 #pragma once
 
 #include "engine/nodeType.h"
@@ -8,12 +8,12 @@
 
 namespace tarvox::crowd::test {
 
-/// One line for each attribute that the type adds to what it inherits, in order: long name, short name, type,
-/// default, flags. A flag that is off is "-": keyable K, readable R, writable W, hidden H, array A, index
-/// matters I, storable S.
-std::vector<std::string> attributesOf(const tvxhost::engine::NodeType& type);
-
-/// "input output" for each declaration, in order.
-std::vector<std::string> affectsOf(const tvxhost::engine::NodeType& type);
+/// The whole of what the type adds to what it inherits: its id, kind and classification; then one line for
+/// each attribute in order; then one line "input -> output" for each dependency in order.
+///
+/// An attribute: long name, short name, type, default, fields of an enumeration, limits, flags. A flag that
+/// is off is "-": keyable K, readable R, writable W, hidden H, array A, index matters I, storable S. Other
+/// flags are named where they differ from those of a new attribute.
+std::vector<std::string> contractOf(const tvxhost::engine::NodeType& type);
 
 } // namespace tarvox::crowd::test

@@ -1,18 +1,25 @@
 // Defines Log::trace in the test program, which the loader prefers to the core library's for every library.
-#include "CoreLogFault.h"
+#include "CoreLogTrap.h"
 
 #include <tvxCore/Exception.h>
 #include <tvxCore/Log.h>
 
 #include <dlfcn.h>
+#include <utility>
 
 namespace tarvox {
 
 namespace {
 
 int broken = 0;
+std::vector<crowd::test::Trace> traces;
 
 } // namespace
+
+std::vector<crowd::test::Trace> crowd::test::takeTraces()
+{
+    return std::exchange(traces, {});
+}
 
 void crowd::test::breakCoreLog(int count)
 {
@@ -23,6 +30,7 @@ namespace core {
 
 void Log::trace(int severity, const char* file, int line, const char* function, const char* message)
 {
+    traces.push_back({severity, file, line, function, message});
     if (severity <= getSeverityFilter() && broken > 0) {
         --broken;
         throw Exception("the log is broken");

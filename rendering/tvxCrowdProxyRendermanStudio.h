@@ -1,0 +1,33 @@
+// The RenderMan Studio proxy node.
+#pragma once
+
+#include <maya/MPxLocatorNode.h>
+#include <maya/MTypeId.h>
+
+namespace tarvox::crowd {
+
+/// Stands in the scene for a crowd that is rendered with RenderMan Studio. Its attributes are data for the
+/// renderer's translation; in the viewport it is an emblem on the ground.
+class CrowdProxyRendermanStudio : public MPxLocatorNode
+{
+public:
+    static const MTypeId id;
+
+    static MObject sceneName;
+    static MObject frame;
+    static MObject frameRate;
+    static MObject ribFileDir;
+
+    /// @return a new instance, which Maya owns
+    static void* creator();
+    /// Declares the attributes.
+    /// @return MS::kFailure at the first failure, which is reported
+    static MStatus initialize();
+
+    /// Gives the shape its name.
+    void postConstructor() override;
+    void draw(M3dView& view, const MDagPath& path, M3dView::DisplayStyle style,
+              M3dView::DisplayStatus status) override;
+};
+
+} // namespace tarvox::crowd
