@@ -1,7 +1,8 @@
 // Circles: an outline and a filled disc, from points of the unit circle that are computed once.
 #include "rendering/tvxDrawing.h"
 
-#include "rendering/tvxGL.h"
+#include "rendering/tvxDrawingNumbers.h"
+#include "rendering/tvxGLScopes.h"
 
 #include <array>
 #include <cmath>
@@ -23,12 +24,10 @@ struct Direction
 /// 1 MiB when every one of them has been drawn.
 constexpr unsigned int kMostSegmentsKept = 512;
 
-constexpr float kPi = 3.1415927f;
-
 Direction directionOf(unsigned int k, unsigned int segments)
 {
     // The order of these operations decides the last bit of the angle.
-    const float angle = static_cast<float>(k) * 360.0f / static_cast<float>(segments) * kPi / 180.0f;
+    const float angle = static_cast<float>(k) * 360.0f / static_cast<float>(segments) * pi() / 180.0f;
     return {std::cos(angle), std::sin(angle)};
 }
 
@@ -60,10 +59,9 @@ void emitVertex(float radius, const Direction& direction)
 void emitCircle(GLenum mode, float radius, unsigned int segments)
 {
     const Direction* kept = keptDirections(segments);
-    glBegin(mode);
+    const PrimitiveScope primitive(mode);
     for (unsigned int k = 0; k < segments; ++k)
         emitVertex(radius, kept ? kept[k] : directionOf(k, segments));
-    glEnd();
 }
 
 } // namespace

@@ -9,6 +9,12 @@ constexpr float twoPi()
     return 6.2831855f;
 }
 
+/// Half a turn in radians.
+constexpr float pi()
+{
+    return 3.1415927f;
+}
+
 /// A quarter turn in radians.
 constexpr float halfPi()
 {

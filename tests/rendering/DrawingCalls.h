@@ -30,4 +30,10 @@ std::vector<Point> circlePoints(float radius, unsigned int segments);
 /// An outline (GL_LINE_LOOP) or disc (GL_POLYGON) of those points.
 Calls circle(const std::string& mode, float radius, unsigned int segments);
 
+/// The side of a cylinder of so many pairs of vertices, `step` apart.
+Calls cylinderSide(float radius, float height, int pairs, float step);
+
+/// The lowest so many bands of a sphere, each of so many pairs of vertices.
+Calls sphereBands(float radius, int stacks, int slices, int bands, int pairs);
+
 } // namespace tarvox::crowd::test

@@ -31,26 +31,7 @@ std::string vertex(const char* coordinates)
     return std::string("glVertex3f(") + coordinates + ")";
 }
 
-// A box of sizes x = 2, z = 4, y = 6, edge by edge.
-const Calls kBox246 = {"glBegin(GL_LINES)",
-                       // the rectangle at z = +2
-                       vertex("1, 3, 2"), vertex("-1, 3, 2"),   //
-                       vertex("-1, 3, 2"), vertex("-1, -3, 2"), //
-                       vertex("-1, -3, 2"), vertex("1, -3, 2"), //
-                       vertex("1, -3, 2"), vertex("1, 3, 2"),
-                       // the rectangle at z = -2
-                       vertex("1, 3, -2"), vertex("-1, 3, -2"),   //
-                       vertex("-1, 3, -2"), vertex("-1, -3, -2"), //
-                       vertex("-1, -3, -2"), vertex("1, -3, -2"), //
-                       vertex("1, -3, -2"), vertex("1, 3, -2"),
-                       // from one to the other
-                       vertex("1, 3, 2"), vertex("1, 3, -2"),     //
-                       vertex("-1, 3, 2"), vertex("-1, 3, -2"),   //
-                       vertex("-1, -3, 2"), vertex("-1, -3, -2"), //
-                       vertex("1, -3, 2"), vertex("1, -3, -2"),   //
-                       "glEnd()"};
-
-// The same with every coordinate 1.
+// A box of side 2, edge by edge.
 const Calls kUnitBox = {"glBegin(GL_LINES)",
                         vertex("1, 1, 1"),
                         vertex("-1, 1, 1"), //
@@ -77,27 +58,6 @@ const Calls kUnitBox = {"glBegin(GL_LINES)",
                         vertex("1, -1, 1"),
                         vertex("1, -1, -1"), //
                         "glEnd()"};
-
-TEST(WireBox, SpansItsSizesInTheOrderXZY)
-{
-    GlRecorder gl;
-    drawWireBox(2, 4, 6);
-    EXPECT_EQ(gl.calls(), kBox246);
-}
-
-TEST(WireBox, IsComputedInSinglePrecision)
-{
-    GlRecorder gl;
-    drawWireBox(0.2f, 0.3f, 0.7f);
-    EXPECT_EQ(gl.calls()[1], "glVertex3f(0.100000001, 0.349999994, 0.150000006)");
-}
-
-TEST(WireBox, OfNoSizeIsStillDrawn)
-{
-    GlRecorder gl;
-    drawWireBox(0, 0, 0);
-    EXPECT_EQ(gl.calls().size(), 26u);
-}
 
 TEST(ProxyColors, AreOrangeAndBrown)
 {

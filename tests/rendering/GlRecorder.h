@@ -1,6 +1,7 @@
 // Stands in for OpenGL and writes down what is called.
 #pragma once
 
+#include <cmath>
 #include <limits>
 #include <sstream>
 #include <string>
@@ -9,13 +10,16 @@
 
 namespace tarvox::crowd::test {
 
-/// An argument as a recorder writes it: numbers with all the digits that tell them apart.
+/// An argument as a recorder writes it: numbers with all the digits that tell them apart, every NaN as "nan".
 template <class Argument>
 std::string glArgument(const Argument& argument)
 {
     std::ostringstream text;
-    if constexpr (std::is_floating_point_v<Argument>)
+    if constexpr (std::is_floating_point_v<Argument>) {
+        if (std::isnan(argument))
+            return "nan";
         text.precision(std::numeric_limits<Argument>::max_digits10);
+    }
     text << argument;
     return text.str();
 }
