@@ -1,4 +1,4 @@
-// Failures of the API, told to happen: what the plug-in reports of each while it is loaded.
+// Failures of the API, told to happen: all that the program prints of each.
 #include "program.h"
 
 #include <gmock/gmock.h>
@@ -7,78 +7,134 @@
 namespace {
 
 using namespace tvxhost::test;
-using testing::Contains;
-using testing::HasSubstr;
-using testing::MatchesRegex;
+using testing::ElementsAre;
+
+const char* const kEntryFile = "global/tvxCrowdRenderPlugin.cpp";
+const char* const kLoadFailed = "Error: initializePlugin function failed (tvxCrowdRender)\n";
+
+// The node types in the order in which they are registered.
+const char* const kNodeTypes[] = {"CrowdRenderManagerNode",    "CrowdProxyVRay",
+                                  "CrowdProxyRendermanStudio", "CrowdSwitchShaderVRay",
+                                  "CrowdHSLShaderVRay",        "CrowdGetUserDataVRay",
+                                  "CrowdSwitchShader3Delight", "CrowdGetUserData3Delight"};
+
+std::string placeOf(const std::string& file, const std::string& statement)
+{
+    return "At line " + std::to_string(lineOfStatement(file, statement)) + " in file " + file + ": ";
+}
+
+std::string error(const std::string& file, const std::string& statement, const std::string& text)
+{
+    return "Error: [TarvoxCrowd::ERROR]\tCrowd Render: " + placeOf(file, statement) + text + "\n";
+}
+
+// What the entry point says of a step that Maya refuses.
+std::string refused(const std::string& statement, const std::string& step,
+                    const std::string& reason = "(kFailure): Unexpected Internal Failure")
+{
+    return error(kEntryFile, statement, "initializePlugin: Problem while " + step + " - " + reason);
+}
+
+std::string nodeRefused(const std::string& type)
+{
+    return refused("\"registering \" << row.name", "registering " + type + " node");
+}
+
+std::string loaded()
+{
+    return "[TarvoxCrowd::INFO]\tCrowd Render: " + placeOf(kEntryFile, "\" plugin loaded.\"") +
+           "initializePlugin: tvxCrowdRender plugin loaded.\n"
+           "tvxCrowdRender: loaded without user interface\n";
+}
 
 ProgramResult loadWithFault(const std::string& fault)
 {
     return runHost({"--fail", fault, "--plugin", pluginFile()});
 }
 
-std::string errorOf(const std::string& text)
+void expectFailedLoad(const std::string& fault, const std::string& errors)
 {
-    return "Error: \\[TarvoxCrowd::ERROR\\]\tCrowd Render: At line [0-9]+ in file "
-           "global/tvxCrowdRenderPlugin.cpp: " +
-           text;
+    const ProgramResult result = loadWithFault(fault);
+    EXPECT_EQ(result.exitCode, 1) << fault;
+    EXPECT_EQ(result.output, "") << fault;
+    EXPECT_EQ(result.errors, errors + kLoadFailed) << fault;
 }
 
-TEST(FailingCalls, OfTheFirstRegistrationEndTheLoad)
+TEST(FailingCalls, OfThePluginItselfEndTheLoad)
 {
-    const ProgramResult result = loadWithFault("MFnPlugin::registerNode:1:kFailure");
-    EXPECT_EQ(result.exitCode, 1);
-    const std::vector<std::string> errors = linesOf(result.errors);
-    ASSERT_GE(errors.size(), 2u) << result.errors;
-    EXPECT_THAT(errors[0],
-                MatchesRegex(errorOf("initializePlugin: Problem while registering CrowdProxyVRay node - "
-                                     ".*kFailure.*")));
-    EXPECT_EQ(errors[1], "Error: initializePlugin function failed (tvxCrowdRender)");
-    EXPECT_EQ(errors.size(), 2u);
+    expectFailedLoad("MFnPlugin::MFnPlugin", refused("\"registering Plugin\"", "registering Plugin"));
+}
+
+TEST(FailingCalls, OfEachRegistrationEndTheLoadAndNameTheNodeType)
+{
+    for (std::size_t i = 0; i < std::size(kNodeTypes); ++i)
+        expectFailedLoad("MFnPlugin::registerNode:" + std::to_string(i + 1), nodeRefused(kNodeTypes[i]));
+}
+
+TEST(FailingCalls, OfTheUserInterfaceEndTheLoad)
+{
+    expectFailedLoad("MFnPlugin::registerUI",
+                     refused("\"registering Crowd Render UI\"", "registering Crowd Render UI"));
+}
+
+TEST(FailingCalls, GiveTheirReason)
+{
+    expectFailedLoad("MFnPlugin::registerUI:1:kInvalidParameter",
+                     refused("\"registering Crowd Render UI\"", "registering Crowd Render UI",
+                             "(kInvalidParameter): Invalid parameter"));
 }
 
 TEST(FailingCalls, OfARegistrationLeaveTheRowsBeforeItAndEndThere)
 {
     const ProgramResult result =
-        runHost({"--fail", "MFnPlugin::registerNode:2", "--list-calls", "--plugin", pluginFile(), "-e",
-                 "createNode CrowdProxyVRay", "-e", "createNode CrowdSwitchShaderVRay"});
+        runHost({"--fail", "MFnPlugin::registerNode:3", "--list-calls", "--plugin", pluginFile(), "-e",
+                 "createNode CrowdProxyVRay", "-e", "createNode CrowdProxyRendermanStudio"});
     EXPECT_EQ(result.exitCode, 1);
-    const std::vector<std::string> errors = linesOf(result.errors);
-    ASSERT_EQ(errors.size(), 3u) << result.errors;
-    EXPECT_THAT(errors[0],
-                MatchesRegex(errorOf("initializePlugin: Problem while registering CrowdSwitchShaderVRay "
-                                     "node - \\(kFailure\\): Unexpected Internal Failure")));
-    EXPECT_EQ(errors[1], "Error: initializePlugin function failed (tvxCrowdRender)");
-    EXPECT_THAT(errors[2], HasSubstr("CrowdSwitchShaderVRay"));
-    EXPECT_THAT(linesOf(result.output), Contains("crowdProxyVRayShape"));
-    EXPECT_EQ(linesWith(result.output, "MFnPlugin::registerNode").size(), 2u);
+    EXPECT_EQ(result.errors, nodeRefused("CrowdProxyRendermanStudio") + kLoadFailed +
+                                 "Error: line 1: Unknown object type: CrowdProxyRendermanStudio\n");
+    EXPECT_EQ(linesOf(result.output).front(), "crowdProxyVRayShape");
+    EXPECT_EQ(linesWith(result.output, "MFnPlugin::registerNode").size(), 3u);
     EXPECT_EQ(linesWith(result.output, "MFnPlugin::registerUI").size(), 0u);
 }
 
-TEST(FailingCalls, OfTheUserInterfaceEndTheLoad)
+TEST(FailingCalls, OfAttributesAreReportedWithTheirPlaceAndThenThatOfTheirNode)
 {
-    const ProgramResult result = loadWithFault("MFnPlugin::registerUI");
-    EXPECT_EQ(result.exitCode, 1);
-    ASSERT_FALSE(result.errors.empty());
-    EXPECT_THAT(linesOf(result.errors)[0],
-                MatchesRegex(errorOf("initializePlugin: Problem while registering Crowd Render UI - .*")));
+    expectFailedLoad("MPxNode::addAttribute:2",
+                     error("rendering/tvxCrowdProxyVRay.cpp", "\"vrsceneFileDir\"", "Add attribute error") +
+                         nodeRefused("CrowdProxyVRay"));
 }
 
-TEST(FailingCalls, OfAttributesAreReportedUnderTheNodesName)
+TEST(FailingCalls, OfDependenciesAreNotedOnStandardErrorAndTheLoadGoesOn)
 {
-    const ProgramResult result = loadWithFault("MPxNode::addAttribute:2");
+    const std::string file = "rendering/tvxCrowdSwitchShaderVRay.cpp";
+    const ProgramResult result = loadWithFault("MPxNode::attributeAffects:1");
+    EXPECT_EQ(result.exitCode, 0);
+    EXPECT_EQ(result.output, loaded());
+    EXPECT_EQ(result.errors, "\nAPI error detected in " + file + " at line " +
+                                 std::to_string(lineOfStatement(file, "TVX_CHECK_AFFECTS(*input")) +
+                                 "\n(kFailure): Unexpected Internal Failure\n");
+}
+
+TEST(FailingCalls, WhileUnloadingLeaveThePluginLoaded)
+{
+    const ProgramResult result =
+        runHost({"--fail", "MFnPlugin::deregisterNode:2", "--plugin", pluginFile(), "-e",
+                 "unloadPlugin tvxCrowdRender", "-e", "pluginInfo -q -loaded tvxCrowdRender"});
     EXPECT_EQ(result.exitCode, 1);
-    EXPECT_THAT(linesOf(result.errors)[0],
-                MatchesRegex("Error: \\[TarvoxCrowd::ERROR\\]\tCrowd Render: At line [0-9]+ in file "
-                             "rendering/tvxCrowdProxyVRay.cpp: Add attribute error"));
+    EXPECT_EQ(result.output, loaded() + "1\n");
+    EXPECT_EQ(result.errors,
+              error(kEntryFile, "\"unregistering \" << row.name",
+                    "uninitializePlugin: Problem while unregistering CrowdProxyVRay node - (kFailure): "
+                    "Unexpected Internal Failure") +
+                  "Error: line 1: uninitializePlugin function failed (tvxCrowdRender)\n");
 }
 
 TEST(FailingCalls, AreListedWithAllOthers)
 {
     const ProgramResult result = runHost({"--list-calls", "--plugin", pluginFile()});
     EXPECT_EQ(result.exitCode, 0) << result.errors;
-    const std::vector<std::string> calls = linesOf(result.output);
-    EXPECT_THAT(calls, Contains("MFnPlugin::registerUI"));
-    EXPECT_EQ(linesWith(result.output, "MFnPlugin::registerNode").size(), 2u);
+    EXPECT_THAT(linesWith(result.output, "MFnPlugin::registerUI"), ElementsAre("MFnPlugin::registerUI"));
+    EXPECT_EQ(linesWith(result.output, "MFnPlugin::registerNode").size(), std::size(kNodeTypes));
 }
 
 } // namespace

@@ -9,25 +9,13 @@ namespace {
 
 using namespace tvxhost::test;
 using testing::ElementsAre;
-using testing::IsEmpty;
-
-/// The line of the report that a load ends with, found in the source itself.
-int lineOfReport(const std::string& piece)
-{
-    const std::vector<std::string> lines =
-        linesOf(contentsOf(sourceRoot() / "global/tvxCrowdRenderPlugin.cpp"));
-    for (std::size_t i = 0; i < lines.size(); ++i) {
-        if (lines[i].find(piece) != std::string::npos)
-            return static_cast<int>(i) + 1;
-    }
-    ADD_FAILURE() << "no line holds " << piece;
-    return 0;
-}
 
 std::string loadedLine()
 {
-    return "[TarvoxCrowd::INFO]\tCrowd Render: At line " + std::to_string(lineOfReport("plugin loaded.")) +
-           " in file global/tvxCrowdRenderPlugin.cpp: initializePlugin: tvxCrowdRender plugin loaded.";
+    const std::string file = "global/tvxCrowdRenderPlugin.cpp";
+    return "[TarvoxCrowd::INFO]\tCrowd Render: At line " +
+           std::to_string(lineOfStatement(file, "\" plugin loaded.\"")) + " in file " + file +
+           ": initializePlugin: tvxCrowdRender plugin loaded.";
 }
 
 const std::string kBatchLine = "tvxCrowdRender: loaded without user interface";
@@ -88,10 +76,23 @@ TEST_F(LoadTest, IsOneLineOnEachOfThemAtOnce)
 
 TEST_F(LoadTest, IsSilentBelowInfo)
 {
-    prefer(" -iv \"tvxPrefLogLevelForCrowd_Render\" 2\n");
-    const ProgramResult result = run({"--plugin", pluginFile()});
-    EXPECT_EQ(result.exitCode, 0);
-    EXPECT_EQ(result.output, kBatchLine + "\n");
+    for (const std::string level : {"0", "1", "2"}) {
+        prefer(" -iv \"tvxPrefLogToFile\" 1\n -iv \"tvxPrefLogLevelForCrowd_Render\" " + level + "\n");
+        const ProgramResult result = run({"--plugin", pluginFile()});
+        EXPECT_EQ(result.exitCode, 0) << level;
+        EXPECT_EQ(result.output, kBatchLine + "\n") << level;
+        EXPECT_EQ(result.errors, "") << level;
+        EXPECT_EQ(log(), "") << level;
+    }
+}
+
+TEST_F(LoadTest, IsToldFromInfoOn)
+{
+    for (const std::string level : {"3", "4"}) {
+        prefer(" -iv \"tvxPrefLogToFile\" 1\n -iv \"tvxPrefLogLevelForCrowd_Render\" " + level + "\n");
+        EXPECT_EQ(run({"--plugin", pluginFile()}).output, loadedLine() + "\n" + kBatchLine + "\n") << level;
+        EXPECT_EQ(log(), loadedLine() + "\n") << level;
+    }
 }
 
 TEST_F(LoadTest, KeepsTheLevelItCreatedInThePreferences)
@@ -104,13 +105,49 @@ TEST_F(LoadTest, KeepsTheLevelItCreatedInThePreferences)
 
 TEST_F(LoadTest, TwiceLogsEachLoadOnce)
 {
-    prefer(" -iv \"tvxPrefLogToSE\" 0\n -iv \"tvxPrefLogToFile\" 1\n");
-    const std::string name = "\"" + pluginFile().string() + "\"";
-    const ProgramResult result = run({"-e", "loadPlugin " + name, "-e", "unloadPlugin tvxCrowdRender", "-e",
-                                      "optionVar -iv \"tvxPrefLogToSE\" 1; loadPlugin " + name});
-    EXPECT_EQ(result.exitCode, 0) << result.errors;
-    EXPECT_EQ(linesWith(result.output + log(), "plugin loaded.").size(), 2u) << result.output << log();
-    EXPECT_THAT(linesWith(result.output + log(), "plugin unloaded."), IsEmpty());
+    prefer(" -iv \"tvxPrefLogToOW\" 1\n -iv \"tvxPrefLogToFile\" 1\n");
+    const std::string load = "loadPlugin \"" + pluginFile().string() + "\"";
+    const ProgramResult result = run({"-e", load, "-e", "unloadPlugin tvxCrowdRender", "-e", load});
+    EXPECT_EQ(result.exitCode, 0);
+    EXPECT_EQ(result.errors, "");
+    // Of the script editor and of the console stream, then what the interface and loadPlugin say.
+    const std::string once = loadedLine() + "\n" + loadedLine() + "\n" + kBatchLine + "\ntvxCrowdRender\n";
+    EXPECT_EQ(result.output, once + "tvxCrowdRender\n" + once);
+    EXPECT_EQ(log(), loadedLine() + "\n") << "the second load has emptied the file";
+}
+
+TEST_F(LoadTest, GoesOnWithoutALogFileThatCannotBeOpened)
+{
+    writeFile(m_folder / "taken", "a file");
+    for (const std::string& folder :
+         {(m_folder / "none").string(), (m_folder / "taken").string(), std::string("/proc")}) {
+        writeFile(m_folder / "userPrefs.mel", "optionVar -iv \"tvxPrefLogToFile\" 1 -sv "
+                                              "\"tvxPrefLogDirectory\" \"" +
+                                                  folder + "\";\n");
+        const ProgramResult result = run({"--plugin", pluginFile()});
+        EXPECT_EQ(result.exitCode, 0) << folder;
+        EXPECT_EQ(result.output, loadedLine() + "\n" + kBatchLine + "\n") << folder;
+        EXPECT_EQ(result.errors, "") << folder;
+    }
+    EXPECT_EQ(contentsOf(m_folder / "taken"), "a file");
+}
+
+TEST_F(LoadTest, GoesOnWhenTheLogFileIsOnAFullDevice)
+{
+    std::filesystem::create_symlink("/dev/full", m_folder / "tvxCrowd.log");
+    prefer(" -iv \"tvxPrefLogToFile\" 1\n");
+    const ProgramResult result = run({"--plugin", pluginFile()});
+    EXPECT_EQ(result.exitCode, 0);
+    EXPECT_EQ(result.output, loadedLine() + "\n" + kBatchLine + "\n");
+    EXPECT_EQ(result.errors, "");
+}
+
+TEST_F(LoadTest, EmptiesTheLogFileOfTheLastSession)
+{
+    writeFile(m_folder / "tvxCrowd.log", "of the last session\n");
+    prefer(" -iv \"tvxPrefLogToFile\" 1\n");
+    run({"--plugin", pluginFile()});
+    EXPECT_EQ(log(), loadedLine() + "\n");
 }
 
 TEST_F(LoadTest, AThousandTimesInOneProcessEndsCleanly)

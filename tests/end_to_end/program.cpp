@@ -3,6 +3,7 @@
 
 #include "../host/support/temporaryFolder.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <cstdlib>
 #include <fcntl.h>
@@ -126,6 +127,16 @@ std::vector<std::string> linesWith(const std::string& text, const std::string& p
             found.push_back(line);
     }
     return found;
+}
+
+int lineOfStatement(const std::string& file, const std::string& piece)
+{
+    const std::vector<std::string> lines = linesOf(contentsOf(sourceRoot() / file));
+    const auto holdsPiece = [&](const std::string& line) { return line.find(piece) != std::string::npos; };
+    const auto found = std::find_if(lines.begin(), lines.end(), holdsPiece);
+    if (found == lines.end() || std::find_if(found + 1, lines.end(), holdsPiece) != lines.end())
+        return 0;
+    return static_cast<int>(found - lines.begin()) + 1;
 }
 
 } // namespace tvxhost::test

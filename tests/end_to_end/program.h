@@ -38,4 +38,9 @@ std::vector<std::string> linesOf(const std::string& text);
 /// The lines that hold a piece of text.
 std::vector<std::string> linesWith(const std::string& text, const std::string& piece);
 
+/// The number, from 1, of the only line of a source file that holds a piece of text; 0 when it is not the
+/// only one.
+/// @param file  from the root of the sources
+int lineOfStatement(const std::string& file, const std::string& piece);
+
 } // namespace tvxhost::test
