@@ -26,8 +26,8 @@ constexpr const char* kUsage =
 std::vector<tvxbench::Row> allRows()
 {
     std::vector<tvxbench::Row> rows;
-    for (const auto& family :
-         {tvxbench::loggerRows, tvxbench::formatRows, tvxbench::rejectedReportRows, tvxbench::loadRows})
+    for (const auto& family : {tvxbench::loggerRows, tvxbench::formatRows, tvxbench::rejectedReportRows,
+                               tvxbench::loadRows, tvxbench::circleRows})
         for (tvxbench::Row& row : family())
             rows.push_back(std::move(row));
     return rows;

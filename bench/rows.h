@@ -21,5 +21,6 @@ std::vector<Row> loggerRows();
 std::vector<Row> formatRows();
 std::vector<Row> rejectedReportRows();
 std::vector<Row> loadRows();
+std::vector<Row> circleRows();
 
 } // namespace tvxbench
