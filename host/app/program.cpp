@@ -68,6 +68,7 @@ private:
     bool runScript();
     bool runText(const std::string& text);
     void report();
+    bool mayWrite(const std::string& file);
     void renderPicture();
     void saveScene();
     void savePreferences();
@@ -90,7 +91,7 @@ private:
     const Options& m_options;
     const Streams& m_streams;
     Session m_session;
-    bool m_scriptsWorked = true;
+    std::string m_obstacle; ///< why no scene and no picture is written; empty: nothing stands in the way
 };
 
 void Program::armFaults()
@@ -112,7 +113,8 @@ void Program::loadPreferences()
 void Program::loadPlugins()
 {
     for (const std::string& plugin : m_options.plugins)
-        check(m_session.commands().loadPlugin(pluginName(plugin), {}));
+        if (!check(m_session.commands().loadPlugin(pluginName(plugin), {})))
+            m_obstacle = "a plug-in was not loaded";
 }
 
 bool Program::openScene()
@@ -131,10 +133,11 @@ bool Program::openScene()
 
 void Program::runScripts()
 {
-    m_scriptsWorked = runScript();
+    bool worked = runScript();
     for (const std::string& text : m_options.commands)
-        m_scriptsWorked = runText(text) && m_scriptsWorked;
-    m_scriptsWorked = m_session.interpreter().runDeferred() == 0 && m_scriptsWorked;
+        worked = runText(text) && worked;
+    if (m_session.interpreter().runDeferred() != 0 || !worked)
+        m_obstacle = "a script failed";
 }
 
 bool Program::runScript()
@@ -175,9 +178,17 @@ void Program::report()
     }
 }
 
+/// What came of a scene that is half changed, or lacks a plug-in's part, must not replace a whole file.
+bool Program::mayWrite(const std::string& file)
+{
+    if (!m_obstacle.empty())
+        m_session.editor().warning("\"" + file + "\" is not written, because " + m_obstacle);
+    return m_obstacle.empty();
+}
+
 void Program::renderPicture()
 {
-    if (m_options.picture.empty())
+    if (m_options.picture.empty() || !mayWrite(m_options.picture))
         return;
     const auto picture = viewport::drawPicture(
         m_session.scene(), {m_options.size.width, m_options.size.height, m_options.camera});
@@ -190,14 +201,8 @@ void Program::renderPicture()
 
 void Program::saveScene()
 {
-    if (m_options.save.empty())
-        return;
-    // A scene that a script left half changed must not replace a whole one.
-    if (!m_scriptsWorked) {
-        m_session.editor().warning("\"" + m_options.save + "\" is not written, because a script failed");
-        return;
-    }
-    check(m_session.commands().saveAs(m_options.save));
+    if (!m_options.save.empty() && mayWrite(m_options.save))
+        check(m_session.commands().saveAs(m_options.save));
 }
 
 void Program::savePreferences()
