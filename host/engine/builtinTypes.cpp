@@ -5,6 +5,7 @@
 #include "boundingBox.h"
 #include "cell.h"
 #include "dirtySpread.h"
+#include "geometry/polyNodes.h"
 #include "mesh.h"
 #include "number.h"
 #include "scene.h"
@@ -230,5 +231,7 @@ void addBuiltinComputes(TypeTable& types)
     give("unitToTimeConversion", conversion(1.0 / kTicksPerSecond));
     give("animCurve", computeCurve);
 }
+    addPolyComputes(types);
+    addParticleBehaviour(types);
 
 } // namespace tvxhost::engine

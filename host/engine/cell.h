@@ -161,8 +161,11 @@ public:
 
     /// Raised with every change of a value, for those who keep something derived from values.
     std::uint64_t edits = 0;
-    /// The geometry put together from a mesh's attributes, and the `edits` it belongs to.
+    /// The geometry put together for a mesh, the data it was made of, and the `edits` it belongs to.
     Ref<Data> derivedMesh;
+    Ref<Data> derivedMeshSource;
+    /// The data that a mesh may change in place, because it made it.
+    Ref<Data> ownMesh;
     std::uint64_t derivedMeshEdits = 0;
 
 private:

@@ -72,15 +72,6 @@ Ref<Data> NumericData::clone() const
     return Ref<Data>(copy);
 }
 
-Ref<Data> MeshData::clone() const
-{
-    auto* copy = new MeshData;
-    copy->points = points;
-    copy->edges = edges;
-    copy->faces = faces;
-    return Ref<Data>(copy);
-}
-
 Ref<Data> KeptData::clone() const
 {
     return Ref<Data>(new KeptData(typeName, text));

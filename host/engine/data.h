@@ -113,29 +113,6 @@ public:
     alignas(8) std::uint8_t bytes[32] = {}; ///< the numbers side by side, each of its kind's size
 };
 
-/// Polygons: points, edges and faces as scene files give them.
-class MeshData final : public Data
-{
-public:
-    struct Edge
-    {
-        std::int32_t from = 0, to = 0, smooth = 0;
-    };
-    struct Face
-    {
-        /// Edge k >= 0 runs from its first to its second vertex, a negative one is edge -k-1 the other way
-        /// round.
-        std::vector<std::int32_t> edges;
-        std::vector<std::vector<std::int32_t>> holes;
-    };
-
-    MeshData() : Data(DataType::mesh) {}
-    Ref<Data> clone() const override;
-    std::vector<Vec3f> points; ///< centimetres, object space
-    std::vector<Edge> edges;
-    std::vector<Face> faces;
-};
-
 /// A value that the host does not understand, kept as the words it was written with, so that it can be saved
 /// again.
 class KeptData final : public Data

@@ -2,72 +2,25 @@
 #include "mesh.h"
 
 #include "cell.h"
+#include "geometry/faceText.h"
+#include "scene.h"
 #include "values.h"
 
-#include <cctype>
-#include <charconv>
-#include <optional>
+#include <algorithm>
 
 namespace tvxhost::engine {
 
 namespace {
 
-/// Words and whole numbers one after the other.
-class FaceWords
-{
-public:
-    explicit FaceWords(std::string_view text) : m_rest(text) {}
-
-    std::string_view word()
-    {
-        skipBlanks();
-        std::size_t end = 0;
-        while (end < m_rest.size() && !isBlank(m_rest[end]))
-            ++end;
-        const std::string_view result = m_rest.substr(0, end);
-        m_rest.remove_prefix(end);
-        return result;
-    }
-    std::optional<int> number()
-    {
-        skipBlanks();
-        int value = 0;
-        const auto [end, error] = std::from_chars(m_rest.data(), m_rest.data() + m_rest.size(), value);
-        if (error != std::errc())
-            return std::nullopt;
-        m_rest.remove_prefix(static_cast<std::size_t>(end - m_rest.data()));
-        return value;
-    }
-    /// A count and that many numbers.
-    bool numbers(std::vector<std::int32_t>& values)
-    {
-        const std::optional<int> count = number();
-        if (!count || *count < 0)
-            return false;
-        for (int i = 0; i < *count; ++i) {
-            const std::optional<int> value = number();
-            if (!value)
-                return false;
-            values.push_back(*value);
-        }
-        return true;
-    }
-
-private:
-    static bool isBlank(char c) { return std::isspace(static_cast<unsigned char>(c)) != 0; }
-    void skipBlanks()
-    {
-        while (!m_rest.empty() && isBlank(m_rest[0]))
-            m_rest.remove_prefix(1);
-    }
-
-    std::string_view m_rest;
-};
-
 Plug plugOf(DagNode& node, const char* name)
 {
     Attribute* attribute = node.type().find(name);
     return attribute ? Plug(node, *attribute) : Plug();
+}
+
+bool isMesh(DagNode& shape)
+{
+    return shape.isAlive() && shape.type().isA("mesh");
 }
 
 Vec3f pointAt(const Plug& element)
@@ -91,10 +44,6 @@ void readPoints(DagNode& shape, MeshData& mesh)
     const Plug vertices = plugOf(shape, "vrts");
     for (const int i : existingElements(vertices))
         grownTo(mesh.points, i) = pointAt(vertices.element(i));
-    const Plug tweaks = plugOf(shape, "pnts");
-    for (const int i : existingElements(tweaks))
-        if (static_cast<std::size_t>(i) < mesh.points.size())
-            mesh.points[static_cast<std::size_t>(i)] += pointAt(tweaks.element(i));
 }
 
 void readEdges(DagNode& shape, MeshData& mesh)
@@ -113,13 +62,17 @@ void readFaces(DagNode& shape, MeshData& mesh)
 {
     const Plug faces = plugOf(shape, "face");
     for (const int i : existingElements(faces)) {
+        while (mesh.faces.size() < static_cast<std::size_t>(i))
+            mesh.faces.addFace();
         const Ref<Data> data = storedData(faces.element(i));
-        MeshData::Face& face = grownTo(mesh.faces, i);
+        MeshFace face;
         if (data && data->type() == DataType::plugin)
             (void)readFace(static_cast<const KeptData&>(*data).text, face);
+        mesh.faces.add(face);
     }
 }
 
+/// What the attributes say, without tweaks.
 Ref<Data> assemble(DagNode& shape)
 {
     Ref<Data> result(new MeshData);
@@ -127,50 +80,179 @@ Ref<Data> assemble(DagNode& shape)
     readPoints(shape, mesh);
     readEdges(shape, mesh);
     readFaces(shape, mesh);
-    return mesh.points.empty() ? Ref<Data>() : result;
+    if (mesh.points.empty())
+        return {};
+    if (isSound(mesh))
+        return result;
+    shape.scene().scriptEditor().warning("The geometry of '" + shape.name() +
+                                         "' names points or edges that are not there; it is not used.");
+    return {};
 }
 
-const MeshData* incomingMesh(DagNode& shape)
+Ref<Data> asMesh(const Ref<Data>& data)
+{
+    return data && data->type() == DataType::mesh ? data : Ref<Data>();
+}
+
+/// What `inMesh` yields or holds; null when that is no mesh.
+Ref<Data> incomingMesh(DagNode& shape)
 {
     const Plug input = plugOf(shape, "inMesh");
-    if (!isFedAnywhere(input))
-        return nullptr;
-    const Ref<Data> data = readData(input).value;
-    return data && data->type() == DataType::mesh ? static_cast<const MeshData*>(data.get()) : nullptr;
+    return asMesh(isFedAnywhere(input) ? readData(input).value : storedData(input));
+}
+
+/// The mesh with the tweaks of a shape; itself when there are none.
+Ref<Data> withTweaks(DagNode& shape, const Ref<Data>& mesh)
+{
+    const Plug tweaks = plugOf(shape, "pnts");
+    const std::vector<int> elements = existingElements(tweaks);
+    if (!mesh || elements.empty())
+        return mesh;
+    Ref<Data> result = mesh->clone();
+    auto& tweaked = static_cast<MeshData&>(*result);
+    for (const int i : elements)
+        if (tweaked.hasVertex(i))
+            tweaked.points[static_cast<std::size_t>(i)] += pointAt(tweaks.element(i));
+    return result;
+}
+
+/// Makes `inMesh` hold data that nobody else changes.
+void hold(DagNode& shape, const Ref<Data>& mesh)
+{
+    shape.cells().ownMesh = mesh;
+    storeInternal(plugOf(shape, "inMesh"), mesh);
+}
+
+void forget(const Plug& array)
+{
+    for (const int i : existingElements(array))
+        (void)removeElement(array, i);
+}
+
+std::vector<double> numbersOf(const std::vector<Vec3f>& points)
+{
+    std::vector<double> numbers;
+    numbers.reserve(points.size() * 3);
+    for (const Vec3f& point : points)
+        numbers.insert(numbers.end(), {point.x, point.y, point.z});
+    return numbers;
+}
+
+std::vector<double> numbersOf(const std::vector<MeshData::Edge>& edges)
+{
+    std::vector<double> numbers;
+    numbers.reserve(edges.size() * 3);
+    for (const MeshData::Edge& edge : edges)
+        for (const std::int32_t number : {edge.from, edge.to, edge.smooth})
+            numbers.push_back(number);
+    return numbers;
+}
+
+void writeAttributes(DagNode& shape, const MeshData& mesh)
+{
+    for (const char* name : {"vrts", "edge", "face"})
+        forget(plugOf(shape, name));
+    const std::vector<double> points = numbersOf(mesh.points);
+    (void)writeElements(plugOf(shape, "vrts"), 0, points.data(), points.size());
+    const std::vector<double> edges = numbersOf(mesh.edges);
+    (void)writeElements(plugOf(shape, "edge"), 0, edges.data(), edges.size());
+    const Plug faces = plugOf(shape, "face");
+    for (std::size_t i = 0; i < mesh.faces.size(); ++i)
+        (void)writeData(faces.element(static_cast<int>(i)), KeptData("polyFaces", faceText(mesh.faces, i)));
+}
+
+/// The tweaks that bring the points of history to where they are wanted.
+Outcome moveByTweaks(DagNode& shape, const MeshData& history, const MovedPoints& moved)
+{
+    const Plug tweaks = plugOf(shape, "pnts");
+    for (const auto& [i, point] : moved) {
+        const Vec3f offset = point - history.points[static_cast<std::size_t>(i)];
+        if (const Outcome written = writeNumbers(tweaks.element(i), {offset.x, offset.y, offset.z}); !written)
+            return written;
+    }
+    return {};
+}
+
+void forgetTweaks(DagNode& shape, const MovedPoints& moved)
+{
+    const Plug tweaks = plugOf(shape, "pnts");
+    for (const auto& point : moved)
+        (void)removeElement(tweaks, point.first);
+}
+
+Outcome moveInAttributes(DagNode& shape, const MovedPoints& moved)
+{
+    const Plug vertices = plugOf(shape, "vrts");
+    for (const auto& [i, point] : moved)
+        if (const Outcome written = writeNumbers(vertices.element(i), {point.x, point.y, point.z}); !written)
+            return written;
+    forgetTweaks(shape, moved);
+    return {};
+}
+
+/// Moves points of the data that `inMesh` holds, which is copied first when others may see it.
+void moveInPlace(DagNode& shape, Ref<Data> held, const MovedPoints& moved)
+{
+    if (held != shape.cells().ownMesh)
+        held = held->clone();
+    auto& mesh = static_cast<MeshData&>(*held);
+    for (const auto& [i, point] : moved)
+        mesh.points[static_cast<std::size_t>(i)] = point;
+    forgetTweaks(shape, moved);
+    hold(shape, held);
 }
 
 } // namespace
 
-bool readFace(std::string_view text, MeshData::Face& face)
-{
-    FaceWords words(text);
-    if (words.word() != "f" || !words.numbers(face.edges))
-        return false;
-    for (std::string_view word = words.word(); !word.empty(); word = words.word()) {
-        std::vector<std::int32_t> values;
-        const bool hasSet = word == "mu" || word == "mc";
-        if (hasSet && !words.number())
-            return false;
-        if ((!hasSet && word != "h" && word != "mf") || !words.numbers(values))
-            return false;
-        if (word == "h")
-            face.holes.push_back(std::move(values));
-    }
-    return true;
-}
-
 const MeshData* meshOf(DagNode& shape)
 {
-    if (!shape.isAlive() || !shape.type().isA("mesh"))
+    if (!isMesh(shape))
         return nullptr;
-    if (const MeshData* incoming = incomingMesh(shape))
-        return incoming;
+    const Ref<Data> incoming = incomingMesh(shape);
     CellStore& cells = shape.cells();
-    if (cells.derivedMeshEdits != cells.edits) {
-        cells.derivedMesh = assemble(shape);
+    if (cells.derivedMeshEdits != cells.edits || cells.derivedMeshSource != incoming) {
+        cells.derivedMesh = withTweaks(shape, incoming ? incoming : assemble(shape));
+        cells.derivedMeshSource = incoming;
         cells.derivedMeshEdits = cells.edits;
     }
     return static_cast<const MeshData*>(cells.derivedMesh.get());
+}
+
+bool hasHistory(DagNode& shape)
+{
+    return isMesh(shape) && isFedAnywhere(plugOf(shape, "inMesh")) && incomingMesh(shape);
+}
+
+void storeMesh(DagNode& shape, const Ref<Data>& mesh)
+{
+    forget(plugOf(shape, "pnts"));
+    hold(shape, mesh);
+}
+
+Outcome movePoints(DagNode& shape, const MovedPoints& moved)
+{
+    const MeshData* mesh = meshOf(shape);
+    if (!mesh)
+        return {Reason::noData, "'" + shape.name() + "' has no geometry"};
+    if (!std::all_of(moved.begin(), moved.end(), [&](const auto& p) { return mesh->hasVertex(p.first); }))
+        return {Reason::badIndex, "'" + shape.name() + "' has no such vertex"};
+    const Ref<Data> incoming = incomingMesh(shape);
+    if (!incoming)
+        return moveInAttributes(shape, moved);
+    if (hasHistory(shape))
+        return moveByTweaks(shape, static_cast<const MeshData&>(*incoming), moved);
+    moveInPlace(shape, incoming, moved);
+    return {};
+}
+
+void settleMesh(DagNode& shape)
+{
+    const Plug input = plugOf(shape, "inMesh");
+    if (!isMesh(shape) || isFedAnywhere(input) || !incomingMesh(shape))
+        return;
+    const Ref<Data> held = incomingMesh(shape);
+    writeAttributes(shape, static_cast<const MeshData&>(*held));
+    hold(shape, Ref<Data>());
 }
 
 } // namespace tvxhost::engine

@@ -1,24 +1,37 @@
-// Meshes: geometry put together from a shape's attributes.
+// Meshes: the geometry of a shape, and where it lives.
 #pragma once
 
-#include "data.h"
+#include "geometry/meshData.h"
 #include "node.h"
 
-#include <string_view>
+#include <utility>
 
 namespace tvxhost::engine {
 
-/// The geometry of a mesh shape: `vt` plus `pnts` (the tweaks) as points, `ed` as edges, `fc` as faces. Null
-/// for what is no mesh and for a mesh without geometry of its own (one that its history would have to make).
-/// A connected `inMesh` that yields a mesh counts before the attributes. Valid until the shape's attributes
-/// change or the shape goes; kept until then, so asking again costs nothing.
+/// The geometry of a mesh shape, the first of these that there is: what its history yields (a connected
+/// `inMesh`), what `inMesh` holds (left by history that has gone, or given by storeMesh), what its attributes
+/// say: `vt` points, `ed` edges, `fc` faces. On top of it the tweaks `pt`. Null for what is no mesh, for a
+/// mesh without points, and, with a warning, for one whose edges or faces name things that are not there.
+/// Valid until the shape or its history changes; asking again costs nothing until then.
 ///
 /// The elements of `fc` are data of the type "polyFaces": one face each, as the words of a scene file
-/// ("f 4 0 5 -2 -5 mu 0 4 0 1 3 2"), kept as KeptData.
+/// (see readFace), kept as KeptData.
 const MeshData* meshOf(DagNode& shape);
 
-/// Reads one face from its words; what is not about edges and holes is skipped. False when the words are not
-/// those of a face.
-bool readFace(std::string_view words, MeshData::Face& face);
+/// Whether the shape's geometry comes from history: a connected `inMesh` that yields a mesh.
+bool hasHistory(DagNode& shape);
+
+/// Makes the data itself the geometry of a shape without history; tweaks are forgotten. The shape may change
+/// the data: it must not be that of anything else.
+void storeMesh(DagNode& shape, const Ref<Data>& mesh);
+
+/// New places of vertices by number, in object space.
+using MovedPoints = std::vector<std::pair<std::int32_t, Vec3f>>;
+/// Moves vertices as seen by meshOf: by tweaks where there is history, for good where there is none.
+/// badIndex, and nothing moved, when there is no such vertex; noData when there is no mesh.
+Outcome movePoints(DagNode& shape, const MovedPoints& moved);
+
+/// Writes geometry that only `inMesh` holds to `vt`, `ed` and `fc`, as a file needs it.
+void settleMesh(DagNode& shape);
 
 } // namespace tvxhost::engine

@@ -3,7 +3,7 @@
 #pragma once
 
 #include "colors.h"
-#include "engine/data.h"
+#include "engine/geometry/meshData.h"
 
 #include <vector>
 

@@ -1,9 +1,13 @@
 // Meshes: geometry from the attributes of a shape.
 #include "engine/mesh.h"
 
+#include "engine/geometry/primitives.h"
+
 #include "fixtures.h"
 
 #include <gmock/gmock.h>
+
+#include <sstream>
 
 namespace tvxhost::engine {
 
@@ -51,8 +55,8 @@ TEST_F(MeshTest, PointsEdgesAndFacesComeFromTheAttributes)
     EXPECT_EQ(mesh->edges[2].to, 3);
     EXPECT_EQ(mesh->edges[2].smooth, 1);
     ASSERT_EQ(mesh->faces.size(), 1u);
-    EXPECT_THAT(mesh->faces[0].edges, ElementsAre(0, 2, -4, -2));
-    EXPECT_THAT(mesh->faces[0].holes, IsEmpty());
+    ASSERT_EQ(mesh->faces.loopCount(0), 1u);
+    EXPECT_THAT(mesh->faces.outline(0), ElementsAre(0, 2, -4, -2));
 }
 
 TEST_F(MeshTest, TweaksMoveThePoints)
@@ -90,22 +94,126 @@ TEST_F(MeshTest, TheBoundingBoxHoldsAllPoints)
     EXPECT_THAT(readNumbers(plug("planeShape.bbsi")).value, ElementsAre(2, 0, 2));
 }
 
-TEST(FaceTest, HolesAreReadAndTexturesSkipped)
+TEST_F(MeshTest, AMeshThatNamesWhatIsNotThereIsNotUsed)
 {
-    MeshData::Face face;
-    ASSERT_TRUE(readFace("f 3 0 1 2 mu 1 3 0 1 2 h 3 -5 -6 -7\n\tmc 0 3 4 5 6", face));
-    EXPECT_THAT(face.edges, ElementsAre(0, 1, 2));
-    ASSERT_EQ(face.holes.size(), 1u);
-    EXPECT_THAT(face.holes[0], ElementsAre(-5, -6, -7));
+    makeQuad();
+    const double lost[] = {0, 9, 0};
+    EXPECT_TRUE(writeElements(plug("planeShape.ed"), 0, lost, 3));
+    std::ostringstream errors;
+    scene.scriptEditor().setStreams(nullptr, &errors);
+    EXPECT_EQ(meshOf(shape), nullptr);
+    EXPECT_EQ(errors.str(), "Warning: The geometry of 'planeShape' names points or edges that are not there; "
+                            "it is not used.\n");
 }
 
-TEST(FaceTest, OtherWordsAreNoFace)
+TEST_F(MeshTest, MissingFacesAreEmpty)
 {
-    for (const char* words :
-         {"", "g 3 0 1 2", "f", "f x", "f 3 0 1", "f -1", "f 3 0 1 2 zz 1 2", "f 3 0 1 2 mu"}) {
-        MeshData::Face face;
-        EXPECT_FALSE(readFace(words, face)) << words;
-    }
+    makeQuad();
+    EXPECT_TRUE(writeData(plug("planeShape.fc[2]"), KeptData("polyFaces", "f 4 0 2 -4 -2")));
+    const MeshData* mesh = meshOf(shape);
+    ASSERT_EQ(mesh->faces.size(), 3u);
+    EXPECT_EQ(mesh->faces.loopCount(1), 0u);
+    EXPECT_THAT(mesh->faces.outline(2), ElementsAre(0, 2, -4, -2));
+}
+
+TEST_F(MeshTest, HistoryCountsBeforeTheAttributesAndIsTweaked)
+{
+    makeQuad();
+    make("polyCube", "polyCube1");
+    ASSERT_TRUE(connect("polyCube1.out", "planeShape.i"));
+    EXPECT_TRUE(hasHistory(shape));
+    EXPECT_EQ(meshOf(shape)->points.size(), 8u);
+    EXPECT_TRUE(writeNumbers(plug("planeShape.pt[0]"), {0, 0, 1}));
+    EXPECT_EQ(meshOf(shape)->points[0], Vec3f(-0.5F, -0.5F, 1.5F));
+    set("polyCube1.w", 4);
+    EXPECT_EQ(meshOf(shape)->points[0], Vec3f(-2, -0.5F, 1.5F));
+}
+
+TEST_F(MeshTest, WhatHistoryMadeStaysWhenTheHistoryGoes)
+{
+    Node& cube = make("polyCube", "polyCube1");
+    ASSERT_TRUE(connect("polyCube1.out", "planeShape.i"));
+    EXPECT_EQ(meshOf(shape)->points.size(), 8u);
+    EXPECT_TRUE(scene.deleteNode(cube));
+    EXPECT_FALSE(hasHistory(shape));
+    ASSERT_NE(meshOf(shape), nullptr);
+    EXPECT_EQ(meshOf(shape)->points.size(), 8u);
+}
+
+TEST_F(MeshTest, SettlingWritesWhatOnlyTheInputHeld)
+{
+    storeMesh(shape, makePlane({2, 2, 1, 1}));
+    EXPECT_THAT(existingElements(plug("planeShape.vt")), IsEmpty());
+    settleMesh(shape);
+    EXPECT_THAT(readNumbers(plug("planeShape.vt[1]")).value, ElementsAre(1, 0, 1));
+    EXPECT_THAT(readNumbers(plug("planeShape.ed[2]")).value, ElementsAre(1, 3, 0));
+    const Ref<Data> face = readData(plug("planeShape.fc[0]")).value;
+    ASSERT_TRUE(face);
+    EXPECT_EQ(static_cast<const KeptData&>(*face).text, "f 4 0 2 -4 -2");
+    ASSERT_NE(meshOf(shape), nullptr);
+    EXPECT_THAT(meshOf(shape)->faces.outline(0), ElementsAre(0, 2, -4, -2));
+}
+
+TEST_F(MeshTest, SettlingLeavesHistoryAndAttributesAlone)
+{
+    makeQuad();
+    settleMesh(shape);
+    EXPECT_EQ(static_cast<const KeptData&>(*readData(plug("planeShape.fc[0]")).value).text,
+              "f 4 0 2 -4 -2 mu 0 4 0 1 3 2");
+    make("polyCube", "polyCube1");
+    ASSERT_TRUE(connect("polyCube1.out", "planeShape.i"));
+    settleMesh(shape);
+    EXPECT_EQ(existingElements(plug("planeShape.vt")).size(), 4u);
+}
+
+TEST_F(MeshTest, MovedPointsOfAttributesAreWrittenThereAndKeepTheFaces)
+{
+    makeQuad();
+    EXPECT_TRUE(writeNumbers(plug("planeShape.pt[1]"), {0, 2, 0}));
+    EXPECT_TRUE(movePoints(shape, {{1, Vec3f(7, 8, 9)}}));
+    EXPECT_EQ(meshOf(shape)->points[1], Vec3f(7, 8, 9));
+    EXPECT_THAT(readNumbers(plug("planeShape.vt[1]")).value, ElementsAre(7, 8, 9));
+    EXPECT_THAT(existingElements(plug("planeShape.pt")), IsEmpty());
+    EXPECT_EQ(static_cast<const KeptData&>(*readData(plug("planeShape.fc[0]")).value).text,
+              "f 4 0 2 -4 -2 mu 0 4 0 1 3 2");
+}
+
+TEST_F(MeshTest, MovedPointsOfHistoryAreTweaks)
+{
+    make("polyCube", "polyCube1");
+    ASSERT_TRUE(connect("polyCube1.out", "planeShape.i"));
+    EXPECT_TRUE(movePoints(shape, {{0, Vec3f(0, 0, 0)}}));
+    EXPECT_THAT(readNumbers(plug("planeShape.pt[0]")).value, ElementsAre(0.5, 0.5, -0.5));
+    EXPECT_EQ(meshOf(shape)->points[0], Vec3f(0, 0, 0));
+}
+
+TEST_F(MeshTest, MovedPointsOfAHeldMeshDoNotReachOthersThatHaveIt)
+{
+    make("polyCube", "polyCube1");
+    ASSERT_TRUE(connect("polyCube1.out", "planeShape.i"));
+    ASSERT_NE(meshOf(shape), nullptr);
+    ASSERT_TRUE(scene.disconnect(plug("polyCube1.out"), plug("planeShape.i")));
+    EXPECT_TRUE(movePoints(shape, {{0, Vec3f(0, 0, 0)}}));
+    EXPECT_EQ(meshOf(shape)->points[0], Vec3f(0, 0, 0));
+    const Ref<Data> output = readData(plug("polyCube1.out")).value;
+    EXPECT_EQ(static_cast<const MeshData&>(*output).points[0], Vec3f(-0.5F, -0.5F, 0.5F));
+}
+
+TEST_F(MeshTest, OnlyVerticesThatThereAreCanBeMoved)
+{
+    EXPECT_EQ(movePoints(shape, {{0, Vec3f(0, 0, 0)}}).reason, Reason::noData);
+    makeQuad();
+    EXPECT_EQ(movePoints(shape, {{0, Vec3f(0, 0, 0)}, {4, Vec3f(0, 0, 0)}}).reason, Reason::badIndex);
+    EXPECT_EQ(meshOf(shape)->points[0], Vec3f(-1, 0, 1));
+}
+
+TEST_F(MeshTest, TheBoundingBoxFollowsHistory)
+{
+    make("polyCube", "polyCube1");
+    ASSERT_TRUE(connect("polyCube1.out", "planeShape.i"));
+    EXPECT_THAT(readNumbers(plug("planeShape.bbsi")).value, ElementsAre(1, 1, 1));
+    set("polyCube1.h", 3);
+    EXPECT_THAT(readNumbers(plug("planeShape.bbsi")).value, ElementsAre(1, 3, 1));
 }
 
 } // namespace tvxhost::engine

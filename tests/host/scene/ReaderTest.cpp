@@ -60,7 +60,7 @@ TEST_F(ReaderTest, spreadsRangesOverElements)
     ASSERT_NE(mesh, nullptr);
     EXPECT_EQ(mesh->points.size(), 4u);
     ASSERT_EQ(mesh->faces.size(), 1u);
-    EXPECT_THAT(mesh->faces[0].edges, ElementsAre(0, 1, 2, 3));
+    EXPECT_THAT(mesh->faces.outline(0), ElementsAre(0, 1, 2, 3));
 }
 
 TEST_F(ReaderTest, reportsARangeWithTooFewValues)

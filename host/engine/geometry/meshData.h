@@ -1,0 +1,52 @@
+// MeshData: polygons as a piece of data.
+#pragma once
+
+#include "../data.h"
+#include "faceTable.h"
+
+#include <memory>
+#include <vector>
+
+namespace tvxhost::engine {
+
+class MeshTopology;
+
+/// Polygons: points, edges and faces, numbered as in scene files.
+class MeshData final : public Data
+{
+public:
+    struct Edge
+    {
+        std::int32_t from = 0, to = 0, smooth = 0;
+    };
+
+    MeshData();
+    ~MeshData() override;
+    Ref<Data> clone() const override;
+
+    std::vector<Vec3f> points; ///< centimetres, object space
+    std::vector<Edge> edges;
+    FaceTable faces;
+
+    /// The vertex where a corner of a face begins.
+    std::int32_t startOf(std::int32_t corner) const
+    {
+        const Edge& edge = edges[static_cast<std::size_t>(edgeOf(corner))];
+        return corner >= 0 ? edge.from : edge.to;
+    }
+    bool hasVertex(std::int64_t i) const { return i >= 0 && i < static_cast<std::int64_t>(points.size()); }
+    bool hasEdge(std::int64_t i) const { return i >= 0 && i < static_cast<std::int64_t>(edges.size()); }
+    bool hasFace(std::int64_t i) const { return i >= 0 && i < static_cast<std::int64_t>(faces.size()); }
+
+    /// What is next to what; made when it is first asked for and kept. Edges and faces must not change after
+    /// that; points may. The mesh has to be sound.
+    const MeshTopology& topology() const;
+
+private:
+    mutable std::unique_ptr<MeshTopology> m_topology;
+};
+
+/// Whether every edge names points that exist and every face edges that exist.
+bool isSound(const MeshData& mesh);
+
+} // namespace tvxhost::engine
