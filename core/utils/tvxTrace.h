@@ -1,0 +1,33 @@
+// How the utilities tell of what went wrong and did not stop them.
+#pragma once
+
+#include "core/log/tvxReport.h"
+
+#include <functional>
+#include <iosfwd>
+
+/// Traces `text`, a chain of stream insertions, through the core log at `severity` in the name of `function`,
+/// as it stands. Nothing is built when the log's filter rejects the severity. A core exception raised on the
+/// way is logged in place of the text; no core exception leaves it.
+#define TVX_TRACE(severity, function, text)                                                                  \
+    do {                                                                                                     \
+        const int tvxSeverity = (severity);                                                                  \
+        if (::tarvox::crowd::coreLog().getSeverityFilter() >= tvxSeverity)                                   \
+            ::tarvox::crowd::trace(tvxSeverity, __FILE__, __LINE__, (function),                              \
+                                   [&](std::ostream& tvxText) { tvxText << text; });                         \
+    } while (false)
+
+/// A warning, see TVX_TRACE.
+#define TVX_WARN(function, text) TVX_TRACE(::tarvox::core::kWarning, function, text)
+
+/// The qualified name of a member of MayaUtils; `name` is a literal.
+#define TVX_UTILS_MEMBER(name) "tarvox::crowd::MayaUtils::" name
+
+namespace tarvox::crowd {
+
+/// What TVX_TRACE does once the filter has let it through.
+/// @param buildText  writes the text; may throw
+TVX_COLD void trace(int severity, const char* file, int line, const char* function,
+                    const std::function<void(std::ostream&)>& buildText);
+
+} // namespace tarvox::crowd
