@@ -38,55 +38,22 @@ MCommandResult::Type MCommandResult::resultType(MStatus* ReturnStatus) const
     return api::typeOf(value->result);
 }
 
-MStatus MCommandResult::getResult(int& result) const
-{
-    return read(*value, result);
-}
+#define TVX_RESULT_OF(Value)                                                                                 \
+    MStatus MCommandResult::getResult(Value& result) const                                                   \
+    {                                                                                                        \
+        return read(*value, result);                                                                         \
+    }
 
-MStatus MCommandResult::getResult(MInt64& result) const
-{
-    return read(*value, result);
-}
-
-MStatus MCommandResult::getResult(MIntArray& result) const
-{
-    return read(*value, result);
-}
-
-MStatus MCommandResult::getResult(MInt64Array& result) const
-{
-    return read(*value, result);
-}
-
-MStatus MCommandResult::getResult(double& result) const
-{
-    return read(*value, result);
-}
-
-MStatus MCommandResult::getResult(MDoubleArray& result) const
-{
-    return read(*value, result);
-}
-
-MStatus MCommandResult::getResult(MString& result) const
-{
-    return read(*value, result);
-}
-
-MStatus MCommandResult::getResult(MStringArray& result) const
-{
-    return read(*value, result);
-}
-
-MStatus MCommandResult::getResult(MVector& result) const
-{
-    return read(*value, result);
-}
-
-MStatus MCommandResult::getResult(MVectorArray& result) const
-{
-    return read(*value, result);
-}
+TVX_RESULT_OF(int)
+TVX_RESULT_OF(MInt64)
+TVX_RESULT_OF(MIntArray)
+TVX_RESULT_OF(MInt64Array)
+TVX_RESULT_OF(double)
+TVX_RESULT_OF(MDoubleArray)
+TVX_RESULT_OF(MString)
+TVX_RESULT_OF(MStringArray)
+TVX_RESULT_OF(MVector)
+TVX_RESULT_OF(MVectorArray)
 
 MStatus MCommandResult::getResult(MDoubleArray& result, int& numRows, int& numColumns) const
 {

@@ -95,182 +95,39 @@ MFnNumericData::Type MFnNumericData::numericType(MStatus* ReturnStatus)
     return api::numericTypeOf(static_cast<NumberKind>(data->kind), static_cast<std::size_t>(data->size));
 }
 
-MStatus MFnNumericData::getData(short& val1, short& val2)
-{
-    return read(*this, val1, val2);
-}
+// The interface has each reader and writer twice: overloaded, and under a name that tells the type.
+#define TVX_GROUP(Name, Get, Set, Arguments)                                                                 \
+    MStatus MFnNumericData::getData Get                                                                      \
+    {                                                                                                        \
+        return read Arguments;                                                                               \
+    }                                                                                                        \
+    MStatus MFnNumericData::setData Set                                                                      \
+    {                                                                                                        \
+        return write Arguments;                                                                              \
+    }                                                                                                        \
+    MStatus MFnNumericData::getData##Name Get                                                                \
+    {                                                                                                        \
+        return read Arguments;                                                                               \
+    }                                                                                                        \
+    MStatus MFnNumericData::setData##Name Set                                                                \
+    {                                                                                                        \
+        return write Arguments;                                                                              \
+    }
 
-MStatus MFnNumericData::setData(short val1, short val2)
-{
-    return write(*this, val1, val2);
-}
+#define TVX_GROUP_OF_2(Name, Number)                                                                         \
+    TVX_GROUP(Name, (Number & a, Number & b), (Number a, Number b), (*this, a, b))
+#define TVX_GROUP_OF_3(Name, Number)                                                                         \
+    TVX_GROUP(Name, (Number & a, Number & b, Number & c), (Number a, Number b, Number c), (*this, a, b, c))
+#define TVX_GROUP_OF_4(Name, Number)                                                                         \
+    TVX_GROUP(Name, (Number & a, Number & b, Number & c, Number & d),                                        \
+              (Number a, Number b, Number c, Number d), (*this, a, b, c, d))
 
-MStatus MFnNumericData::getData2Short(short& val1, short& val2)
-{
-    return getData(val1, val2);
-}
-
-MStatus MFnNumericData::setData2Short(short val1, short val2)
-{
-    return setData(val1, val2);
-}
-
-MStatus MFnNumericData::getData(int& val1, int& val2)
-{
-    return read(*this, val1, val2);
-}
-
-MStatus MFnNumericData::setData(int val1, int val2)
-{
-    return write(*this, val1, val2);
-}
-
-MStatus MFnNumericData::getData2Int(int& val1, int& val2)
-{
-    return getData(val1, val2);
-}
-
-MStatus MFnNumericData::setData2Int(int val1, int val2)
-{
-    return setData(val1, val2);
-}
-
-MStatus MFnNumericData::getData(float& val1, float& val2)
-{
-    return read(*this, val1, val2);
-}
-
-MStatus MFnNumericData::setData(float val1, float val2)
-{
-    return write(*this, val1, val2);
-}
-
-MStatus MFnNumericData::getData2Float(float& val1, float& val2)
-{
-    return getData(val1, val2);
-}
-
-MStatus MFnNumericData::setData2Float(float val1, float val2)
-{
-    return setData(val1, val2);
-}
-
-MStatus MFnNumericData::getData(double& val1, double& val2)
-{
-    return read(*this, val1, val2);
-}
-
-MStatus MFnNumericData::setData(double val1, double val2)
-{
-    return write(*this, val1, val2);
-}
-
-MStatus MFnNumericData::getData2Double(double& val1, double& val2)
-{
-    return getData(val1, val2);
-}
-
-MStatus MFnNumericData::setData2Double(double val1, double val2)
-{
-    return setData(val1, val2);
-}
-
-MStatus MFnNumericData::getData(short& val1, short& val2, short& val3)
-{
-    return read(*this, val1, val2, val3);
-}
-
-MStatus MFnNumericData::setData(short val1, short val2, short val3)
-{
-    return write(*this, val1, val2, val3);
-}
-
-MStatus MFnNumericData::getData3Short(short& val1, short& val2, short& val3)
-{
-    return getData(val1, val2, val3);
-}
-
-MStatus MFnNumericData::setData3Short(short val1, short val2, short val3)
-{
-    return setData(val1, val2, val3);
-}
-
-MStatus MFnNumericData::getData(int& val1, int& val2, int& val3)
-{
-    return read(*this, val1, val2, val3);
-}
-
-MStatus MFnNumericData::setData(int val1, int val2, int val3)
-{
-    return write(*this, val1, val2, val3);
-}
-
-MStatus MFnNumericData::getData3Int(int& val1, int& val2, int& val3)
-{
-    return getData(val1, val2, val3);
-}
-
-MStatus MFnNumericData::setData3Int(int val1, int val2, int val3)
-{
-    return setData(val1, val2, val3);
-}
-
-MStatus MFnNumericData::getData(float& val1, float& val2, float& val3)
-{
-    return read(*this, val1, val2, val3);
-}
-
-MStatus MFnNumericData::setData(float val1, float val2, float val3)
-{
-    return write(*this, val1, val2, val3);
-}
-
-MStatus MFnNumericData::getData3Float(float& val1, float& val2, float& val3)
-{
-    return getData(val1, val2, val3);
-}
-
-MStatus MFnNumericData::setData3Float(float val1, float val2, float val3)
-{
-    return setData(val1, val2, val3);
-}
-
-MStatus MFnNumericData::getData(double& val1, double& val2, double& val3)
-{
-    return read(*this, val1, val2, val3);
-}
-
-MStatus MFnNumericData::setData(double val1, double val2, double val3)
-{
-    return write(*this, val1, val2, val3);
-}
-
-MStatus MFnNumericData::getData3Double(double& val1, double& val2, double& val3)
-{
-    return getData(val1, val2, val3);
-}
-
-MStatus MFnNumericData::setData3Double(double val1, double val2, double val3)
-{
-    return setData(val1, val2, val3);
-}
-
-MStatus MFnNumericData::getData(double& val1, double& val2, double& val3, double& val4)
-{
-    return read(*this, val1, val2, val3, val4);
-}
-
-MStatus MFnNumericData::setData(double val1, double val2, double val3, double val4)
-{
-    return write(*this, val1, val2, val3, val4);
-}
-
-MStatus MFnNumericData::getData4Double(double& val1, double& val2, double& val3, double& val4)
-{
-    return getData(val1, val2, val3, val4);
-}
-
-MStatus MFnNumericData::setData4Double(double val1, double val2, double val3, double val4)
-{
-    return setData(val1, val2, val3, val4);
-}
+TVX_GROUP_OF_2(2Short, short)
+TVX_GROUP_OF_2(2Int, int)
+TVX_GROUP_OF_2(2Float, float)
+TVX_GROUP_OF_2(2Double, double)
+TVX_GROUP_OF_3(3Short, short)
+TVX_GROUP_OF_3(3Int, int)
+TVX_GROUP_OF_3(3Float, float)
+TVX_GROUP_OF_3(3Double, double)
+TVX_GROUP_OF_4(4Double, double)

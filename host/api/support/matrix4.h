@@ -5,7 +5,7 @@
 
 #include <algorithm>
 #include <cmath>
-#include <cstring>
+#include <ostream>
 
 namespace tvxhost::api {
 
@@ -24,7 +24,7 @@ Matrix fromImath(const Imath::Matrix44<T>& m)
 }
 
 template <class To, class From>
-void copyElements(To (&to)[4][4], const From (&from)[4][4])
+void copyElements(To (*to)[4], const From (*from)[4])
 {
     for (int row = 0; row < 4; ++row)
         for (int column = 0; column < 4; ++column)
@@ -82,6 +82,20 @@ template <class T>
 bool areEqual(const T (&a)[4][4], const T (&b)[4][4])
 {
     return std::equal(&a[0][0], &a[0][0] + 16, &b[0][0]);
+}
+
+/// Writes "[[a, b, c, d], [...], [...], [...]]".
+template <class T>
+std::ostream& writeMatrix(std::ostream& out, const T (&m)[4][4])
+{
+    out << '[';
+    for (int row = 0; row < 4; ++row) {
+        out << (row == 0 ? "[" : ", [");
+        for (int column = 0; column < 4; ++column)
+            out << (column == 0 ? "" : ", ") << m[row][column];
+        out << ']';
+    }
+    return out << ']';
 }
 
 } // namespace tvxhost::api
