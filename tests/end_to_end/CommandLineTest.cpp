@@ -4,11 +4,13 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <string>
+#include <vector>
+
 namespace {
 
 using namespace tvxhost::test;
 using testing::HasSubstr;
-using testing::StartsWith;
 
 TEST(CommandLine, HelpNamesTheOptionsAndGivesExamples)
 {
@@ -28,19 +30,28 @@ TEST(CommandLine, VersionIsThatOfTheProject)
     EXPECT_EQ(result.output, "tvxhost 2.5.0.1\n");
 }
 
-TEST(CommandLine, AnUnknownOptionIsOneError)
+TEST(CommandLine, EachMistakeIsOneErrorThatSaysWhatIsWrong)
 {
-    const ProgramResult result = runHost({"--bogus"});
-    EXPECT_EQ(result.exitCode, 2);
-    EXPECT_EQ(result.output, "");
-    EXPECT_THAT(result.errors, StartsWith("The following argument was not expected: --bogus\n"));
-}
-
-TEST(CommandLine, ASizeThatIsNoneIsOneError)
-{
-    const ProgramResult result = runHost({"--render", "x.png", "--size", "640"});
-    EXPECT_EQ(result.exitCode, 2);
-    EXPECT_THAT(result.errors, StartsWith("--size: \"640\" is not a size such as 1280x720\n"));
+    const struct
+    {
+        std::vector<std::string> words;
+        const char* error;
+    } mistakes[] = {
+        {{"--bogus"}, "The following argument was not expected: --bogus"},
+        {{"one.ma", "two.ma"}, "The following argument was not expected: two.ma"},
+        {{"--save"}, "--save: 1 required OUT.ma missing"},
+        {{"--render", "x.png", "--size", "640"}, "--size: \"640\" is not a size such as 1280x720"},
+        {{"--render", "x.png", "--size", "0x0"}, "--size: \"0x0\" is not a size such as 1280x720"},
+        {{"--summary=xml", "one.ma"}, "--summary: xml not in {text,json}"},
+        {{"--fail", "MFnPlugin::registerUI:1:kNonsense"},
+         "--fail: \"MFnPlugin::registerUI:1:kNonsense\" is not of the form Class::function:N:kCode"},
+    };
+    for (const auto& mistake : mistakes) {
+        const ProgramResult result = runHost(mistake.words);
+        EXPECT_EQ(result.exitCode, 2) << mistake.error;
+        EXPECT_EQ(result.output, "") << mistake.error;
+        EXPECT_EQ(result.errors, std::string(mistake.error) + "\nRun with --help for more information.\n");
+    }
 }
 
 } // namespace
