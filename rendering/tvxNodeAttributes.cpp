@@ -33,7 +33,7 @@ bool succeeded(const AttributeStep& step, const char* file, int line)
 {
     if (!step.problem && !step.exception)
         return true;
-    if (coreLog().getSeverityFilter() < core::kError)
+    if (!coreLogAdmits(core::kError))
         return false;
     if (step.exception)
         reportException(core::kError, file, line, step.function, step.exception->c_str());

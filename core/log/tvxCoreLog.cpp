@@ -7,6 +7,18 @@ namespace tarvox::crowd {
 
 namespace {
 
+/// The log, whose filter reports can see as long as it lives.
+class CoreLog
+{
+public:
+    CoreLog() { detail::coreLogFilter = &log.severityFilter(); }
+    ~CoreLog() { detail::coreLogFilter = &detail::kFilterOfNewLog; }
+    CoreLog(const CoreLog&) = delete;
+    CoreLog& operator=(const CoreLog&) = delete;
+
+    core::Log log;
+};
+
 bool registerCoreLog()
 {
     MayaLogger::getInstance().registerLog(coreLog(), "Crowd Render", core::kInfo);
@@ -14,6 +26,12 @@ bool registerCoreLog()
 }
 
 } // namespace
+
+core::Log& coreLog()
+{
+    static CoreLog only;
+    return only.log;
+}
 
 void startLogging()
 {

@@ -20,7 +20,7 @@
 #define TVX_REPORT(severity, function, text)                                                                 \
     do {                                                                                                     \
         const int tvxSeverity = (severity);                                                                  \
-        if (::tarvox::crowd::coreLog().getSeverityFilter() >= tvxSeverity)                                   \
+        if (::tarvox::crowd::coreLogAdmits(tvxSeverity))                                                     \
             ::tarvox::crowd::report(tvxSeverity, __FILE__, __LINE__, (function),                             \
                                     [&](std::ostream& tvxText) { tvxText << text; });                        \
     } while (false)

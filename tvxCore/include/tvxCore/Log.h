@@ -17,7 +17,10 @@ namespace tarvox::core {
 class TVX_CORE_API Log
 {
 public:
-    /// A log without listeners whose filter is kWarning: critical messages, errors and warnings pass.
+    /// The filter of a new log: critical messages, errors and warnings pass.
+    static constexpr int kInitialFilter = kWarning;
+
+    /// A log without listeners.
     Log();
     ~Log();
     Log(const Log&) = delete;
@@ -29,6 +32,9 @@ public:
 
     /// The largest severity code that passes. Inline: a rejected report costs no more than this comparison.
     int getSeverityFilter() const noexcept { return m_severityFilter; }
+
+    /// Where the filter is kept, for those who look at it very often; good for as long as the log lives.
+    const int& severityFilter() const noexcept { return m_severityFilter; }
 
     /// Sets the largest severity code that passes. Any number is legal, see Severity.
     void setSeverityFilter(int level) noexcept;
@@ -49,7 +55,7 @@ private:
     void dropRemovedListeners() noexcept;
 
     std::vector<ILogEventListener*> m_listeners; // null where one was removed while a message was under way
-    int m_severityFilter = kWarning;
+    int m_severityFilter = kInitialFilter;
     int m_messagesUnderWay = 0;
 };
 
