@@ -1,0 +1,72 @@
+// A radix sort, because hulls of millions of points spend most of their time sorting.
+#include "SortByX.h"
+
+#include <algorithm>
+#include <array>
+#include <cstdint>
+#include <cstring>
+#include <utility>
+
+namespace tarvox::core {
+namespace {
+
+constexpr int kDigitBits = 11;
+constexpr std::size_t kDigits = std::size_t{1} << kDigitBits;
+constexpr std::size_t kPasses = 3; // three digits of 11 bits hold a key of 32
+
+/// Below this many points comparing costs less than counting digits.
+constexpr std::size_t kFewPoints = 256;
+
+/// The bits of x as a number that grows with x.
+std::uint32_t keyOf(Point p)
+{
+    std::uint32_t bits = 0;
+    std::memcpy(&bits, &p.x, sizeof bits);
+    const std::uint32_t sign = 0x80000000U;
+    return bits & sign ? ~bits : bits | sign;
+}
+
+std::size_t digitOf(std::uint32_t key, std::size_t pass)
+{
+    return (key >> (pass * kDigitBits)) & (kDigits - 1);
+}
+
+/// For each pass and digit, where the first point of that digit goes.
+using Places = std::array<std::array<std::size_t, kDigits>, kPasses>;
+
+Places placesOf(const Points& points)
+{
+    Places places{};
+    for (const Point p : points)
+        for (std::size_t pass = 0; pass < kPasses; ++pass)
+            ++places[pass][digitOf(keyOf(p), pass)];
+    for (auto& counts : places) {
+        std::size_t before = 0;
+        for (std::size_t& count : counts)
+            before += std::exchange(count, before);
+    }
+    return places;
+}
+
+void radixSort(Points& points, Points& spare)
+{
+    Places places = placesOf(points);
+    spare.resize(points.size());
+    for (std::size_t pass = 0; pass < kPasses; ++pass) {
+        for (const Point p : points)
+            spare[places[pass][digitOf(keyOf(p), pass)]++] = p;
+        points.swap(spare);
+    }
+}
+
+} // namespace
+
+void sortByX(Points& points, Points& spare)
+{
+    if (points.size() < kFewPoints)
+        std::sort(points.begin(), points.end(), isLeftOf);
+    else
+        radixSort(points, spare);
+}
+
+} // namespace tarvox::core
