@@ -152,7 +152,7 @@ TEST_F(LoadTest, EmptiesTheLogFileOfTheLastSession)
 
 TEST_F(LoadTest, AThousandTimesInOneProcessEndsCleanly)
 {
-    prefer(" -iv \"tvxPrefLogToSE\" 0\n -iv \"tvxPrefLogToFile\" 0\n");
+    prefer(" -iv \"tvxPrefLogToSE\" 0\n -iv \"tvxPrefLogToOW\" 1\n");
     const std::string name = "\"" + pluginFile().string() + "\"";
     const ProgramResult result = run(
         {"-e",
@@ -162,6 +162,8 @@ TEST_F(LoadTest, AThousandTimesInOneProcessEndsCleanly)
     EXPECT_EQ(result.errors, "");
     EXPECT_EQ(linesOf(result.output).back(), "0");
     EXPECT_EQ(linesWith(result.output, kBatchLine).size(), 1000u);
+    EXPECT_EQ(linesWith(result.output, loadedLine()).size(), 1000u);
+    EXPECT_EQ(linesOf(result.output).size(), 2002u) << "these, and what the two texts give";
 }
 
 } // namespace

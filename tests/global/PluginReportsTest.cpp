@@ -13,6 +13,7 @@
 
 #include <filesystem>
 #include <functional>
+#include <memory>
 #include <string>
 #include <utility>
 #include <vector>
@@ -142,21 +143,31 @@ class LoggingSession
 public:
     explicit LoggingSession(int filter = 3)
     {
-        auto& optionVars = m_session.scene.optionVars();
+        auto& optionVars = m_session->scene.optionVars();
         optionVars.set("tvxPrefLogLevelForCrowd_Render", filter);
         optionVars.set("tvxPrefLogToOW", 1);
         optionVars.set("tvxPrefLogToFile", 1);
         optionVars.set("tvxPrefLogDirectory", m_folder.path());
-        m_session.scene.scriptRunner = &m_scripts;
+        m_session->scene.scriptRunner = &m_scripts;
     }
+
+    ~LoggingSession()
+    {
+        // A plug-in that could not be unloaded is unloaded again, and says again that it cannot.
+        testing::internal::CaptureStdout();
+        m_session.reset();
+        testing::internal::GetCapturedStdout();
+    }
+    LoggingSession(const LoggingSession&) = delete;
+    LoggingSession& operator=(const LoggingSession&) = delete;
 
     bool load()
     {
-        return watch([this] { return m_session.load(); });
+        return watch([this] { return m_session->load(); });
     }
     bool unload()
     {
-        return watch([this] { return m_session.unload(); });
+        return watch([this] { return m_session->unload(); });
     }
 
     /// What the last load() or unload() said.
@@ -169,7 +180,7 @@ public:
     Lines nodeTypes()
     {
         Lines names;
-        for (const tvxhost::engine::NodeType* type : m_session.scene.types().ofPlugin("tvxCrowdRender"))
+        for (const tvxhost::engine::NodeType* type : m_session->scene.types().ofPlugin("tvxCrowdRender"))
             names.push_back(type->name);
         return names;
     }
@@ -193,21 +204,21 @@ private:
         const auto sizeBefore =
             std::filesystem::exists(logFile()) ? std::filesystem::file_size(logFile()) : 0;
         test::takeTraces();
-        m_session.scene.scriptEditor().clearHistory();
+        m_session->scene.scriptEditor().clearHistory();
         testing::internal::CaptureStdout();
         const bool succeeded = step();
         m_said.console = testing::internal::GetCapturedStdout();
         m_said.file = m_folder.read("tvxCrowd.log").substr(sizeBefore);
         m_said.traces = test::takeTraces();
         m_said.scriptEditor.clear();
-        for (const Message& message : m_session.scene.scriptEditor().history())
+        for (const Message& message : m_session->scene.scriptEditor().history())
             m_said.scriptEditor.emplace_back(message.kind, message.text);
         return succeeded;
     }
 
     test::TestFolder m_folder;
     ScriptNotes m_scripts;
-    PluginSession m_session;
+    std::unique_ptr<PluginSession> m_session = std::make_unique<PluginSession>();
     Said m_said;
 };
 

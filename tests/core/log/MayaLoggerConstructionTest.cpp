@@ -2,6 +2,8 @@
 #include "LoggerTest.h"
 #include "SystemCalls.h"
 
+#include "core/log/tvxCoreLog.h"
+
 #include <maya/MGlobal.h>
 
 #include <gmock/gmock.h>
@@ -94,6 +96,12 @@ TEST_F(MayaLoggerConstruction, OpensTheLogFileWhenItsPreferenceIsOn)
 
 TEST_F(MayaLoggerConstruction, TurnsFileOutputOffWithoutAWordWhenTheFileCannotBeOpened)
 {
+    struct Counter : core::ILogEventListener
+    {
+        void onLogEvent(const core::LogEvent&) override { ++reports; }
+        int reports = 0;
+    } counter;
+    coreLog().addLogEventListener(&counter);
     folder.write("taken", "a file");
     MGlobal::setOptionVarValue("tvxPrefLogToFile", 1);
     for (const std::string& unusable : {folder.path("none"), folder.path("taken"), std::string("/proc")}) {
@@ -104,6 +112,8 @@ TEST_F(MayaLoggerConstruction, TurnsFileOutputOffWithoutAWordWhenTheFileCannotBe
         logOn(*logger);
         EXPECT_THAT(host.takeMessages(), ElementsAre("info|[TarvoxCrowd::INFO]\thello")) << unusable;
     }
+    coreLog().removeLogEventListener(&counter);
+    EXPECT_EQ(counter.reports, 0);
     EXPECT_EQ(folder.read("taken"), "a file");
 }
 

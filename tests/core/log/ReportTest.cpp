@@ -97,6 +97,24 @@ TEST_F(Report, IsBuiltOnlyWhenTheFilterAdmitsIt)
         }
 }
 
+// Seen before main(), when nobody has asked for the log yet.
+const bool kAdmittedAtFirst[] = {coreLogAdmits(core::kWarning), coreLogAdmits(core::kInfo)};
+
+TEST(CoreLogFilter, IsThatOfANewLogBeforeTheLogIsMade)
+{
+    EXPECT_THAT(kAdmittedAtFirst, ElementsAre(true, false));
+}
+
+TEST(CoreLogFilter, IsSeenAsItIsSet)
+{
+    for (int filter = -1; filter <= 5; ++filter) {
+        coreLog().setSeverityFilter(filter);
+        for (int severity = 0; severity <= 5; ++severity)
+            EXPECT_EQ(coreLogAdmits(severity), severity <= filter) << filter << " " << severity;
+    }
+    coreLog().setSeverityFilter(core::Log::kInitialFilter);
+}
+
 TEST_F(Report, EvaluatesEachArgumentOnce)
 {
     int severities = 0;
