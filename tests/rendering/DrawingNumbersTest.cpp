@@ -81,7 +81,7 @@ TEST(ArithmeticInPlace, ScalesByADoubleAndRoundsOnce)
 {
     // In single precision the factor would be 1 and leave the value alone.
     float x = 16777215;
-    EXPECT_EQ(scale(1 + 6e-8, &x), 16777216.0f);
+    EXPECT_EQ(scale(1 + 5.9e-8, &x), 16777216.0f);
 }
 
 } // namespace

@@ -1,7 +1,5 @@
-// The GL calls of the shapes and of the proxy that draws with them.
-#include "rendering/tvxDrawing.h"
-
-#include "GlRecorder.h"
+// What the V-Ray proxy draws: every call of OpenGL and of the view, in order.
+#include "DrawingCalls.h"
 #include "rendering/tvxCrowdProxyVRay.h"
 #include "rendering/tvxLocatorDrawing.h"
 
@@ -17,47 +15,23 @@
 namespace tarvox::crowd {
 namespace {
 
-using test::GlRecorder;
-using Calls = std::vector<std::string>;
+using namespace test;
 
-Calls operator+(Calls first, const Calls& second)
-{
-    first.insert(first.end(), second.begin(), second.end());
-    return first;
-}
-
-std::string vertex(const char* coordinates)
-{
-    return std::string("glVertex3f(") + coordinates + ")";
-}
-
-// A box of side 2, edge by edge.
-const Calls kUnitBox = {"glBegin(GL_LINES)",
-                        vertex("1, 1, 1"),
-                        vertex("-1, 1, 1"), //
-                        vertex("-1, 1, 1"),
-                        vertex("-1, -1, 1"), //
-                        vertex("-1, -1, 1"),
-                        vertex("1, -1, 1"), //
-                        vertex("1, -1, 1"),
-                        vertex("1, 1, 1"), //
-                        vertex("1, 1, -1"),
-                        vertex("-1, 1, -1"), //
-                        vertex("-1, 1, -1"),
-                        vertex("-1, -1, -1"), //
-                        vertex("-1, -1, -1"),
-                        vertex("1, -1, -1"), //
-                        vertex("1, -1, -1"),
-                        vertex("1, 1, -1"), //
-                        vertex("1, 1, 1"),
-                        vertex("1, 1, -1"), //
-                        vertex("-1, 1, 1"),
-                        vertex("-1, 1, -1"), //
-                        vertex("-1, -1, 1"),
-                        vertex("-1, -1, -1"), //
-                        vertex("1, -1, 1"),
-                        vertex("1, -1, -1"), //
-                        "glEnd()"};
+// A cube of side 2, edge by edge.
+const std::vector<Point> kCube = {
+    {1, 1, 1},    {-1, 1, 1},   //
+    {-1, 1, 1},   {-1, -1, 1},  //
+    {-1, -1, 1},  {1, -1, 1},   //
+    {1, -1, 1},   {1, 1, 1},    // the rectangle at z = 1
+    {1, 1, -1},   {-1, 1, -1},  //
+    {-1, 1, -1},  {-1, -1, -1}, //
+    {-1, -1, -1}, {1, -1, -1},  //
+    {1, -1, -1},  {1, 1, -1},   // the rectangle at z = -1
+    {1, 1, 1},    {1, 1, -1},   //
+    {-1, 1, 1},   {-1, 1, -1},  //
+    {-1, -1, 1},  {-1, -1, -1}, //
+    {1, -1, 1},   {1, -1, -1},  // from one to the other
+};
 
 TEST(ProxyColors, AreOrangeAndBrown)
 {
@@ -71,16 +45,14 @@ Calls drawProxy(M3dView::DisplayStatus status)
     const std::unique_ptr<CrowdProxyVRay> proxy(static_cast<CrowdProxyVRay*>(CrowdProxyVRay::creator()));
     M3dView view;
     const MDagPath path;
-    GlRecorder gl;
-    proxy->draw(view, path, M3dView::kWireFrame, status);
-    return gl.calls();
+    return callsOf([&] { proxy->draw(view, path, M3dView::kWireFrame, status); });
 }
 
 Calls proxyInColor(const char* color)
 {
     return Calls{"M3dView::beginGL", "glPushMatrix()", "glPushAttrib(GL_ALL_ATTRIB_BITS)",
                  std::string("glColor4f(") + color + ")"} +
-           kUnitBox + Calls{"glPopAttrib()", "glPopMatrix()", "M3dView::endGL"};
+           vertices("GL_LINES", kCube) + Calls{"glPopAttrib()", "glPopMatrix()", "M3dView::endGL"};
 }
 
 TEST(ProxyVRayDrawing, IsAnOrangeCubeWhenSelected)
