@@ -59,17 +59,17 @@ TEST(DistanceUnit, FactorsAreTheSameWholeNumbersInEveryType)
 
 TEST(DistanceUnit, QuotientsOfFactorsConvert)
 {
-    EXPECT_EQ(convert(1.0F, DistanceUnit::kInches, DistanceUnit::kCentimeters), 2.54F);
-    EXPECT_EQ(convert(1.0F, DistanceUnit::kMiles, DistanceUnit::kKilometers), 1.609344F);
-    EXPECT_EQ(convert(3.0F, DistanceUnit::kFeet, DistanceUnit::kYards), 1.0F);
-    EXPECT_EQ(convert(1.0F, DistanceUnit::kYards, DistanceUnit::kInches), 36.0F);
-    EXPECT_EQ(convert(2.5F, DistanceUnit::kMeters, DistanceUnit::kMillimeters), 2500.0F);
+    EXPECT_EQ(convert(1.0f, DistanceUnit::kInches, DistanceUnit::kCentimeters), 2.54f);
+    EXPECT_EQ(convert(1.0f, DistanceUnit::kMiles, DistanceUnit::kKilometers), 1.609344f);
+    EXPECT_EQ(convert(3.0f, DistanceUnit::kFeet, DistanceUnit::kYards), 1.0f);
+    EXPECT_EQ(convert(1.0f, DistanceUnit::kYards, DistanceUnit::kInches), 36.0f);
+    EXPECT_EQ(convert(2.5f, DistanceUnit::kMeters, DistanceUnit::kMillimeters), 2500.0f);
     EXPECT_EQ(convert(1760.0, DistanceUnit::kYards, DistanceUnit::kMiles), 1.0);
 }
 
 TEST(DistanceUnit, UnitZeroIsTheCentimetre)
 {
-    EXPECT_EQ(convert(180.0F, DistanceUnit{}, DistanceUnit::kMeters), 1.8F);
+    EXPECT_EQ(convert(180.0f, DistanceUnit{}, DistanceUnit::kMeters), 1.8f);
 }
 
 TEST(DistanceUnit, FactorIsKnownWhenCompiling)

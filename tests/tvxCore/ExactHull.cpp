@@ -13,7 +13,7 @@ namespace {
 struct WholePoint
 {
     explicit WholePoint(Vector2<float> p)
-        : x(std::ldexp(double{p.x}, 149)), y(std::ldexp(double{p.y}, 149)), point{p.x + 0.0F, p.y + 0.0F}
+        : x(std::ldexp(double{p.x}, 149)), y(std::ldexp(double{p.y}, 149)), point{p.x + 0.0f, p.y + 0.0f}
     {
     }
 

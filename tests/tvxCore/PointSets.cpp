@@ -97,7 +97,7 @@ Points squareEdges(Random& random, std::size_t count)
 Points collinear(Random& random, std::size_t count)
 {
     const int stepX = wholeBetween(random, -100, 100), stepY = wholeBetween(random, -100, 100);
-    const float scale = std::ldexp(1.0F, wholeBetween(random, -140, 100));
+    const float scale = std::ldexp(1.0f, wholeBetween(random, -140, 100));
     return repeated(count, [&] {
         const int steps = wholeBetween(random, -1000, 1000);
         return Point{static_cast<float>(steps * stepX) * scale, static_cast<float>(steps * stepY) * scale};
@@ -119,7 +119,7 @@ Points almostCollinearWithFarEnds(Random& random, std::size_t count)
 {
     Points points = almostCollinear(random, count);
     for (std::size_t i = 0; i < points.size(); i += 200) {
-        const float scale = std::ldexp(1.0F, wholeBetween(random, 1, 40));
+        const float scale = std::ldexp(1.0f, wholeBetween(random, 1, 40));
         points[i] = {points[i].x * scale, shaken(random, points[i].y * scale)};
     }
     return points;
@@ -142,8 +142,8 @@ Points onPolygon(Random& random, std::size_t count)
 Points farFromTheOrigin(Random& random, std::size_t count)
 {
     return repeated(count, [&] {
-        return Point{1e6F + static_cast<float>(wholeBetween(random, -9, 9)) * 0.0625F,
-                     -3e6F + static_cast<float>(wholeBetween(random, -9, 9)) * 0.25F};
+        return Point{1e6f + static_cast<float>(wholeBetween(random, -9, 9)) * 0.0625f,
+                     -3e6f + static_cast<float>(wholeBetween(random, -9, 9)) * 0.25f};
     });
 }
 
@@ -164,8 +164,8 @@ Points subnormal(Random& random, std::size_t count)
 /// The ends of what a float can be, next to each other.
 Points hugeAndTiny(Random& random, std::size_t count)
 {
-    const std::array<float, 15> values{-kHuge, -1e30F, -1,    -1e-30F, -kTiny, -0.0F, 0,    kTiny,
-                                       1e-38F, 1e-7F,  1e-3F, 1,       3,      1e30F, kHuge};
+    const std::array<float, 15> values{-kHuge, -1e30f, -1,    -1e-30f, -kTiny, -0.0f, 0,    kTiny,
+                                       1e-38f, 1e-7f,  1e-3f, 1,       3,      1e30f, kHuge};
     const auto value = [&] { return values[static_cast<std::size_t>(wholeBetween(random, 0, 14))]; };
     return repeated(count, [&] { return Point{value(), value()}; });
 }
@@ -174,7 +174,7 @@ Points hugeAndTiny(Random& random, std::size_t count)
 Points diagonalOfAllMagnitudes(Random& random, std::size_t count)
 {
     return repeated(count, [&] {
-        const float sign = wholeBetween(random, 0, 1) ? 1.0F : -1.0F;
+        const float sign = wholeBetween(random, 0, 1) ? 1.0f : -1.0f;
         const float x = sign * std::ldexp(between(random, 1, 1.99), wholeBetween(random, -149, 126));
         return Point{shaken(random, x), shaken(random, x)};
     });

@@ -12,15 +12,15 @@ namespace {
 TEST(Vector2, IsZeroUnlessTold)
 {
     const Vector2<float> v;
-    EXPECT_EQ(v.x, 0.0F);
-    EXPECT_EQ(v.y, 0.0F);
+    EXPECT_EQ(v.x, 0.0f);
+    EXPECT_EQ(v.y, 0.0f);
 }
 
 TEST(Vector2, HoldsItsComponentsAndNothingElse)
 {
-    const Vector2<float> v{1.5F, -2.5F};
-    EXPECT_EQ(v.x, 1.5F);
-    EXPECT_EQ(v.y, -2.5F);
+    const Vector2<float> v{1.5f, -2.5f};
+    EXPECT_EQ(v.x, 1.5f);
+    EXPECT_EQ(v.y, -2.5f);
     static_assert(sizeof(Vector2<float>) == 2 * sizeof(float));
     static_assert(std::is_trivially_copyable_v<Vector2<float>>);
 }
@@ -37,7 +37,7 @@ TEST(Vector2, EqualsWhenBothComponentsAreEqual)
 
 TEST(Vector2, ZerosOfBothSignsAreEqual)
 {
-    EXPECT_EQ((Vector2<float>{-0.0F, 0.0F}), (Vector2<float>{0.0F, -0.0F}));
+    EXPECT_EQ((Vector2<float>{-0.0f, 0.0f}), (Vector2<float>{0.0f, -0.0f}));
 }
 
 TEST(Vector2, NotANumberEqualsNothing)

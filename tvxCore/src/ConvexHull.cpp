@@ -18,13 +18,13 @@ namespace {
 /// The same point with every -0 made +0, so that points that compare equal are the same.
 Point withPlainZeros(Point p)
 {
-    return {p.x + 0.0F, p.y + 0.0F};
+    return {p.x + 0.0f, p.y + 0.0f};
 }
 
 /// The point after half a turn around the origin, its zeros +0.
 Point turned(Point p)
 {
-    return {0.0F - p.x, 0.0F - p.y};
+    return {0.0f - p.x, 0.0f - p.y};
 }
 
 /// The finite points that may be corners.

@@ -10,12 +10,11 @@
 namespace tarvox::core {
 namespace {
 
-constexpr int kDigitBits = 11;
-constexpr std::size_t kDigits = std::size_t{1} << kDigitBits;
-constexpr std::size_t kPasses = 3; // three digits of 11 bits hold a key of 32
-
 /// Below this many points comparing costs less than counting digits.
-constexpr std::size_t kFewPoints = 256;
+constexpr std::size_t kFewPoints = 128;
+
+/// From this many points on, a pass less is worth the longer table of the longer digits.
+constexpr std::size_t kManyPoints = 8192;
 
 /// The bits of x as a number that grows with x.
 std::uint32_t keyOf(Point p)
@@ -26,38 +25,48 @@ std::uint32_t keyOf(Point p)
     return bits & sign ? ~bits : bits | sign;
 }
 
-std::size_t digitOf(std::uint32_t key, std::size_t pass)
+/// Sorts by one digit of the key after the other, the least significant first.
+template <std::size_t kDigitBits>
+class RadixSort
 {
-    return (key >> (pass * kDigitBits)) & (kDigits - 1);
-}
-
-/// For each pass and digit, where the first point of that digit goes.
-using Places = std::array<std::array<std::size_t, kDigits>, kPasses>;
-
-Places placesOf(const Points& points)
-{
-    Places places{};
-    for (const Point p : points)
-        for (std::size_t pass = 0; pass < kPasses; ++pass)
-            ++places[pass][digitOf(keyOf(p), pass)];
-    for (auto& counts : places) {
-        std::size_t before = 0;
-        for (std::size_t& count : counts)
-            before += std::exchange(count, before);
+public:
+    static void run(Points& points, Points& spare)
+    {
+        Places places = placesOf(points);
+        spare.resize(points.size());
+        for (std::size_t pass = 0; pass < kPasses; ++pass) {
+            for (const Point p : points)
+                spare[places[pass][digitOf(keyOf(p), pass)]++] = p;
+            points.swap(spare);
+        }
     }
-    return places;
-}
 
-void radixSort(Points& points, Points& spare)
-{
-    Places places = placesOf(points);
-    spare.resize(points.size());
-    for (std::size_t pass = 0; pass < kPasses; ++pass) {
+private:
+    static constexpr std::size_t kDigits = std::size_t{1} << kDigitBits;
+    static constexpr std::size_t kPasses = (32 + kDigitBits - 1) / kDigitBits;
+
+    /// For each pass and digit, where the first point of that digit goes.
+    using Places = std::array<std::array<std::size_t, kDigits>, kPasses>;
+
+    static std::size_t digitOf(std::uint32_t key, std::size_t pass)
+    {
+        return (key >> (pass * kDigitBits)) & (kDigits - 1);
+    }
+
+    static Places placesOf(const Points& points)
+    {
+        Places places{};
         for (const Point p : points)
-            spare[places[pass][digitOf(keyOf(p), pass)]++] = p;
-        points.swap(spare);
+            for (std::size_t pass = 0; pass < kPasses; ++pass)
+                ++places[pass][digitOf(keyOf(p), pass)];
+        for (auto& counts : places) {
+            std::size_t before = 0;
+            for (std::size_t& count : counts)
+                before += std::exchange(count, before);
+        }
+        return places;
     }
-}
+};
 
 } // namespace
 
@@ -65,8 +74,10 @@ void sortByX(Points& points, Points& spare)
 {
     if (points.size() < kFewPoints)
         std::sort(points.begin(), points.end(), isLeftOf);
+    else if (points.size() < kManyPoints)
+        RadixSort<8>::run(points, spare);
     else
-        radixSort(points, spare);
+        RadixSort<11>::run(points, spare);
 }
 
 } // namespace tarvox::core
