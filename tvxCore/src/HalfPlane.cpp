@@ -18,9 +18,9 @@ HalfPlane::HalfPlane(Point from, Point to, float largest)
     m_x = static_cast<float>(x * scale);
     m_y = static_cast<float>(y * scale);
 
-    // Rounding adds up to at most 2.5 times 2^-24 of the largest coordinate: one part in four for the
-    // coefficients, the products and their sum, half a part for the threshold. Where products are subnormal,
-    // each and the threshold lose at most half of the smallest float besides.
+    // In units of 2^-24 of the largest coordinate, rounding takes at most 1 for the coefficients and 0.5 each
+    // for the products, their sum and the threshold: 2.5. Where they are subnormal, each product and the
+    // threshold lose half of the smallest float besides.
     const double margin = 4 * 0x1p-24 * largest + 4 * double{std::numeric_limits<float>::denorm_min()};
     m_threshold = static_cast<float>(double{m_x} * from.x + double{m_y} * from.y + margin);
 }

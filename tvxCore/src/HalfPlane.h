@@ -5,8 +5,9 @@
 
 namespace tarvox::core {
 
-/// The left side of the line from one point to another, without a margin that is wider than rounding reaches.
-/// It is asked about very many points: in single precision, four of them go through a processor at once.
+/// The left side of the line from one point to another, less a margin as wide as rounding reaches: what it
+/// holds is surely there. In single precision, because it is asked about very many points, and a processor
+/// takes four of them at once.
 class HalfPlane
 {
 public:
