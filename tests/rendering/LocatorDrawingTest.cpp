@@ -1,7 +1,9 @@
 // What the locators draw: every call of OpenGL and of the view, in order.
 #include "DrawingCalls.h"
 #include "rendering/tvxCrowdProxyRendermanStudio.h"
+#include "rendering/tvxCrowdProxyVRay.h"
 #include "rendering/tvxCrowdRenderManagerNode.h"
+#include "rendering/tvxLocatorDrawing.h"
 
 #include <maya/M3dView.h>
 #include <maya/MDagPath.h>
@@ -11,6 +13,7 @@
 
 #include <memory>
 #include <string>
+#include <vector>
 
 namespace tarvox::crowd {
 namespace {
@@ -28,6 +31,22 @@ constexpr const char* kOutline[] = {
     "107, 0, 41", "112, 0, 38", "104, 0, 30", "95, 0, 24", "84, 0, 18",  "71, 0, 18",  "62, 0, 22",
     "56, 0, 28",  "52, 0, 34",  "49, 0, 40",  "46, 0, 47", "41, 0, 59",  "39, 0, 71",  "36, 0, 86",
     "33, 0, 72",  "31, 0, 65",  "28, 0, 57",  "24, 0, 45", "20, 0, 34",  "15, 0, 24",  "11, 0, 15"};
+
+// A cube of side 2, edge by edge.
+const std::vector<test::Point> kCube = {
+    {1, 1, 1},    {-1, 1, 1},   //
+    {-1, 1, 1},   {-1, -1, 1},  //
+    {-1, -1, 1},  {1, -1, 1},   //
+    {1, -1, 1},   {1, 1, 1},    // the rectangle at z = 1
+    {1, 1, -1},   {-1, 1, -1},  //
+    {-1, 1, -1},  {-1, -1, -1}, //
+    {-1, -1, -1}, {1, -1, -1},  //
+    {1, -1, -1},  {1, 1, -1},   // the rectangle at z = -1
+    {1, 1, 1},    {1, 1, -1},   //
+    {-1, 1, 1},   {-1, 1, -1},  //
+    {-1, -1, 1},  {-1, -1, -1}, //
+    {1, -1, 1},   {1, -1, -1},  // from one to the other
+};
 
 // A locator is drawn outside a scene: its draw looks at nothing but the status.
 template <class Locator>
@@ -55,6 +74,13 @@ Calls emblemIn(const char* color)
            Calls{"glPopMatrix()", "glPopAttrib()", "glPopMatrix()", "M3dView::endGL"};
 }
 
+Calls cubeIn(const char* color)
+{
+    return Calls{"M3dView::beginGL", "glPushMatrix()", "glPushAttrib(GL_ALL_ATTRIB_BITS)",
+                 std::string("glColor4f(") + color + ")"} +
+           test::vertices("GL_LINES", kCube) + Calls{"glPopAttrib()", "glPopMatrix()", "M3dView::endGL"};
+}
+
 constexpr M3dView::DisplayStatus kSelected[] = {M3dView::kLead, M3dView::kActive};
 constexpr M3dView::DisplayStatus kNotSelected[] = {M3dView::kLive,
                                                    M3dView::kDormant,
@@ -67,6 +93,12 @@ constexpr M3dView::DisplayStatus kNotSelected[] = {M3dView::kLive,
                                                    M3dView::kActiveAffected,
                                                    M3dView::kNoStatus};
 
+TEST(ProxyColors, AreOrangeAndBrown)
+{
+    EXPECT_TRUE(activeProxyColor() == MColor(1.0f, 0.45f, 0.0f, 1.0f));
+    EXPECT_TRUE(dormantProxyColor() == MColor(0.65f, 0.3f, 0.1f, 1.0f));
+}
+
 TEST(ProxyRendermanStudioDrawing, IsAnOrangeEmblemWhenSelected)
 {
     for (const auto status : kSelected)
@@ -78,6 +110,19 @@ TEST(ProxyRendermanStudioDrawing, IsABrownEmblemInEveryOtherState)
     for (const auto status : kNotSelected)
         EXPECT_EQ(drawingOf<CrowdProxyRendermanStudio>(status),
                   emblemIn("0.649999976, 0.300000012, 0.100000001, 1"))
+            << status;
+}
+
+TEST(ProxyVRayDrawing, IsAnOrangeCubeWhenSelected)
+{
+    for (const auto status : kSelected)
+        EXPECT_EQ(drawingOf<CrowdProxyVRay>(status), cubeIn("1, 0.449999988, 0, 1")) << status;
+}
+
+TEST(ProxyVRayDrawing, IsABrownCubeInEveryOtherState)
+{
+    for (const auto status : kNotSelected)
+        EXPECT_EQ(drawingOf<CrowdProxyVRay>(status), cubeIn("0.649999976, 0.300000012, 0.100000001, 1"))
             << status;
 }
 
