@@ -2,7 +2,7 @@
 #include "rendering/tvxCrowdProxyRendermanStudio.h"
 
 #include "rendering/tvxDrawing.h"
-#include "rendering/tvxGL.h"
+#include "rendering/tvxGLScopes.h"
 #include "rendering/tvxLocatorDrawing.h"
 #include "rendering/tvxNodeAttributes.h"
 #include "rendering/tvxShapeName.h"
@@ -29,19 +29,17 @@ constexpr GroundPoint kOutline[] = {
 
 void drawOutline(M3dView::DisplayStatus status)
 {
-    glBegin(GL_LINE_LOOP);
+    const PrimitiveScope outline(GL_LINE_LOOP);
     setProxyColor(status);
     for (const GroundPoint& point : kOutline)
         glVertex3d(point.x, 0, point.z);
-    glEnd();
 }
 
 void drawHead()
 {
     glTranslatef(120, 0, 63);
-    glPushMatrix();
+    const MatrixScope head;
     drawCircle(21, 64);
-    glPopMatrix();
 }
 
 } // namespace
