@@ -57,7 +57,7 @@ bool SceneReader::keepForSection(const SceneStatement& statement)
         return true;
     }
     if (m_section.isMissingDefault) {
-        m_scene.keptConnections.back() += "\n\t" + keptText(statement.source);
+        m_scene.keptConnections.back() += "\n\t" + keptStatement(statement.source);
         ++m_summary.keptStatements;
         return true;
     }

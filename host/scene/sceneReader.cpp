@@ -137,8 +137,16 @@ void SceneReader::warning(const std::string& text, int line)
 
 void SceneReader::keep(std::vector<std::string>& lines, const SceneStatement& statement)
 {
-    lines.push_back(keptText(statement.source));
+    lines.push_back(keptStatement(statement.source));
     ++m_summary.keptStatements;
+}
+
+std::string keptStatement(std::string_view source)
+{
+    std::string text = keptText(source);
+    if (text.empty() || text.back() != ';')
+        text += ';';
+    return text;
 }
 
 std::string keptText(std::string_view source)

@@ -103,5 +103,8 @@ private:
 
 /// The text of a statement with LF line ends and no blanks around it.
 std::string keptText(std::string_view source);
+/// The same, ended by a semicolon also when the end of the file has cut it off: what is written behind it
+/// must not become part of it.
+std::string keptStatement(std::string_view source);
 
 } // namespace tvxhost::scene
