@@ -3,7 +3,7 @@
 
 #include "camera.h"
 #include "drawList.h"
-#include "engine/data.h"
+#include "engine/geometry/meshData.h"
 #include "engine/scene.h"
 
 #include <set>
