@@ -230,8 +230,7 @@ void addBuiltinComputes(TypeTable& types)
     give("timeToUnitConversion", conversion(kTicksPerSecond));
     give("unitToTimeConversion", conversion(1.0 / kTicksPerSecond));
     give("animCurve", computeCurve);
-}
     addPolyComputes(types);
-    addParticleBehaviour(types);
+}
 
 } // namespace tvxhost::engine
