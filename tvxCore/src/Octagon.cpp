@@ -11,7 +11,10 @@ namespace {
 using Corners = std::array<Point, 8>;
 
 /// More would make the octagon hardly larger.
-constexpr std::size_t kSampleSize = 512;
+constexpr std::size_t kLargestSample = 512;
+
+/// Points for each one in the sample of a small set, where looking at many costs more than they are worth.
+constexpr std::size_t kPointsPerSample = 4;
 
 /// The fraction of a set to step on by: multiples of the golden ratio come near no period that points may
 /// have.
@@ -19,16 +22,14 @@ constexpr double kSampleStep = 0.6180339887498949;
 
 Points sampleOf(const Points& points)
 {
-    const std::size_t count = points.size();
-    const std::size_t wanted = std::min(count, kSampleSize);
-    const std::size_t step =
-        wanted == count ? 1 : static_cast<std::size_t>(static_cast<double>(count) * kSampleStep);
+    const std::size_t wanted = std::min(points.size() / kPointsPerSample, kLargestSample);
+    const auto step = static_cast<std::size_t>(static_cast<double>(points.size()) * kSampleStep);
     PointCollector sample(wanted);
     std::size_t at = 0;
     for (std::size_t i = 0; i < wanted; ++i) {
         sample.add(points[at], isFinite(points[at]));
         at += step;
-        at -= at < count ? 0 : count;
+        at -= at < points.size() ? 0 : points.size();
     }
     return sample.take();
 }
