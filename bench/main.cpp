@@ -27,7 +27,7 @@ std::vector<tvxbench::Row> allRows()
 {
     std::vector<tvxbench::Row> rows;
     for (const auto& family : {tvxbench::loggerRows, tvxbench::formatRows, tvxbench::rejectedReportRows,
-                               tvxbench::loadRows, tvxbench::circleRows})
+                               tvxbench::loadRows, tvxbench::circleRows, tvxbench::switchRows})
         for (tvxbench::Row& row : family())
             rows.push_back(std::move(row));
     return rows;

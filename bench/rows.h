@@ -22,5 +22,6 @@ std::vector<Row> formatRows();
 std::vector<Row> rejectedReportRows();
 std::vector<Row> loadRows();
 std::vector<Row> circleRows();
+std::vector<Row> switchRows();
 
 } // namespace tvxbench
