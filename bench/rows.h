@@ -22,6 +22,7 @@ std::vector<Row> formatRows();
 std::vector<Row> rejectedReportRows();
 std::vector<Row> loadRows();
 std::vector<Row> circleRows();
+std::vector<Row> hullRows();
 std::vector<Row> switchRows();
 
 } // namespace tvxbench
