@@ -1,19 +1,32 @@
 // Helpers over the Maya API.
 #pragma once
 
+#include <maya/MArgList.h>
 #include <maya/MDGContext.h>
+#include <maya/MDGModifier.h>
+#include <maya/MDagPath.h>
 #include <maya/MDataBlock.h>
 #include <maya/MDoubleArray.h>
+#include <maya/MFn.h>
 #include <maya/MFnAttribute.h>
+#include <maya/MFnDagNode.h>
+#include <maya/MFnDependencyNode.h>
 #include <maya/MIntArray.h>
 #include <maya/MMatrix.h>
 #include <maya/MObject.h>
 #include <maya/MPoint.h>
+#include <maya/MStatus.h>
 #include <maya/MString.h>
 #include <maya/MStringArray.h>
+#include <maya/MTypeId.h>
+#include <maya/MVector.h>
 #include <maya/MVectorArray.h>
 
+#include <list>
+#include <string>
 #include <vector>
+
+class QMainWindow;
 
 namespace tarvox::crowd {
 
@@ -145,6 +158,190 @@ public:
                                         MVectorArray& result);
     static void setVectorArrayAttribute(const MObject& node, const MObject& attribute,
                                         const MVectorArray& value, bool networked);
+
+    /// @}
+
+    /// @name Placement of nodes
+    ///
+    /// Lengths are centimetres unless said otherwise. Each failure is reported once at ERROR, with line and
+    /// file, and ends the member; nothing is undone.
+    /// @{
+
+    /// The path of the transform that places a node: the node's own when it is a transform, else that of its
+    /// first parent. MS::kFailure when neither is a transform, or the node has no parent.
+    static MStatus getTransform(const MObject& node, MDagPath& path);
+
+    /// Moves the first parent of a node, which is to be a transform, by an offset in world space from where
+    /// it is; a transform that is passed in moves its parent, not itself.
+    static MStatus setWorldPosition(const MObject& node, const MVector& offset);
+
+    /// Moves a node by the MEL command `move -r`, in the units of the user interface and with six significant
+    /// digits, and puts the selection back. A name that is not unique in the scene cannot be selected. When
+    /// the move fails, the node stays selected.
+    static MStatus moveNodeByCommand(const MFnDependencyNode& node, double x, double y, double z);
+
+    /// Shows the local axis of a node's first parent.
+    static MStatus forceLocalAxisDisplay(const MObject& node);
+
+    /// Whether a node and every ancestor along each of its paths have "visibility" on; an intermediate object
+    /// is not visible. What cannot be read counts as not visible, and only a plain MS::kFailure is reported.
+    /// @param status  how the last look-up or reading went; may be null
+    static bool isVisible(const MFnDagNode& node, MStatus* status);
+
+    /// The nearest ancestor whose type is exactly `type`, first parents first; null when there is none.
+    static MObject findParentOfType(const MFnDagNode& node, MFn::Type type);
+
+    /// Where the transform of a node (see getTransform) is in world space; zero when it cannot be told.
+    /// @param status  MS::kSuccess only with a value that was read; may be null
+    static MVector getWorldTranslation(const MObject& node, MStatus* status);
+    /// The rotation pivot of a node's transform in world space, with the same status.
+    static MVector getWorldRotatePivot(const MObject& node, MStatus* status);
+    /// The scale of a node's transform, with the same status; zero when it cannot be told.
+    static MVector getTransformScale(const MObject& node, MStatus* status);
+
+    /// @}
+
+    /// @name Connections
+    ///
+    /// The four members that connect, disconnect and find by name report their first failure at ERROR, with
+    /// line and file; the others report nothing.
+    /// @{
+
+    /// Connects two attributes, given by name. What Maya refuses is returned unreported.
+    static MStatus connectAttributes(const MObject& sourceNode, const MString& sourceAttribute,
+                                     const MObject& destinationNode, const MString& destinationAttribute);
+    /// Undoes connectAttributes.
+    static MStatus disconnectAttributes(const MObject& sourceNode, const MString& sourceAttribute,
+                                        const MObject& destinationNode, const MString& destinationAttribute);
+
+    /// Appends the nodes that feed an attribute, or the elements of an array in their order; a node that
+    /// feeds several is listed as often. The status is that of the look-up.
+    static MStatus findConnectedNodesOnPlug(const MObject& node, const MString& attributeName,
+                                            std::vector<MObject>& nodes);
+    /// Appends the nodes that an attribute feeds, in the same way.
+    static MStatus findConnectedNodesToPlug(const MObject& node, const MString& attributeName,
+                                            std::vector<MObject>& nodes);
+
+    /// As findConnectedNodesOnPlug, by attribute object and without reports.
+    /// @param status  how the look-up went; may be null
+    static void collectConnectedSources(const MObject& node, const MObject& attribute,
+                                        std::vector<MObject>& nodes, MStatus* status);
+    /// As findConnectedNodesToPlug, by attribute object and without reports.
+    static void collectConnectedDestinations(const MObject& node, const MObject& attribute,
+                                             std::vector<MObject>& nodes, MStatus* status);
+
+    /// Queues the removal of every connection of a node, for the caller to run. MS::kFailure for what is no
+    /// dependency node, and when a connection cannot be listed or queued.
+    static MStatus disconnectAllConnections(const MObject& node, MDGModifier& modifier);
+    /// Removes every connection of a node; when one cannot be queued, none.
+    static MStatus disconnectAll(const MObject& node);
+
+    /// @}
+
+    /// @name Nodes of the scene
+    /// @{
+
+    /// Replaces `meshes` by the mesh nodes at and below the selected items, in the order of selection and
+    /// then of children. Maya counts a transform right above a mesh as one.
+    /// @param warnIfNone  report at WARNING when there are none
+    static void getSelectedMeshes(std::vector<MObject>& meshes, bool warnIfNone);
+
+    /// Appends the paths of the meshes at and below a path, depth first. Below an instanced node that has
+    /// several paths, the one that continues `path` is taken: of all paths to the child, the first among
+    /// those whose full names share most leading characters, 10,000 at most, with that of its parent here.
+    static void collectMeshPaths(const MDagPath& path, std::list<MDagPath>& meshes);
+
+    /// Appends the nodes of one registered type, in the scene's order.
+    /// @param filter  the kind of nodes to look at; MFn::kInvalid for all
+    static MStatus findNodesByTypeId(std::vector<MObject>& nodes, const MTypeId& typeId, MFn::Type filter);
+
+    /// Sets a string attribute through MEL, and adds it first when the node lacks it. Nothing is reported.
+    /// The value is put into the command as it is: it may hold no double quote.
+    static void setStringAttributeByCommand(const std::string& node, const std::string& longName,
+                                            const std::string& niceName, const std::string& value);
+
+    /// @}
+
+    /// @name Files and dialogs
+    /// @{
+
+    /// Makes a folder and those above it. MS::kFailure, with a line on standard error, when Maya could not.
+    /// @param display  show the command in the script editor
+    static MStatus createDirectory(const std::string& path, bool display);
+
+    /// The folder of the current project, without a slash at its end.
+    static std::string getWorkspacePath();
+
+    /// The file name of the scene without its folder; empty when it has none.
+    /// @param stripExtension  keep only what stands before the first "."
+    static std::string getSceneShortName(bool stripExtension);
+
+    /// Lets the user choose a file: an existing one, or the name of any. Empty when there is no choice. A
+    /// dialog that cannot be opened or read is reported at WARNING.
+    /// @param filter  the kinds offered, as "Scenes (*.ma *.mb);;All (*)"
+    static MString getFilePath(const MString& filter, bool existingFile);
+
+    /// Lets the user choose a folder, as getFilePath does.
+    /// @param startingDirectory  the folder shown first; empty for Maya's choice
+    static MString getDirectoryPath(const MString& startingDirectory);
+
+    /// @}
+
+    /// @name Windows
+    /// @{
+
+    /// Stores where a window of this name opens next: the upper left corner and the size, in pixels.
+    static void restoreWindowPreference(const char* name, int top, int left, int width, int height);
+    /// Has Maya write the preferences of all windows to its file.
+    static void saveAllWindowPreferences();
+    /// Reads where a window of this name opens; without a stored preference all four stay as they are.
+    static void getWindowPreference(const char* name, int& top, int& left, int& width, int& height);
+
+    /// The application's main window, for dialogs to stand above: the first one without a parent. Null when
+    /// there is none. Defined in a library of its own, for the sake of those who do without Qt.
+    static QMainWindow* getMainWindow();
+
+    /// @}
+
+    /// @name Time and units
+    /// @{
+
+    /// The current time, in frames or whatever unit the user has chosen.
+    static float getCurrentFrame();
+    static double getCurrentTimeInSeconds();
+    /// The length of one unit of the user's time, in seconds.
+    static double getFrameDuration();
+
+    /// How many of the user's units of length a centimetre is.
+    static float getUIUnitScale();
+    /// From centimetres to the user's unit of length, and back.
+    static MVector internalToUIUnits(const MVector& lengths);
+    static MVector uiToInternalUnits(const MVector& lengths);
+
+    /// @}
+
+    /// @name Arguments of commands
+    ///
+    /// Each reads the value that follows a flag.
+    /// - `index`: in, the flag's place in the list; out, that of the value, of its last element for a point
+    /// or
+    ///   an array. Arrays begin with the number of their elements.
+    /// - `value`: what Maya reads there, also when that fails.
+    ///
+    /// False when there is no such value. Nothing changes when the index is not one of the list.
+    /// @{
+
+    static bool readArgument(const MArgList& arguments, unsigned int& index, MString& value);
+    static bool readArgument(const MArgList& arguments, unsigned int& index, double& value);
+    static bool readArgument(const MArgList& arguments, unsigned int& index, float& value);
+    static bool readArgument(const MArgList& arguments, unsigned int& index, int& value);
+    static bool readArgument(const MArgList& arguments, unsigned int& index, bool& value);
+    static bool readArgument(const MArgList& arguments, unsigned int& index, MPoint& value);
+    static bool readArgument(const MArgList& arguments, unsigned int& index, MIntArray& value);
+    static bool readArgument(const MArgList& arguments, unsigned int& index, MStringArray& value);
+    /// An array of doubles, three to a vector; vectors are appended to what the array holds, and doubles that
+    /// make no whole vector are left out.
+    static bool readArgument(const MArgList& arguments, unsigned int& index, MVectorArray& value);
 
     /// @}
 };

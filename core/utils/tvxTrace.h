@@ -1,4 +1,4 @@
-// How the utilities tell of what went wrong and did not stop them.
+// How the utilities tell of what went wrong.
 #pragma once
 
 #include "core/log/tvxReport.h"
@@ -12,13 +12,21 @@
 #define TVX_TRACE(severity, function, text)                                                                  \
     do {                                                                                                     \
         const int tvxSeverity = (severity);                                                                  \
-        if (::tarvox::crowd::coreLog().getSeverityFilter() >= tvxSeverity)                                   \
+        if (::tarvox::crowd::coreLogAdmits(tvxSeverity))                                                     \
             ::tarvox::crowd::trace(tvxSeverity, __FILE__, __LINE__, (function),                              \
                                    [&](std::ostream& tvxText) { tvxText << text; });                         \
     } while (false)
 
 /// A warning, see TVX_TRACE.
 #define TVX_WARN(function, text) TVX_TRACE(::tarvox::core::kWarning, function, text)
+
+/// Ends a member that returns a status: reports `text` at ERROR, with line and file, and returns
+/// MS::kFailure.
+#define TVX_FAIL(function, text)                                                                             \
+    do {                                                                                                     \
+        TVX_REPORT(::tarvox::core::kError, (function), text);                                                \
+        return MStatus(MStatus::kFailure);                                                                   \
+    } while (false)
 
 /// The qualified name of a member of MayaUtils; `name` is a literal.
 #define TVX_UTILS_MEMBER(name) "tarvox::crowd::MayaUtils::" name

@@ -1,0 +1,41 @@
+// The walk from a DAG path down to the meshes below it.
+#pragma once
+
+#include "core/utils/tvxInstancePaths.h"
+
+#include <maya/MDagPath.h>
+#include <maya/MObject.h>
+#include <maya/MObjectHandle.h>
+
+#include <cstddef>
+#include <list>
+#include <unordered_map>
+
+namespace tarvox::crowd {
+
+/// Gathers the paths of meshes. What it finds out of the paths to an instanced node serves for the whole
+/// walk, so the graph must not change during it.
+class MeshPathWalk
+{
+public:
+    explicit MeshPathWalk(std::list<MDagPath>& meshes) : m_meshes(meshes) {}
+
+    /// Appends the meshes at and below a path.
+    void visit(MDagPath path);
+
+private:
+    bool hasChildrenToVisit(const MDagPath& path);
+    void visitChildren(MDagPath& path, std::size_t nameLength);
+    void visitChild(MDagPath& path, const MObject& child, std::size_t nameLength);
+    const InstancePaths& pathsTo(const MObject& child);
+
+    struct Hash
+    {
+        std::size_t operator()(const MObjectHandle& handle) const { return handle.hashCode(); }
+    };
+
+    std::list<MDagPath>& m_meshes;
+    std::unordered_map<MObjectHandle, InstancePaths, Hash> m_instanced;
+};
+
+} // namespace tarvox::crowd
