@@ -151,6 +151,16 @@ void applyNumbers(const mel::ParsedCommand& flags, const engine::Units& units, A
         attribute.defaultNumber = flags.number("defaultValue") * factor;
 }
 
+Outcome applyFields(const mel::ParsedCommand& flags, Attribute& attribute)
+{
+    if (!flags.has("enumName"))
+        return {};
+    auto fields = parseFields(flags.string("enumName"));
+    if (fields)
+        attribute.fields = std::move(fields.value);
+    return fields.outcome;
+}
+
 void applySwitches(const mel::ParsedCommand& flags, Attribute& attribute)
 {
     for (const SwitchRow& row : kSwitches)
@@ -166,21 +176,6 @@ void applySwitches(const mel::ParsedCommand& flags, Attribute& attribute)
 const char* truth(bool value)
 {
     return value ? "true" : "false";
-}
-
-std::string fieldsText(const std::vector<engine::EnumField>& fields)
-{
-    std::string text;
-    short expected = 0;
-    for (const engine::EnumField& field : fields) {
-        if (!text.empty())
-            text += ':';
-        text += field.name;
-        if (field.value != expected)
-            text += '=' + std::to_string(field.value);
-        expected = static_cast<short>(field.value + 1);
-    }
-    return text;
 }
 
 /// Writes a switch when it differs from what a new attribute has.
@@ -229,6 +224,21 @@ void addType(LineBreaker& line, const Attribute& attribute)
 }
 
 } // namespace
+
+std::string fieldsText(const std::vector<engine::EnumField>& fields)
+{
+    std::string text;
+    short expected = 0;
+    for (const engine::EnumField& field : fields) {
+        if (!text.empty())
+            text += ':';
+        text += field.name;
+        if (field.value != expected)
+            text += '=' + std::to_string(field.value);
+        expected = static_cast<short>(field.value + 1);
+    }
+    return text;
+}
 
 std::vector<mel::FlagSpec> addAttrFlags()
 {
@@ -284,17 +294,24 @@ Expected<AttributeDeclaration> declarationFrom(const mel::ParsedCommand& flags, 
     attribute.disconnectBehaviour = flags.integer("disconnectBehaviour", attribute.disconnectBehaviour);
     for (const mel::FlagUse* use : flags.uses("category"))
         attribute.categories.push_back(use->arguments.front().toString());
-    if (flags.has("enumName")) {
-        auto fields = parseFields(flags.string("enumName"));
-        if (!fields)
-            return fields.outcome;
-        attribute.fields = std::move(fields.value);
-    }
+    if (const Outcome applied = applyFields(flags, attribute); !applied)
+        return applied;
     applySwitches(flags, attribute);
     applyNumbers(flags, units, attribute);
     declaration.attribute = made.value;
     declaration.parent = flags.string("parent");
     return declaration;
+}
+
+Outcome editDeclaration(const mel::ParsedCommand& flags, const engine::Units& units, Attribute& attribute)
+{
+    if (!attribute.flags.dynamic)
+        return {Reason::readOnly, "Static attributes cannot be edited: " + attribute.longName};
+    if (const Outcome applied = applyFields(flags, attribute); !applied)
+        return applied;
+    applyNumbers(flags, units, attribute);
+    attribute.niceName = flags.string("niceName", attribute.niceName);
+    return {};
 }
 
 std::string addAttrLine(const Attribute& attribute, const engine::Units& units)

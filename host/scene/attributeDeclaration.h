@@ -30,6 +30,14 @@ struct AttributeDeclaration
 engine::Expected<AttributeDeclaration> declarationFrom(const mel::ParsedCommand& flags,
                                                        const engine::Units& units);
 
+/// What `addAttr -edit` changes of an attribute that was added to a node: fields, default, limits, nice name.
+/// readOnly for an attribute of the node's type.
+engine::Outcome editDeclaration(const mel::ParsedCommand& flags, const engine::Units& units,
+                                engine::Attribute& attribute);
+
+/// The fields of an enum as `-enumName` takes them: "red:green=5:blue".
+std::string fieldsText(const std::vector<engine::EnumField>& fields);
+
 /// The `addAttr …;` line of one attribute (its children have lines of their own), without leading tab.
 std::string addAttrLine(const engine::Attribute& attribute, const engine::Units& units);
 

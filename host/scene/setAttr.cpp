@@ -305,13 +305,16 @@ bool setsValue(const SetAttrRequest& request)
     return request.hasValues() || !request.type.empty();
 }
 
-std::string limitText(const Plug& plug, bool isMaximum, const engine::Units& units)
+/// The engine's text says internal units; where the user's are others, they are said instead.
+std::string limitMessage(const Plug& plug, const Outcome& outcome, const engine::Units& units)
 {
     const engine::Attribute& attribute = *plug.attribute();
+    const bool isMaximum = outcome.reason == Reason::pastMaximum;
     const std::optional<double>& limit = isMaximum ? attribute.maximum : attribute.minimum;
-    if (!limit)
-        return {};
-    return " of " + doubleText(*limit / internalPerUi(attribute, units));
+    if (attribute.unit == engine::UnitKind::none || !limit)
+        return outcome.text;
+    return "Cannot set the attribute '" + plug.name() + "' past its " + (isMaximum ? "maximum" : "minimum") +
+           " value of " + doubleText(*limit / internalPerUi(attribute, units)) + ".";
 }
 
 } // namespace
@@ -374,11 +377,8 @@ std::string refusedWriteMessage(const Plug& plug, const Outcome& outcome, const 
     case Reason::lockedOrConnected:
         return "The attribute '" + plug.name() + "' is locked or connected and cannot be modified.";
     case Reason::pastMinimum:
-        return "Cannot set the attribute '" + plug.name() + "' past its minimum value" +
-               limitText(plug, false, units) + ".";
     case Reason::pastMaximum:
-        return "Cannot set the attribute '" + plug.name() + "' past its maximum value" +
-               limitText(plug, true, units) + ".";
+        return limitMessage(plug, outcome, units);
     default:
         return outcome.text.empty() ? "Cannot set the attribute '" + plug.name() + "'." : outcome.text;
     }

@@ -45,6 +45,21 @@ Value queryDeclaration(CommandContext& context, const ParsedCommand& call)
         return Value(scene::attributeTypeName(attribute));
     if (call.has("keyable"))
         return Value(attribute.flags.keyable);
+    if (call.has("enumName"))
+        return Value(scene::fieldsText(attribute.fields));
+    return {};
+}
+
+Value editDeclarations(CommandContext& context, const ParsedCommand& call)
+{
+    for (const SelectionItem& item : itemsOrSelection(context, call.names())) {
+        if (item.plug.isNull())
+            context.fail("addAttr: No attribute was specified");
+        const engine::Outcome edited =
+            scene::editDeclaration(call, sceneOf(context).units(), *item.plug.attribute());
+        if (!edited)
+            context.fail("addAttr: " + edited.text);
+    }
     return {};
 }
 
@@ -52,6 +67,8 @@ Value addAttr(CommandContext& context, const ParsedCommand& call)
 {
     if (call.queries())
         return queryDeclaration(context, call);
+    if (call.edits())
+        return editDeclarations(context, call);
     SceneSession& session = sessionOf(context);
     std::vector<std::string> names = call.names();
     const std::vector<SelectionItem> items = itemsOrSelection(context, names);
@@ -68,12 +85,22 @@ Value addAttr(CommandContext& context, const ParsedCommand& call)
     return {};
 }
 
+FlagSpec& flagNamed(CommandSpec& spec, const std::string& longName)
+{
+    return *std::find_if(spec.flags.begin(), spec.flags.end(),
+                         [&](const FlagSpec& flag) { return flag.longName == longName; });
+}
+
 CommandSpec addAttrCommand()
 {
     CommandSpec spec = scene::addAttrSpec();
     for (FlagSpec& flag : spec.flags)
         flag.modes |= kQuery;
+    for (const char* name :
+         {"enumName", "defaultValue", "minValue", "maxValue", "softMinValue", "softMaxValue", "niceName"})
+        flagNamed(spec, name).modes |= kEdit;
     spec.queryable = true;
+    spec.editable = true;
     spec.handler = ParsedHandler(addAttr);
     return spec;
 }
@@ -133,14 +160,6 @@ Value range(CommandContext& context, const Attribute& attribute, const std::opti
         if (limit)
             numbers.push_back(*limit / factor);
     return Value(std::move(numbers));
-}
-
-std::string fieldList(const Attribute& attribute)
-{
-    std::string text;
-    for (const engine::EnumField& field : attribute.fields)
-        text += (text.empty() ? "" : ":") + field.name;
-    return text;
 }
 
 struct AttributeQuestion
@@ -225,7 +244,9 @@ const AttributeQuestion kQuestions[] = {
                                  : Value(Value::Strings());
      }},
     {"le", "listEnum", "the fields of an enum",
-     [](CommandContext&, Attribute& attribute) { return Value(Value::Strings{fieldList(attribute)}); }},
+     [](CommandContext&, Attribute& attribute) {
+         return Value(Value::Strings{scene::fieldsText(attribute.fields)});
+     }},
     {"ct", "categories", "the words to find it by",
      [](CommandContext&, Attribute& attribute) { return Value(Value::Strings(attribute.categories)); }},
 };

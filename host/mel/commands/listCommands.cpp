@@ -73,6 +73,8 @@ std::vector<SelectionItem> candidates(CommandContext& context, const ParsedComma
     engine::Scene& scene = sceneOf(context);
     if (call.has("selection") || call.has("orderedSelection"))
         return scene.selection().items();
+    if (call.has("hilite"))
+        return scene.hilite().items();
     const std::vector<std::string> names = call.names();
     if (names.empty())
         return everything(scene, call.has("allPaths"));
@@ -114,6 +116,17 @@ bool isOfTypes(const Node& node, const ParsedCommand& call)
            std::any_of(exact.begin(), exact.end(), [&](const FlagUse* use) { return own == names(use); });
 }
 
+/// Whether a path is templated, visible, invisible when the call asks for such ones.
+bool isShownAsAsked(const SelectionItem& item, const ParsedCommand& call)
+{
+    const auto isRefused = [&](const char* flag, bool (*is)(const engine::DagPath&)) {
+        return call.has(flag) && !(item.isDag() && is(item.path));
+    };
+    return !isRefused("templated", [](const engine::DagPath& path) { return path.isTemplated(); }) &&
+           !isRefused("visible", [](const engine::DagPath& path) { return path.isVisible(); }) &&
+           !isRefused("invisible", [](const engine::DagPath& path) { return !path.isVisible(); });
+}
+
 bool isListed(const SelectionItem& item, const ParsedCommand& call)
 {
     Node& node = *item.node;
@@ -137,6 +150,8 @@ bool isListed(const SelectionItem& item, const ParsedCommand& call)
     if (call.has("assemblies") && !(dag && !dag->parents().empty() && dag->parents().front()->isWorld()))
         return false;
     if (call.has("noIntermediate") && dag && dag->isIntermediate())
+        return false;
+    if (!isShownAsAsked(item, call))
         return false;
     return isOfTypes(node, call);
 }
@@ -211,6 +226,10 @@ void registerListCommands(CommandTable& table)
         "ls", "Lists objects",
         {switchFlag("sl", "selection", "those that are selected"),
          switchFlag("os", "orderedSelection", "the same in the order of selection"),
+         switchFlag("hl", "hilite", "those that are hilited for components"),
+         switchFlag("tm", "templated", "templated objects"),
+         switchFlag("v", "visible", "visible objects"),
+         switchFlag("iv", "invisible", "hidden objects"),
          switchFlag("l", "long", "full paths"),
          valueFlag("typ", "type", A::string, "of this type or one derived from it", kCreate | kMultiUse),
          valueFlag("et", "exactType", A::string, "of exactly this type", kCreate | kMultiUse),

@@ -9,10 +9,10 @@ void registerSceneCommands(CommandTable& table)
 {
     for (const auto& registerFamily :
          {registerNodeCommands, registerListCommands, registerSelectionCommands, registerDagCommands,
-          registerAttributeValueCommands, registerAttributeCommands, registerConnectionCommands,
-          registerSetCommands, registerTransformCommands, registerTimeCommands, registerPreferenceCommands,
-          registerFileCommands, registerPluginCommands, registerInterfaceCommands, registerNamespaceCommands,
-          registerUndoCommands})
+          registerAttributeValueCommands, registerAttributeCommands, registerClassificationCommands,
+          registerConnectionCommands, registerSetCommands, registerTransformCommands, registerTimeCommands,
+          registerPreferenceCommands, registerFileCommands, registerPluginCommands, registerInterfaceCommands,
+          registerNamespaceCommands, registerUndoCommands})
         registerFamily(table);
 }
 

@@ -11,6 +11,7 @@ void registerSelectionCommands(CommandTable& table);
 void registerDagCommands(CommandTable& table);
 void registerAttributeValueCommands(CommandTable& table);
 void registerAttributeCommands(CommandTable& table);
+void registerClassificationCommands(CommandTable& table);
 void registerConnectionCommands(CommandTable& table);
 void registerSetCommands(CommandTable& table);
 void registerTransformCommands(CommandTable& table);

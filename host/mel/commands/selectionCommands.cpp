@@ -1,4 +1,4 @@
-// select: what is active.
+// select, hilite: what is active.
 #include "commandSupport.h"
 #include "sceneCommands.h"
 #include "setMembers.h"
@@ -100,6 +100,25 @@ Value select(CommandContext& context, const ParsedCommand& call)
     return {};
 }
 
+/// The objects whose components can be picked. Only whole DAG objects can be hilited.
+Value hilite(CommandContext& context, const ParsedCommand& call)
+{
+    engine::Scene& scene = sceneOf(context);
+    SelectionList list;
+    if (!call.has("replace"))
+        list = scene.hilite();
+    for (const SelectionItem& item : itemsOrSelection(context, call.names())) {
+        if (!item.isDag() || !item.plug.isNull() || !item.components.empty())
+            continue;
+        if (call.has("unHilite") || (call.has("toggle") && list.contains(item)))
+            list.remove(item);
+        else
+            list.add(item);
+    }
+    scene.setHilite(std::move(list));
+    return {};
+}
+
 } // namespace
 
 void registerSelectionCommands(CommandTable& table)
@@ -118,7 +137,12 @@ void registerSelectionCommands(CommandTable& table)
                       switchFlag("hi", "hierarchy", "with everything below"),
                       switchFlag("ne", "noExpand", "sets themselves, not their members"),
                       switchFlag("vis", "visible", "visible objects only")},
-                     names(), select)});
+                     names(), select),
+         makeCommand("hilite", "Hilites objects, or the selected ones, for the selection of components",
+                     {switchFlag("r", "replace", "the objects alone are hilited"),
+                      switchFlag("tgl", "toggle", "hilites those that are not, and the others no more"),
+                      switchFlag("u", "unHilite", "they are hilited no more")},
+                     names(), hilite)});
 }
 
 } // namespace tvxhost::mel

@@ -56,6 +56,50 @@ TEST_F(AttributeCommandsTest, hardLimitsAreHeldUnlessClamped)
     EXPECT_EQ(run("getAttr n.h"), "1");
 }
 
+TEST_F(AttributeCommandsTest, limitsAreToldInTheUnitsOfTheUser)
+{
+    run("addAttr -ln \"reach\" -at doubleLinear -max 200 n; currentUnit -l m");
+    EXPECT_EQ(failure("setAttr n.reach 3"),
+              "setAttr: Cannot set the attribute 'n.reach' past its maximum value of 2.");
+}
+
+TEST_F(AttributeCommandsTest, theChildOfACompoundThatIsPastItsLimitIsNamed)
+{
+    run("addAttr -ln \"tint\" -at float3 n; addAttr -ln \"tintR\" -at \"float\" -max 1 -p tint n;"
+        "addAttr -ln \"tintG\" -at \"float\" -max 1 -p tint n;"
+        "addAttr -ln \"tintB\" -at \"float\" -max 1 -p tint n");
+    EXPECT_EQ(failure("setAttr n.tint 0.5 2 0.5"),
+              "setAttr: Cannot set the attribute 'n.tintG' past its maximum value of 1.");
+    EXPECT_THAT(numbers("getAttr n.tint"), ElementsAre(0, 0, 0));
+    run("setAttr -clamp n.tint 0.5 2 0.5");
+    EXPECT_THAT(numbers("getAttr n.tint"), ElementsAre(0.5, 1, 0.5));
+}
+
+TEST_F(AttributeCommandsTest, whatIsNotWritableIsRefused)
+{
+    run("addAttr -ln \"level\" -at double -dv 4 -w false n");
+    EXPECT_EQ(failure("setAttr n.level 1"), "setAttr: The attribute 'n.level' cannot be set");
+    EXPECT_EQ(failure("setAttr -clamp n.level 1"), "setAttr: The attribute 'n.level' cannot be set");
+    EXPECT_EQ(run("getAttr n.level"), "4");
+    EXPECT_EQ(run("getAttr -settable n.level"), "0");
+    EXPECT_EQ(failure("connectAttr n.tx n.level"),
+              "Connection not made: 'n.translateX' -> 'n.level'.  Destination attribute must be writable.");
+}
+
+TEST_F(AttributeCommandsTest, childrenOfColoursAreSetAndConnectedOneByOne)
+{
+    run("createNode lambert -n \"l\"; createNode lambert -n \"m\"; setAttr l.colorG 0.25; setAttr l.cb 0.75");
+    EXPECT_EQ(run("getAttr l.colorG"), "0.25");
+    EXPECT_EQ(run("getAttr l.cg"), "0.25");
+    run("connectAttr l.colorG m.colorR");
+    EXPECT_EQ(run("getAttr m.colorR"), "0.25");
+    EXPECT_EQ(failure("setAttr m.colorR 1"),
+              "setAttr: The attribute 'm.colorR' is locked or connected and cannot be modified.");
+    EXPECT_EQ(run("getAttr -settable m.color"), "0");
+    EXPECT_EQ(run("getAttr -settable m.colorG"), "1");
+    EXPECT_EQ(run("connectionInfo -sfd m.colorR"), "l.colorG");
+}
+
 TEST_F(AttributeCommandsTest, namesThatNothingMatchesAreNamed)
 {
     EXPECT_EQ(failure("setAttr n.nope 1"), "No object matches name: n.nope");
@@ -84,7 +128,39 @@ TEST_F(AttributeCommandsTest, enumsAnswerNumbersAndFields)
     run("addAttr -ln \"mode\" -at \"enum\" -en \"off:on low=5:high\" n; setAttr n.mode 5");
     EXPECT_EQ(run("getAttr n.mode"), "5");
     EXPECT_EQ(run("getAttr -as n.mode"), "on low");
-    EXPECT_THAT(strings("attributeQuery -n n -le \"mode\""), ElementsAre("off:on low:high"));
+    EXPECT_THAT(strings("attributeQuery -n n -le \"mode\""), ElementsAre("off:on low=5:high"));
+    EXPECT_EQ(run("addAttr -q -en n.mode"), "off:on low=5:high");
+    EXPECT_EQ(run("getAttr -type n.mode"), "enum");
+}
+
+TEST_F(AttributeCommandsTest, enumsHoldTheRangeOfTheirFields)
+{
+    run("addAttr -ln \"mode\" -at \"enum\" -en \"low=2:mid:high=7\" -dv 2 n");
+    EXPECT_EQ(failure("setAttr n.mode 8"),
+              "setAttr: Cannot set the attribute 'n.mode' past its maximum value of 7.");
+    EXPECT_EQ(failure("setAttr n.mode 1"),
+              "setAttr: Cannot set the attribute 'n.mode' past its minimum value of 2.");
+    EXPECT_EQ(run("getAttr -asString n.mode"), "low");
+    run("setAttr -clamp n.mode 100");
+    EXPECT_EQ(run("getAttr -asString n.mode"), "high");
+    // A number between two fields is legal and has no name.
+    run("setAttr n.mode 5");
+    EXPECT_EQ(run("getAttr n.mode"), "5");
+    EXPECT_EQ(run("getAttr -asString n.mode"), "");
+    failure("setAttr n.mode \"mid\"");
+    EXPECT_EQ(run("getAttr n.mode"), "5");
+}
+
+TEST_F(AttributeCommandsTest, addAttrEditsWhatWasAdded)
+{
+    run("addAttr -ln \"mode\" -at \"enum\" -en \"off:on\" n; addAttr -ln \"weight\" -max 1 n");
+    run("addAttr -e -en \"off:on:auto\" n.mode; setAttr n.mode 2");
+    EXPECT_EQ(run("getAttr -as n.mode"), "auto");
+    run("addAttr -e -max 3 -dv 0.5 -nn \"Mass\" n.weight; setAttr n.weight 2");
+    EXPECT_EQ(run("addAttr -q -max n.weight"), "3");
+    EXPECT_EQ(run("addAttr -q -dv n.weight"), "0.5");
+    EXPECT_EQ(run("addAttr -q -nn n.weight"), "Mass");
+    EXPECT_EQ(failure("addAttr -e -dv 1 n.tx"), "addAttr: Static attributes cannot be edited: translateX");
 }
 
 TEST_F(AttributeCommandsTest, arraysKnowTheirElements)
