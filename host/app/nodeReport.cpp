@@ -3,6 +3,7 @@
 
 #include "engine/dagPath.h"
 #include "engine/plug.h"
+#include "mel/arguments.h"
 
 #include <cstdio>
 
@@ -45,7 +46,7 @@ engine::Expected<std::string> valueText(const Plug& plug)
     if (plug.attribute()->kind == engine::AttributeKind::typed &&
         plug.attribute()->dataType == engine::DataType::string) {
         const auto string = engine::readString(plug);
-        return string ? engine::Expected<std::string>("\"" + string.value + "\"") : string.outcome;
+        return string ? engine::Expected<std::string>(mel::quoted(string.value)) : string.outcome;
     }
     const auto numbers = engine::readNumbers(plug);
     if (!numbers)
@@ -98,7 +99,10 @@ Evaluation evaluatePluginNodes(engine::Scene& scene)
     for (Node* node : scene.nodes()) {
         if (node->type().plugin.empty())
             continue;
-        for (Attribute* attribute : tellingAttributes(node->type()))
+        const std::vector<Attribute*> attributes = tellingAttributes(node->type());
+        if (attributes.empty())
+            evaluation.lines.push_back(node->name() + ": no attributes of its own");
+        for (Attribute* attribute : attributes)
             evaluate(Plug(*node, *attribute), evaluation);
     }
     return evaluation;

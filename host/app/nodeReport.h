@@ -15,12 +15,13 @@ std::vector<std::string> listNodes(engine::Scene& scene);
 /// What the nodes of plug-ins' types evaluate to.
 struct Evaluation
 {
-    std::vector<std::string> lines;    ///< "node.attribute = value"
+    std::vector<std::string> lines;    ///< "node.attribute = value", strings as MEL writes them
     std::vector<std::string> failures; ///< "node.attribute: why"
 };
 
 /// Evaluates, for every node of a type of a plug-in, the outputs of its type; all attributes of its type
-/// where there are no outputs. Inherited attributes do not count.
+/// where there are no outputs. Inherited attributes do not count; a node that has no others has a line that
+/// says so.
 Evaluation evaluatePluginNodes(engine::Scene& scene);
 
 } // namespace tvxhost::app

@@ -22,6 +22,7 @@ constexpr const char* kExamples = R"(Examples:
   tvxhost -e 'createNode "locator"' --script setup.mel --save out.ma in.ma
   tvxhost --summary=json shot.ma
   tvxhost --check setup.mel
+  tvxhost --plugin tvxCrowdRender.so --describe CrowdHSLShaderVRay
   tvxhost --plugin tvxCrowdRender.so --fail MFnPlugin::registerNode:2:kFailure --list-calls
 
 Environment:
@@ -34,6 +35,7 @@ struct Words
     std::string file;
     std::string size;
     std::string check;
+    std::string describe;
     std::string summary;
     std::vector<std::string> faults;
 };
@@ -63,9 +65,14 @@ void declareReports(CLI::App& app, Options& options, Words& words)
         ->check(format);
     app.add_flag("--list-nodes", options.listNodes, "Tell every node's type and name");
     app.add_flag("--evaluate", options.evaluate, "Tell what the nodes of the plug-ins evaluate to");
-    app.add_flag("--check{text}", words.check,
-                 "Parse FILE as MEL and run nothing: the verdict, procedures, statements; text or =json")
-        ->check(format);
+    CLI::Option* check =
+        app.add_flag("--check{text}", words.check,
+                     "Parse FILE as MEL and run nothing: the verdict, procedures, statements; text or =json")
+            ->check(format);
+    app.add_flag("--describe{text}", words.describe,
+                 "Tell what the node type FILE is and which attributes it has; text or =json")
+        ->check(format)
+        ->excludes(check);
 }
 
 void declareMode(CLI::App& app, Options& options, Words& words)
@@ -106,17 +113,21 @@ void takeFaults(const std::vector<std::string>& words, Options& options)
     }
 }
 
+/// What the lone word is depends on what is asked for.
 void takeFile(const Words& words, Options& options)
 {
-    const auto format = formatNamed(words.check);
-    if (!format) {
-        options.scene = words.file;
-        return;
-    }
-    if (words.file.empty())
+    options.checkFormat = formatNamed(words.check);
+    options.describeFormat = formatNamed(words.describe);
+    if (options.checkFormat && words.file.empty())
         throw CLI::ValidationError("--check", "no MEL file is named");
-    options.check = words.file;
-    options.checkFormat = *format;
+    if (options.describeFormat && words.file.empty())
+        throw CLI::ValidationError("--describe", "no node type is named");
+    if (options.checkFormat)
+        options.check = words.file;
+    else if (options.describeFormat)
+        options.describe = words.file;
+    else
+        options.scene = words.file;
 }
 
 void take(const Words& words, Options& options)
@@ -159,7 +170,9 @@ CommandLine parseCommandLine(int argc, const char* const* argv)
     declareWork(app, options, words);
     declareReports(app, options, words);
     declareMode(app, options, words);
-    app.add_option("FILE", words.file, "The scene to open; a new scene when not given");
+    app.add_option(
+        "FILE", words.file,
+        "The scene to open; a new scene when not given. The script of --check, the node type of --describe");
 
     CommandLine result;
     try {

@@ -35,8 +35,10 @@ struct Options
     std::string save;   ///< Maya ASCII file to write; empty: none
     std::string scene;  ///< Maya ASCII file to open; empty: a new scene
 
-    std::string check; ///< MEL file to check and not to run
-    ReportFormat checkFormat = ReportFormat::text;
+    std::string check; ///< MEL file to check and not to run; empty: none
+    std::optional<ReportFormat> checkFormat;
+    std::string describe; ///< node type to tell about; empty: none
+    std::optional<ReportFormat> describeFormat;
     std::optional<ReportFormat> summary;
     bool listNodes = false;
     bool evaluate = false;

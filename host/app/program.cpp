@@ -3,6 +3,7 @@
 
 #include "nodeReport.h"
 #include "progress.h"
+#include "typeReport.h"
 
 #include "api/support/faults.h"
 #include "engine/atomicFile.h"
@@ -68,6 +69,7 @@ private:
     bool runScript();
     bool runText(const std::string& text);
     void report();
+    void describeType();
     bool mayWrite(const std::string& file);
     void renderPicture();
     void saveScene();
@@ -176,6 +178,21 @@ void Program::report()
         for (const std::string& failure : evaluation.failures)
             m_session.editor().error("cannot evaluate " + failure);
     }
+    if (m_options.describeFormat)
+        describeType();
+}
+
+void Program::describeType()
+{
+    const engine::NodeType* type = m_session.scene().types().find(m_options.describe);
+    if (!type) {
+        m_session.editor().error("Unknown object type: " + m_options.describe +
+                                 " (the types of a plug-in are there once it is loaded)");
+        return;
+    }
+    const engine::Units& units = m_session.scene().units();
+    print(m_options.describeFormat == ReportFormat::json ? describeAsJson(*type, units)
+                                                         : describeAsText(*type, units));
 }
 
 /// What came of a scene that is half changed, or lacks a plug-in's part, must not replace a whole file.
@@ -235,7 +252,7 @@ int checkScript(const Options& options, const Streams& streams)
 
 int runProgram(const Options& options, const Streams& streams)
 {
-    return options.check.empty() ? Program(options, streams).run() : checkScript(options, streams);
+    return options.checkFormat ? checkScript(options, streams) : Program(options, streams).run();
 }
 
 } // namespace tvxhost::app

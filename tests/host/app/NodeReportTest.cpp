@@ -105,10 +105,17 @@ TEST_F(NodeReportTest, ShowsAllAttributesOfATypeWithoutOutputs)
     ASSERT_TRUE(type.addAttribute(text));
     ASSERT_TRUE(type.addAttribute(engine::makeColor("tint", "ti")));
     engine::Node& node = create("label", "sign");
-    ASSERT_TRUE(engine::writeString(node.findPlug("text").value, "to the exit"));
+    ASSERT_TRUE(engine::writeString(node.findPlug("text").value, "to the \"exit\"\n"));
     ASSERT_TRUE(engine::writeNumbers(node.findPlug("tint").value, {1, 0.5, 0.25}));
     EXPECT_THAT(app::evaluatePluginNodes(m_scene).lines,
-                ElementsAre("sign.text = \"to the exit\"", "sign.tint = 1 0.5 0.25"));
+                ElementsAre("sign.text = \"to the \\\"exit\\\"\\n\"", "sign.tint = 1 0.5 0.25"));
+}
+
+TEST_F(NodeReportTest, SaysThatANodeHasNoAttributesOfItsOwn)
+{
+    addType("bare", 0x7f103);
+    create("bare", "mark");
+    EXPECT_THAT(app::evaluatePluginNodes(m_scene).lines, ElementsAre("mark: no attributes of its own"));
 }
 
 TEST_F(NodeReportTest, NamesWhatCannotBeEvaluated)

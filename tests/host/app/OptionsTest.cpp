@@ -64,8 +64,20 @@ TEST(CommandLineOptions, TakeTheFileOfACheckAsAScript)
     EXPECT_EQ(options.scene, "");
 }
 
+TEST(CommandLineOptions, TakeTheLoneWordAsTheTypeToDescribe)
+{
+    const Options options = optionsOf({"--describe", "transform", "--plugin", "p"});
+    EXPECT_EQ(options.describe, "transform");
+    EXPECT_EQ(options.describeFormat, ReportFormat::text);
+    EXPECT_EQ(options.scene, "");
+    EXPECT_EQ(optionsOf({"--describe=json", "transform"}).describeFormat, ReportFormat::json);
+    EXPECT_EQ(optionsOf({"transform", "--describe"}).describe, "transform");
+}
+
 TEST(CommandLineOptions, AreRefusedWithASentence)
 {
+    EXPECT_THAT(parse({"--describe"}).error, HasSubstr("no node type is named"));
+    EXPECT_THAT(parse({"--describe", "--check", "f.mel"}).error, HasSubstr("excludes"));
     EXPECT_THAT(parse({"--check"}).error, HasSubstr("no MEL file is named"));
     EXPECT_THAT(parse({"--size", "640"}).error, HasSubstr("\"640\" is not a size such as 1280x720"));
     EXPECT_THAT(parse({"--fail", "A::b:x"}).error, HasSubstr("\"A::b:x\" is not of the form"));
