@@ -59,7 +59,8 @@ void drawViewAxes(const Matrix& view, int width, int height)
 {
     const int side = std::min({kAxesPixels, width, height});
     Matrix turn = view;
-    turn.setTranslation(Vec3d(0, 0, 0));
+    for (int axis = 0; axis < 3; ++axis)
+        turn[3][axis] = 0;
     glPushAttrib(GL_VIEWPORT_BIT | GL_DEPTH_BUFFER_BIT);
     glViewport(0, 0, side, side);
     glDisable(GL_DEPTH_TEST);

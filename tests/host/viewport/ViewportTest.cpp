@@ -124,6 +124,25 @@ TEST_F(ViewportTest, ALocatorIsACrossOfItsScaleAtItsPlace)
         EXPECT_EQ(picture.at(300, y), kBackground) << y;
 }
 
+TEST_F(ViewportTest, TheAxesInTheCornerTurnWithTheView)
+{
+    const Rgb x{255, 0, 0};
+    const Rgb y{0, 255, 0};
+    const Rgb z{0, 0, 255};
+    // The axis that a view looks along is a point at most; the others are 1 / 2.8 of the corner's 64 pixels.
+    const struct
+    {
+        const char* camera;
+        Rgb along, across, upright;
+    } views[] = {{"top", y, x, z}, {"front", z, x, y}, {"side", x, z, y}};
+    for (const auto& view : views) {
+        const Picture picture = draw(200, 200, view.camera);
+        EXPECT_LE(count(picture, view.along), 1) << view.camera;
+        EXPECT_NEAR(count(picture, view.across), 23, 2) << view.camera;
+        EXPECT_NEAR(count(picture, view.upright), 23, 2) << view.camera;
+    }
+}
+
 TEST_F(ViewportTest, TheSelectedWireHasTheLeadColour)
 {
     lookFromFront();
@@ -166,6 +185,47 @@ TEST_F(ViewportTest, APluginDrawsInTheSpaceOfEachInstanceWithItsStatus)
     EXPECT_EQ(picture.at(100, 150), (Rgb{0, 255, 0}));
     EXPECT_EQ(picture.at(300, 150), (Rgb{255, 255, 0}));
     EXPECT_EQ(picture.at(200, 150), kBackground);
+}
+
+TEST_F(ViewportTest, ALocatorWithoutABoundingBoxIsDrawnWhereverItsOriginLies)
+{
+    lookFromFront();
+    DagNode& far = create("transform", "far");
+    set(far, "translateX", 1000);
+    create("testLocator", "shape", &far);
+    TestLocator::draws = [](M3dView& view, const MDagPath&, M3dView::DisplayStatus) {
+        view.beginGL();
+        glColor4f(1, 1, 0, 1);
+        glBegin(GL_LINES);
+        glVertex3d(-1002, 1, 0);
+        glVertex3d(-998, 1, 0);
+        glEnd();
+        view.endGL();
+    };
+    // From one side of the picture to the other.
+    EXPECT_NEAR(count(draw(400, 400), Rgb{255, 255, 0}), 400, 1);
+}
+
+TEST_F(ViewportTest, APluginIsToldOfTemplatesAndHilites)
+{
+    for (const char* name : {"plain", "template", "picked", "hilited"})
+        create("testLocator", (std::string(name) + "Shape").c_str(), &create("transform", name));
+    set(*m_scene.findNode("template").value->asDag(), "template", 1);
+    set(*m_scene.findNode("picked").value->asDag(), "template", 1);
+    engine::SelectionList selection;
+    selection.add(m_scene.findItem("picked").value);
+    m_scene.setSelection(selection);
+    engine::SelectionList hilite;
+    hilite.add(m_scene.findItem("hilited").value);
+    m_scene.setHilite(hilite);
+
+    std::vector<M3dView::DisplayStatus> statuses;
+    TestLocator::draws = [&](M3dView&, const MDagPath&, M3dView::DisplayStatus status) {
+        statuses.push_back(status);
+    };
+    draw(10, 10);
+    EXPECT_EQ(statuses, (std::vector<M3dView::DisplayStatus>{M3dView::kDormant, M3dView::kTemplate,
+                                                             M3dView::kActiveTemplate, M3dView::kHilite}));
 }
 
 TEST_F(ViewportTest, APluginSeesTheViewItDrawsTo)
