@@ -85,10 +85,10 @@ class Scene:
         lines.append(words + (" -p \"%s\";" % parent if parent else ";"))
         lines.append("\trename -uid \"%s\";" % uid("%s|%s" % (parent, name)))
 
-    def values(self, lines, head, numbers):
-        """A long list of numbers, broken as Maya breaks it."""
+    def values(self, lines, head, words):
+        """A long list of words, broken as Maya breaks it."""
         line = head
-        for text in numbers:
+        for text in words:
             if len(line) + 1 + len(text) > 78:
                 lines.append(line)
                 line = "\t\t"
@@ -153,12 +153,12 @@ class Scene:
     def text(self):
         head = ["//Maya ASCII 2016 scene", "//Name: " + self.name,
                 "//Last modified: Mon, Mar 07, 2016 10:12:31 AM", "//Codeset: UTF-8",
-                "requires maya \"2016\";",
-                "requires -nodeType \"CrowdProxyVRay\" -nodeType \"CrowdSwitchShaderVRay\" "
-                "\"tvxCrowdRender\" \"2.5.0.1\";",
-                "currentUnit -l centimeter -a degree -t film;",
-                "fileInfo \"application\" \"maya\";", "fileInfo \"product\" \"Maya 2016\";",
-                "fileInfo \"version\" \"2016\";", "fileInfo \"osv\" \"Linux 3.10.0-327.el7.x86_64\";"]
+                "requires maya \"2016\";"]
+        self.values(head, "requires",
+                    ["-nodeType \"%s\"" % t for t in PLUGIN_TYPES] + ["\"tvxCrowdRender\"", "\"2.5.0.1\""])
+        head += ["currentUnit -l centimeter -a degree -t film;",
+                 "fileInfo \"application\" \"maya\";", "fileInfo \"product\" \"Maya 2016\";",
+                 "fileInfo \"version\" \"2016\";", "fileInfo \"osv\" \"Linux 3.10.0-327.el7.x86_64\";"]
         lines = head + self.dag + self.instances + self.nodes + self.defaults + self.connections
         return "\n".join(lines) + "\n// End of %s\n" % self.name
 
@@ -246,11 +246,20 @@ def add_stage(scene):
     return ["stageShape"]
 
 
+# The node types of the plug-in that the scene uses, as the requires line names them.
+PLUGIN_TYPES = ("CrowdGetUserData3Delight", "CrowdGetUserDataVRay", "CrowdHSLShaderVRay",
+                "CrowdProxyRendermanStudio", "CrowdProxyVRay", "CrowdRenderManagerNode",
+                "CrowdSwitchShader3Delight", "CrowdSwitchShaderVRay")
+
 # Name, position, heading and what the proxy stands for.
 PROXIES = [("proxyStage", (0, 1.8, -5), 0, "band"), ("proxyGate", (3, 1, 10), 10, "gate"),
            ("proxyWest", (-15, 1, -1), 40, "street_west"), ("proxyEast", (15, 1, -3), -40, "street_east"),
            ("proxyBackLeft", (-6, 1, -11), 10, "backstage_left"), ("proxyBackRight", (6, 1, -11), -10, "backstage_right"),
            ("proxyLeft", (-9.5, 1, 7.5), 20, "plaza_left"), ("proxyRight", (10.5, 1, 4.5), -15, "plaza_right")]
+
+# The same for the proxies of the RenderMan shot.
+RIB_PROXIES = [("ribLeft", (-1.4, 0, 11.6), 20, "plaza_left"), ("ribFar", (-7.5, 0, -12.5), 20, "backstage_left"),
+               ("ribBack", (12, 0, -8), 25, "backstage_right")]
 
 
 def add_proxies(scene):
@@ -265,12 +274,43 @@ def add_proxies(scene):
         if i % 2 == 0:
             scene.dag.append("\tsetAttr \".pyc\" -type \"string\" \"crowd.onTranslate\";")
 
+    for i, (name, t, heading, crowd) in enumerate(RIB_PROXIES):
+        # The emblem lies on the ground; a turn about X makes it stand.
+        scene.transform(name, "proxies", t, (90, heading, 0), (1.4, 1.4, 1.4))
+        shape = "crowdProxyRMSShape" + (str(i) if i else "")
+        scene.create(scene.dag, "CrowdProxyRendermanStudio", shape, name)
+        scene.dag += ["\tsetAttr -k off \".v\";",
+                      "\tsetAttr \".scn\" -type \"string\" \"%s\";" % crowd,
+                      "\tsetAttr \".cfr\" %d;" % (101 + 12 * i),
+                      "\tsetAttr \".fr\" 24;",
+                      "\tsetAttr \".rfd\" -type \"string\" \"/shots/plaza/rib/%s\";" % crowd]
+
+
+def add_manager(scene):
+    scene.transform("crowdRenderManager")
+    scene.create(scene.dag, "CrowdRenderManagerNode", "crowdRenderManagerNodeShape", "crowdRenderManager")
+    scene.dag.append("\tsetAttr -k off \".v\";")
+
 
 # Material, then the colours of its switch (shader index → colour) and whether shader0 is a file texture.
 CLOTHES = [("stander", {0: (0.55, 0.14, 0.12), 1: (0.1, 0.25, 0.6), 2: (0.12, 0.45, 0.2)}, None),
            ("walker", {1: (0.8, 0.7, 0.1), 2: (0.2, 0.2, 0.22)}, "uniform.png"),
            ("waver", {0: (0.1, 0.25, 0.6), 3: (0.7, 0.3, 0.5)}, None),
            ("cheerer", {1: (0.9, 0.9, 0.85)}, "scarf.png")]
+
+# Poses whose switch takes its choice from the renderer's data, and where from.
+CHOICES = {"stander": "clothesIndex", "cheerer": "objectNumber"}
+# Poses whose colour is shifted: offsets of hue, saturation and lightness.
+SHIFTS = {"walker": (0.08, -0.25, 0), "cheerer": (0, 0.1, -0.2)}
+
+# Type, name, parameters and code of the 3Delight nodes.
+SHADING_CODE = [
+    ("CrowdGetUserData3Delight", "clothesIndex3Delight", "float fallback = 0;",
+     "float clothes = fallback;\nattribute(\"user:clothes\", clothes);"),
+    ("CrowdSwitchShader3Delight", "clothes3Delight",
+     "color shader0 = color(0.55, 0.14, 0.12);\ncolor shader1 = color(0.1, 0.25, 0.6);",
+     "outColor = clothes < 1 ? shader0 : shader1;"),
+]
 
 
 def add_scene_nodes(scene):
@@ -320,12 +360,40 @@ def add_texture(scene, name, picture):
     scene.connect(name + "Place.ofs", name + ".fs")
 
 
+def add_user_data(scene):
+    """What the renderer tells of each figure: the index of its clothes, and its object's number."""
+    scene.create(scene.nodes, "CrowdGetUserDataVRay", "clothesIndex")
+    scene.create(scene.nodes, "CrowdGetUserDataVRay", "objectNumber")
+    scene.nodes += ["\tsetAttr \".pt\" 1;", "\tsetAttr \".df\" 2;"]
+
+
+def add_shift(scene, pose, switch):
+    """A node that shifts hue, saturation and lightness of what the switch gives."""
+    name = pose + "Shift"
+    scene.create(scene.nodes, "CrowdHSLShaderVRay", name)
+    for attribute, offset in zip("hsl", SHIFTS[pose]):
+        if offset:
+            scene.nodes.append("\tsetAttr \".%s\" %s;" % (attribute, number(offset)))
+    scene.connect(switch + ".op", name + ".in")
+    return name
+
+
+def add_shading_code(scene):
+    """The 3Delight side: nodes that carry shading-language text."""
+    for node_type, name, parameters, code in SHADING_CODE:
+        scene.create(scene.nodes, node_type, name)
+        for attribute, text in (("sp", parameters), ("sc", code)):
+            escaped = text.replace("\\", "\\\\").replace("\"", "\\\"").replace("\n", "\\n")
+            scene.nodes.append("\tsetAttr \".%s\" -type \"string\" \"%s\";" % (attribute, escaped))
+
+
 def add_shading(scene, paths, stage):
     materials = []
+    add_user_data(scene)
     for index, (pose, colors, picture) in enumerate(CLOTHES):
         switch = pose + "Switch"
         scene.create(scene.nodes, "CrowdSwitchShaderVRay", switch)
-        if index:
+        if pose not in CHOICES and index:
             scene.nodes.append("\tsetAttr \".sel\" %d;" % index)
         if index == 3:
             scene.nodes.append("\tsetAttr \".sto\" 12;")
@@ -336,10 +404,16 @@ def add_shading(scene, paths, stage):
             add_texture(scene, texture, picture)
             scene.connect(texture + ".oc", switch + ".sh0")
         add_material(scene, pose, None, paths[pose])
-        scene.connect(switch + ".op", pose + "Mat.c")
+        last = switch
+        if pose in SHIFTS:
+            last = add_shift(scene, pose, switch)
+        scene.connect(last + ".op", pose + "Mat.c")
+        if pose in CHOICES:
+            scene.connect(CHOICES[pose] + ".op", switch + ".sel")
         materials.append(pose)
     add_material(scene, "stage", (0.35, 0.3, 0.26), stage)
     materials.append("stage")
+    add_shading_code(scene)
     # One switch feeds another: the waver's second choice is what the stander wears.
     scene.connect("standerSwitch.op", "waverSwitch.sh1")
     return materials
@@ -348,8 +422,10 @@ def add_shading(scene, paths, stage):
 def add_defaults(scene, materials):
     count = len(materials)
     textures = [pose + "Texture" for pose, _, picture in CLOTHES if picture]
-    switches = [pose + "Switch" for pose, _, _ in CLOTHES]
-    utilities = switches + [t + "Place" for t in textures]
+    utilities = ["clothesIndex", "objectNumber"]
+    for pose, _, _ in CLOTHES:
+        utilities += [pose + "Switch"] + ([pose + "Shift"] if pose in SHIFTS else [])
+    utilities += [t + "Place" for t in textures] + [name for _, name, _, _ in SHADING_CODE]
     scene.defaults = [
         "select -ne :time1;", "\tsetAttr \".o\" 1;", "\tsetAttr \".unw\" 1;",
         "select -ne :renderPartition;", "\tsetAttr -s %d \".st\";" % (count + 2),
@@ -387,6 +463,7 @@ def main():
     stage = add_stage(scene)
     paths = add_figures(scene)
     add_proxies(scene)
+    add_manager(scene)
     add_scene_nodes(scene)
     materials = add_shading(scene, paths, stage)
     add_defaults(scene, materials)

@@ -19,7 +19,7 @@ TEST(CommandLine, HelpNamesTheOptionsAndGivesExamples)
     EXPECT_EQ(result.errors, "");
     for (const char* option :
          {"--plugin", "--prefs", "--script", "-e,--execute", "--render", "--size", "--camera", "--save",
-          "--summary", "--check", "--list-nodes", "--fail", "--list-calls", "Examples:"})
+          "--summary", "--check", "--describe", "--list-nodes", "--fail", "--list-calls", "Examples:"})
         EXPECT_THAT(result.output, HasSubstr(option));
 }
 
@@ -42,6 +42,8 @@ TEST(CommandLine, EachMistakeIsOneErrorThatSaysWhatIsWrong)
         {{"--save"}, "--save: 1 required OUT.ma missing"},
         {{"--render", "x.png", "--size", "640"}, "--size: \"640\" is not a size such as 1280x720"},
         {{"--render", "x.png", "--size", "0x0"}, "--size: \"0x0\" is not a size such as 1280x720"},
+        {{"--describe"}, "--describe: no node type is named"},
+        {{"--describe=xml", "locator"}, "--describe: xml not in {text,json}"},
         {{"--summary=xml", "one.ma"}, "--summary: xml not in {text,json}"},
         {{"--fail", "MFnPlugin::registerUI:1:kNonsense"},
          "--fail: \"MFnPlugin::registerUI:1:kNonsense\" is not of the form Class::function:N:kCode"},

@@ -46,6 +46,32 @@ TEST(ExampleScene, EvaluatesEachNodeOfThePlugin)
     EXPECT_THAT(linesWith(result.output, "crowdProxyVRayShape.sceneName"),
                 ElementsAre("crowdProxyVRayShape.sceneName = \"band\""));
     EXPECT_EQ(linesWith(result.output, ".pythonCallback = ").size(), 8u);
+    EXPECT_THAT(linesWith(result.output, "crowdProxyRMSShape1."),
+                ElementsAre("crowdProxyRMSShape1.sceneName = \"backstage_left\"",
+                            "crowdProxyRMSShape1.frame = 113", "crowdProxyRMSShape1.frameRate = 24",
+                            "crowdProxyRMSShape1.ribFileDir = \"/shots/plaza/rib/backstage_left\""));
+    EXPECT_THAT(linesWith(result.output, "crowdRenderManagerNodeShape"),
+                ElementsAre("crowdRenderManagerNodeShape: no attributes of its own"));
+    // The shift hands on what its switch gives: the colour of a file texture without a picture.
+    EXPECT_THAT(linesWith(result.output, "walkerShift."), ElementsAre("walkerShift.output = 0 0 0"));
+    EXPECT_THAT(linesWith(result.output, "clothesIndex.output"), ElementsAre("clothesIndex.output = 0"));
+    EXPECT_THAT(linesWith(result.output, "clothes3Delight.shadingCode"),
+                ElementsAre("clothes3Delight.shadingCode = \"outColor = clothes < 1 ? shader0 : shader1;\""));
+    EXPECT_THAT(linesWith(result.output, "clothesIndex3Delight.shadingCode"),
+                ElementsAre("clothesIndex3Delight.shadingCode = \"float clothes = fallback;\\n"
+                            "attribute(\\\"user:clothes\\\", clothes);\""));
+}
+
+TEST(ExampleScene, UsesEveryNodeTypeOfThePlugin)
+{
+    const ProgramResult types =
+        runHost(withPlugin({"-e", "string $t; for ($t in `pluginInfo -q -dependNode tvxCrowdRender`) "
+                                  "print (\"type \" + $t + \"\\n\")"}));
+    const std::vector<std::string> lines = linesWith(types.output, "type ");
+    EXPECT_EQ(lines.size(), 8u);
+    const std::string nodes = runHost(withPlugin({"--list-nodes", exampleScene()})).output;
+    for (const std::string& line : lines)
+        EXPECT_FALSE(linesWith(nodes, line.substr(5) + " ").empty()) << line;
 }
 
 TEST(ExampleScene, FollowsAConnectionMadeByAScript)
@@ -70,8 +96,13 @@ TEST(ExampleScene, IsSavedSoThatReadingAndSavingAgainGivesTheSameBytes)
     EXPECT_THAT(saved,
                 HasSubstr("createNode CrowdProxyVRay -n \"crowdProxyVRayShape\" -p \"proxyStage\";\n"));
     EXPECT_THAT(saved, HasSubstr("\tsetAttr \".scn\" -type \"string\" \"band\";\n"));
-    EXPECT_THAT(saved, HasSubstr("requires -nodeType \"CrowdProxyVRay\" -nodeType \"CrowdSwitchShaderVRay\" "
-                                 "\"tvxCrowdRender\" \"2.5.0.1\";\n"));
+    EXPECT_THAT(saved,
+                HasSubstr("requires -nodeType \"CrowdGetUserData3Delight\" -nodeType \"CrowdGetUserDataVRay\""
+                          " -nodeType \"CrowdHSLShaderVRay\"\n"
+                          "\t\t -nodeType \"CrowdProxyRendermanStudio\" -nodeType \"CrowdProxyVRay\""
+                          " -nodeType \"CrowdRenderManagerNode\"\n"
+                          "\t\t -nodeType \"CrowdSwitchShader3Delight\" -nodeType \"CrowdSwitchShaderVRay\""
+                          " \"tvxCrowdRender\" \"2.5.0.1\";\n"));
     EXPECT_EQ(saved, contentsOf(second));
 }
 
