@@ -190,16 +190,25 @@ Outcome moveInAttributes(DagNode& shape, const MovedPoints& moved)
     return {};
 }
 
-/// Moves points of the data that `inMesh` holds, which is copied first when others may see it.
-void moveInPlace(DagNode& shape, Ref<Data> held, const MovedPoints& moved)
+/// Changes the data that `inMesh` holds, which is copied first when others may see it.
+template <class Change>
+void changeHeld(DagNode& shape, Ref<Data> held, const Change& change)
 {
     if (held != shape.cells().ownMesh)
         held = held->clone();
     auto& mesh = static_cast<MeshData&>(*held);
-    for (const auto& [i, point] : moved)
-        mesh.points[static_cast<std::size_t>(i)] = point;
-    forgetTweaks(shape, moved);
+    change(mesh);
+    mesh.forgetNormals();
     hold(shape, held);
+}
+
+void moveInPlace(DagNode& shape, const Ref<Data>& held, const MovedPoints& moved)
+{
+    forgetTweaks(shape, moved);
+    changeHeld(shape, held, [&](MeshData& mesh) {
+        for (const auto& [i, point] : moved)
+            mesh.points[static_cast<std::size_t>(i)] = point;
+    });
 }
 
 } // namespace
@@ -242,6 +251,24 @@ Outcome movePoints(DagNode& shape, const MovedPoints& moved)
     if (hasHistory(shape))
         return moveByTweaks(shape, static_cast<const MeshData&>(*incoming), moved);
     moveInPlace(shape, incoming, moved);
+    return {};
+}
+
+Outcome smoothEdge(DagNode& shape, std::int32_t edge, bool smooth)
+{
+    const MeshData* mesh = meshOf(shape);
+    if (!mesh)
+        return {Reason::noData, "'" + shape.name() + "' has no geometry"};
+    if (!mesh->hasEdge(edge))
+        return {Reason::badIndex, "'" + shape.name() + "' has no such edge"};
+    if (hasHistory(shape))
+        return {Reason::notWritable, "the edges of '" + shape.name() + "' are made by its history"};
+    const int value = smooth ? 1 : 0;
+    const Ref<Data> held = incomingMesh(shape);
+    if (!held)
+        return writeNumber(plugOf(shape, "edge").element(edge).child(2), value);
+    changeHeld(shape, held,
+               [&](MeshData& changed) { changed.edges[static_cast<std::size_t>(edge)].smooth = value; });
     return {};
 }
 

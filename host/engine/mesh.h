@@ -31,6 +31,10 @@ using MovedPoints = std::vector<std::pair<std::int32_t, Vec3f>>;
 /// badIndex, and nothing moved, when there is no such vertex; noData when there is no mesh.
 Outcome movePoints(DagNode& shape, const MovedPoints& moved);
 
+/// Makes an edge smooth or hard. badIndex when there is no such edge, noData when there is no mesh, and
+/// notWritable where the edges are those of history.
+Outcome smoothEdge(DagNode& shape, std::int32_t edge, bool smooth);
+
 /// Writes geometry that only `inMesh` holds to `vt`, `ed` and `fc`, as a file needs it.
 void settleMesh(DagNode& shape);
 

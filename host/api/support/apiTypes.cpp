@@ -269,6 +269,8 @@ bool dataHasFn(const Data& data, MFn::Type type)
 {
     if (type == MFn::kData || type == dataType(data))
         return true;
+    if (data.type() == DataType::mesh)
+        return type == MFn::kMesh || type == MFn::kGeometryData;
     return type == MFn::kNumericData && data.type() == DataType::numeric;
 }
 

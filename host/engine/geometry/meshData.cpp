@@ -1,6 +1,7 @@
 // MeshData: see meshData.h.
 #include "meshData.h"
 
+#include "meshNormals.h"
 #include "meshTopology.h"
 
 #include <algorithm>
@@ -13,11 +14,18 @@ MeshData::~MeshData() = default;
 
 Ref<Data> MeshData::clone() const
 {
-    auto* copy = new MeshData;
-    copy->points = points;
-    copy->edges = edges;
-    copy->faces = faces;
-    return Ref<Data>(copy);
+    const Ref<MeshData> copy(new MeshData);
+    copy->assign(*this);
+    return copy;
+}
+
+void MeshData::assign(const MeshData& other)
+{
+    points = other.points;
+    edges = other.edges;
+    faces = other.faces;
+    m_topology.reset();
+    m_normals.reset();
 }
 
 const MeshTopology& MeshData::topology() const
@@ -25,6 +33,18 @@ const MeshTopology& MeshData::topology() const
     if (!m_topology)
         m_topology = std::make_unique<MeshTopology>(*this);
     return *m_topology;
+}
+
+const NormalTable& MeshData::normals() const
+{
+    if (!m_normals)
+        m_normals = std::make_unique<NormalTable>(normalsOf(*this));
+    return *m_normals;
+}
+
+void MeshData::forgetNormals()
+{
+    m_normals.reset();
 }
 
 bool isSound(const MeshData& mesh)

@@ -10,6 +10,7 @@
 namespace tvxhost::engine {
 
 class MeshTopology;
+struct NormalTable;
 
 /// Polygons: points, edges and faces, numbered as in scene files.
 class MeshData final : public Data
@@ -23,6 +24,8 @@ public:
     MeshData();
     ~MeshData() override;
     Ref<Data> clone() const override;
+    /// Becomes like another mesh.
+    void assign(const MeshData& other);
 
     std::vector<Vec3f> points; ///< centimetres, object space
     std::vector<Edge> edges;
@@ -41,9 +44,14 @@ public:
     /// What is next to what; made when it is first asked for and kept. Edges and faces must not change after
     /// that; points may. The mesh has to be sound.
     const MeshTopology& topology() const;
+    /// The normals at corners; made when they are first asked for and kept until they are forgotten, which
+    /// whoever changes points or the smoothness of edges has to see to.
+    const NormalTable& normals() const;
+    void forgetNormals();
 
 private:
     mutable std::unique_ptr<MeshTopology> m_topology;
+    mutable std::unique_ptr<NormalTable> m_normals;
 };
 
 /// Whether every edge names points that exist and every face edges that exist.

@@ -19,6 +19,7 @@ struct CommandState;   ///< MPxCommand
 struct DagIteration;   ///< MItDag
 struct DataBlock;      ///< MDataBlock
 struct DGContext;      ///< MDGContext
+struct MeshIteration;  ///< MItMeshEdge, MItMeshVertex, MItMeshPolygon
 struct Modifier;       ///< MDGModifier, MDagModifier
 struct NodeIteration;  ///< MItDependencyNodes
 struct CommandValue;   ///< MCommandResult

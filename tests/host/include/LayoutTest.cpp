@@ -37,9 +37,12 @@
 #include <maya/MFnDoubleArrayData.h>
 #include <maya/MFnEnumAttribute.h>
 #include <maya/MFnGenericAttribute.h>
+#include <maya/MFnGeometryData.h>
 #include <maya/MFnIntArrayData.h>
 #include <maya/MFnMatrixAttribute.h>
 #include <maya/MFnMatrixData.h>
+#include <maya/MFnMesh.h>
+#include <maya/MFnMeshData.h>
 #include <maya/MFnMessageAttribute.h>
 #include <maya/MFnNumericAttribute.h>
 #include <maya/MFnNumericData.h>
@@ -56,6 +59,9 @@
 #include <maya/MItDag.h>
 #include <maya/MItDependencyNodes.h>
 #include <maya/MMatrix.h>
+#include <maya/MItMeshEdge.h>
+#include <maya/MItMeshPolygon.h>
+#include <maya/MItMeshVertex.h>
 #include <maya/MMatrixArray.h>
 #include <maya/MNamespace.h>
 #include <maya/MObject.h>
@@ -151,9 +157,12 @@ const Layout layouts[] = {
     LAYOUT(MFnEnumAttribute, 64, 8),
     LAYOUT(MFnGenericAttribute, 64, 8),
     LAYOUT(MFnIntArrayData, 32, 8),
+    LAYOUT(MFnGeometryData, 32, 8),
     LAYOUT(MFnMatrixAttribute, 64, 8),
     LAYOUT(MFnMatrixData, 32, 8),
     LAYOUT(MFnMessageAttribute, 64, 8),
+    LAYOUT(MFnMesh, 80, 8),
+    LAYOUT(MFnMeshData, 32, 8),
     LAYOUT(MFnNumericAttribute, 64, 8),
     LAYOUT(MFnNumericData, 32, 8),
     LAYOUT(MFnPlugin, 32, 8),
@@ -171,6 +180,9 @@ const Layout layouts[] = {
     LAYOUT(MItDependencyNodes, 56, 8),
     LAYOUT(MMatrix, 128, 8),
     LAYOUT(MMatrixArray, 16, 8),
+    LAYOUT(MItMeshEdge, 88, 8),
+    LAYOUT(MItMeshPolygon, 88, 8),
+    LAYOUT(MItMeshVertex, 88, 8),
     LAYOUT(MNamespace, 1, 1),
     LAYOUT(MObject, 16, 8),
     LAYOUT(MObjectArray, 8, 8),

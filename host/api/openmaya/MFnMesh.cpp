@@ -1,0 +1,500 @@
+// MFnMesh: polygon meshes, what they are made of. Making them is in MFnMeshCreation.cpp; what the host cannot
+// do is in the MFnMeshUnsupported… files.
+#include <maya/MFnMesh.h>
+
+#include "engine/geometry/meshMeasures.h"
+#include "support/fnMesh.h"
+#include "support/meshIteration.h"
+#include "support/meshNeighbours.h"
+
+#include <maya/MFloatPointArray.h>
+#include <maya/MFloatVectorArray.h>
+#include <maya/MIntArray.h>
+#include <maya/MPointArray.h>
+#include <maya/MVector.h>
+
+#include <numeric>
+
+using namespace tvxhost;
+using api::failure;
+using api::StatusText;
+using api::targetOf;
+using engine::MeshData;
+
+namespace {
+
+/// Runs `use(mesh)`, which returns a status.
+template <class Use>
+MStatus withMesh(const MFnMesh& set, const Use& use)
+{
+    const api::MeshTarget target = targetOf(set);
+    const MeshData* mesh = target.mesh();
+    return mesh ? use(*mesh) : target.status();
+}
+
+/// What `read(mesh)` gives; 0 without a mesh.
+template <class Read>
+int readMesh(const MFnMesh& set, MStatus* returnStatus, const Read& read)
+{
+    int value = 0;
+    api::give(returnStatus, withMesh(set, [&](const MeshData& mesh) -> MStatus {
+                  value = static_cast<int>(read(mesh));
+                  return MS::kSuccess;
+              }));
+    return value;
+}
+
+/// Runs `use(mesh, matrix)`, which returns a status, with the matrix to a space.
+template <class Use>
+MStatus withPlacedMesh(const MFnMesh& set, MSpace::Space space, const Use& use)
+{
+    return withMesh(set, [&](const MeshData& mesh) {
+        engine::Matrix matrix;
+        const MStatus status = targetOf(set).placement(space, matrix);
+        return status ? use(mesh, matrix) : status;
+    });
+}
+
+MStatus requireThere(bool exists)
+{
+    return exists ? MStatus() : failure(StatusText::noElementAtIndex);
+}
+
+/// Runs `use(mesh, number)` for one of the mesh's items; kInvalidParameter when there is none.
+template <class Use>
+MStatus withFace(const MFnMesh& set, int face, const Use& use)
+{
+    return withMesh(set, [&](const MeshData& mesh) {
+        const MStatus status = requireThere(mesh.hasFace(face));
+        return status ? use(mesh, static_cast<std::size_t>(face)) : status;
+    });
+}
+
+template <class Use>
+MStatus withEdge(const MFnMesh& set, int edge, const Use& use)
+{
+    return withMesh(set, [&](const MeshData& mesh) {
+        const MStatus status = requireThere(mesh.hasEdge(edge));
+        return status ? use(mesh.edges[static_cast<std::size_t>(edge)]) : status;
+    });
+}
+
+template <class Array>
+MStatus readPoints(const MFnMesh& set, Array& points, MSpace::Space space)
+{
+    return withPlacedMesh(set, space, [&](const MeshData& mesh, const engine::Matrix& matrix) -> MStatus {
+        auto& elements = tvxAccess::elements(points);
+        elements.clear();
+        elements.reserve(mesh.points.size());
+        for (const engine::Vec3f& point : mesh.points)
+            elements.emplace_back(api::toPoint(engine::Vec3d(point) * matrix));
+        return MS::kSuccess;
+    });
+}
+
+/// Moves points of a space, given by number.
+MStatus movePoints(const MFnMesh& set, const std::vector<std::pair<std::int32_t, MPoint>>& points,
+                   MSpace::Space space)
+{
+    const api::MeshTarget target = targetOf(set);
+    engine::Matrix matrix;
+    if (const MStatus status = target.placement(space, matrix); !status)
+        return status;
+    const engine::Matrix back = matrix.inverse();
+    engine::MovedPoints moved;
+    moved.reserve(points.size());
+    for (const auto& [vertex, point] : points)
+        moved.emplace_back(vertex, engine::Vec3f(api::toImath(point) * back));
+    return target.move(moved);
+}
+
+template <class Array>
+MStatus writePoints(const MFnMesh& set, const Array& points, MSpace::Space space)
+{
+    return withMesh(set, [&](const MeshData& mesh) {
+        const MStatus status = requireThere(points.length() == mesh.points.size());
+        if (!status)
+            return status;
+        std::vector<std::pair<std::int32_t, MPoint>> moved;
+        moved.reserve(points.length());
+        for (unsigned int i = 0; i < points.length(); ++i)
+            moved.emplace_back(static_cast<std::int32_t>(i), MPoint(points[i]));
+        return movePoints(set, moved, space);
+    });
+}
+
+MFloatVector floatVector(const engine::Vec3d& normal, const engine::Matrix& matrix)
+{
+    const engine::Vec3d placed = api::placedNormal(normal, matrix);
+    return MFloatVector(static_cast<float>(placed.x), static_cast<float>(placed.y),
+                        static_cast<float>(placed.z));
+}
+
+/// Puts a vector for each of a row of normals into an array.
+template <class Normals>
+void giveNormals(MFloatVectorArray& array, const Normals& normals, const engine::Matrix& matrix)
+{
+    array.clear();
+    for (const auto& normal : normals)
+        array.append(floatVector(engine::Vec3d(normal), matrix));
+}
+
+MStatus readVertexNormal(const MFnMesh& set, int vertexId, bool angleWeighted, MVector& normal,
+                         MSpace::Space space)
+{
+    return withPlacedMesh(set, space, [&](const MeshData& mesh, const engine::Matrix& matrix) {
+        const MStatus status = requireThere(mesh.hasVertex(vertexId));
+        if (status)
+            normal =
+                api::toVector(api::placedNormal(engine::vertexNormal(mesh, vertexId, angleWeighted), matrix));
+        return status;
+    });
+}
+
+} // namespace
+
+namespace tvxhost::api {
+
+MeshTarget targetOf(const MFnMesh& set)
+{
+    return MeshTarget(tvxAccess::attached(set), ownPathOf(set));
+}
+
+} // namespace tvxhost::api
+
+TVX_FUNCTION_SET(MFnMesh, MFn::kMesh)
+
+MFnMesh::MFnMesh() : reservedWords() {}
+
+MFnMesh::MFnMesh(const MDagPath& object, MStatus* ret) : reservedWords()
+{
+    TVX_API_CONSTRUCTION("MFnMesh::MFnMesh", ret);
+    api::give(ret, api::attachTo(*this, object));
+}
+
+bool MFnMesh::objectChanged(MFn::Type tp, MStatus* ReturnStatus)
+{
+    return MFnDagNode::objectChanged(tp, ReturnStatus);
+}
+
+int MFnMesh::numVertices(MStatus* ReturnStatus) const
+{
+    TVX_API_CALL_OR("MFnMesh::numVertices", ReturnStatus, 0);
+    return readMesh(*this, ReturnStatus, [](const MeshData& mesh) { return mesh.points.size(); });
+}
+
+int MFnMesh::numEdges(MStatus* ReturnStatus) const
+{
+    TVX_API_CALL_OR("MFnMesh::numEdges", ReturnStatus, 0);
+    return readMesh(*this, ReturnStatus, [](const MeshData& mesh) { return mesh.edges.size(); });
+}
+
+int MFnMesh::numPolygons(MStatus* ReturnStatus) const
+{
+    TVX_API_CALL_OR("MFnMesh::numPolygons", ReturnStatus, 0);
+    return readMesh(*this, ReturnStatus, [](const MeshData& mesh) { return mesh.faces.size(); });
+}
+
+int MFnMesh::numFaceVertices(MStatus* ReturnStatus) const
+{
+    TVX_API_CALL_OR("MFnMesh::numFaceVertices", ReturnStatus, 0);
+    return readMesh(*this, ReturnStatus, [](const MeshData& mesh) { return mesh.faces.cornerCount(); });
+}
+
+int MFnMesh::polygonVertexCount(int polygonId, MStatus* ReturnStatus) const
+{
+    TVX_API_CALL_OR("MFnMesh::polygonVertexCount", ReturnStatus, 0);
+    int count = 0;
+    api::give(ReturnStatus,
+              withFace(*this, polygonId, [&](const MeshData& mesh, std::size_t face) -> MStatus {
+                  count = static_cast<int>(mesh.faces.corners(face).size());
+                  return MS::kSuccess;
+              }));
+    return count;
+}
+
+int MFnMesh::numNormals(MStatus* ReturnStatus) const
+{
+    TVX_API_CALL_OR("MFnMesh::numNormals", ReturnStatus, 0);
+    return readMesh(*this, ReturnStatus, [](const MeshData& mesh) { return mesh.normals().normals.size(); });
+}
+
+MStatus MFnMesh::updateSurface()
+{
+    TVX_API_CALL("MFnMesh::updateSurface");
+    return targetOf(*this).status();
+}
+
+MStatus MFnMesh::syncObject()
+{
+    TVX_API_CALL("MFnMesh::syncObject");
+    return targetOf(*this).status();
+}
+
+const float* MFnMesh::getRawPoints(MStatus* ReturnStatus) const
+{
+    TVX_API_CALL_OR("MFnMesh::getRawPoints", ReturnStatus, nullptr);
+    const api::MeshTarget target = targetOf(*this);
+    const MeshData* mesh = target.mesh();
+    api::give(ReturnStatus, target.status());
+    return mesh && !mesh->points.empty() ? &mesh->points.front().x : nullptr;
+}
+
+MStatus MFnMesh::getPoints(MFloatPointArray& vertexArray, MSpace::Space space) const
+{
+    TVX_API_CALL("MFnMesh::getPoints");
+    return readPoints(*this, vertexArray, space);
+}
+
+MStatus MFnMesh::getPoints(MPointArray& vertexArray, MSpace::Space space) const
+{
+    TVX_API_CALL("MFnMesh::getPoints");
+    return readPoints(*this, vertexArray, space);
+}
+
+MStatus MFnMesh::setPoints(MFloatPointArray& vertexArray, MSpace::Space space)
+{
+    TVX_API_CALL("MFnMesh::setPoints");
+    return writePoints(*this, vertexArray, space);
+}
+
+MStatus MFnMesh::setPoints(MPointArray& vertexArray, MSpace::Space space)
+{
+    TVX_API_CALL("MFnMesh::setPoints");
+    return writePoints(*this, vertexArray, space);
+}
+
+MStatus MFnMesh::setPoint(int vertexId, const MPoint& pos, MSpace::Space space)
+{
+    TVX_API_CALL("MFnMesh::setPoint");
+    return movePoints(*this, {{vertexId, pos}}, space);
+}
+
+MStatus MFnMesh::getPoint(int vertexId, MPoint& pos, MSpace::Space space) const
+{
+    TVX_API_CALL("MFnMesh::getPoint");
+    return withPlacedMesh(*this, space, [&](const MeshData& mesh, const engine::Matrix& matrix) {
+        const MStatus status = requireThere(mesh.hasVertex(vertexId));
+        if (status)
+            pos = api::placedPoint(mesh, vertexId, matrix);
+        return status;
+    });
+}
+
+MStatus MFnMesh::getVertices(MIntArray& vertexCount, MIntArray& vertexList) const
+{
+    TVX_API_CALL("MFnMesh::getVertices");
+    return withMesh(*this, [&](const MeshData& mesh) -> MStatus {
+        auto& counts = tvxAccess::elements(vertexCount);
+        auto& vertices = tvxAccess::elements(vertexList);
+        counts.clear();
+        vertices.clear();
+        vertices.reserve(mesh.faces.cornerCount());
+        for (std::size_t face = 0; face < mesh.faces.size(); ++face) {
+            counts.push_back(static_cast<int>(mesh.faces.corners(face).size()));
+            for (const std::int32_t corner : mesh.faces.corners(face))
+                vertices.push_back(mesh.startOf(corner));
+        }
+        return MS::kSuccess;
+    });
+}
+
+MStatus MFnMesh::getPolygonVertices(int polygonId, MIntArray& vertexList) const
+{
+    TVX_API_CALL("MFnMesh::getPolygonVertices");
+    return withFace(*this, polygonId, [&](const MeshData& mesh, std::size_t face) -> MStatus {
+        api::giveAll(vertexList, engine::cornerVertices(mesh, face));
+        return MS::kSuccess;
+    });
+}
+
+MStatus MFnMesh::getNormals(MFloatVectorArray& normals, MSpace::Space space) const
+{
+    TVX_API_CALL("MFnMesh::getNormals");
+    return withPlacedMesh(*this, space, [&](const MeshData& mesh, const engine::Matrix& matrix) -> MStatus {
+        giveNormals(normals, mesh.normals().normals, matrix);
+        return MS::kSuccess;
+    });
+}
+
+MStatus MFnMesh::getFaceVertexNormal(int faceIndex, int vertexIndex, MVector& normal,
+                                     MSpace::Space space) const
+{
+    TVX_API_CALL("MFnMesh::getFaceVertexNormal");
+    return withPlacedMesh(*this, space, [&](const MeshData& mesh, const engine::Matrix& matrix) {
+        const std::int32_t number =
+            mesh.hasFace(faceIndex) ? api::normalAt(mesh, faceIndex, vertexIndex) : -1;
+        const MStatus status = requireThere(number >= 0);
+        if (status)
+            normal = api::toVector(api::placedNormal(api::normalNumbered(mesh, number), matrix));
+        return status;
+    });
+}
+
+MStatus MFnMesh::getFaceVertexNormals(int faceIndex, MFloatVectorArray& normals, MSpace::Space space) const
+{
+    TVX_API_CALL("MFnMesh::getFaceVertexNormals");
+    return withPlacedMesh(*this, space, [&](const MeshData& mesh, const engine::Matrix& matrix) {
+        const MStatus status = requireThere(mesh.hasFace(faceIndex));
+        if (!status)
+            return status;
+        std::vector<engine::Vec3d> all;
+        for (const std::int32_t number : api::normalsOfFace(mesh, faceIndex))
+            all.push_back(api::normalNumbered(mesh, number));
+        giveNormals(normals, all, matrix);
+        return status;
+    });
+}
+
+MStatus MFnMesh::getNormalIds(MIntArray& normalIdCounts, MIntArray& normalIds) const
+{
+    TVX_API_CALL("MFnMesh::getNormalIds");
+    return withMesh(*this, [&](const MeshData& mesh) -> MStatus {
+        auto& counts = tvxAccess::elements(normalIdCounts);
+        counts.clear();
+        for (std::size_t face = 0; face < mesh.faces.size(); ++face)
+            counts.push_back(static_cast<int>(mesh.faces.corners(face).size()));
+        api::giveAll(normalIds, mesh.normals().used);
+        return MS::kSuccess;
+    });
+}
+
+MStatus MFnMesh::getFaceNormalIds(int faceIndex, MIntArray& normals) const
+{
+    TVX_API_CALL("MFnMesh::getFaceNormalIds");
+    return withFace(*this, faceIndex, [&](const MeshData& mesh, std::size_t) -> MStatus {
+        api::giveAll(normals, api::normalsOfFace(mesh, faceIndex));
+        return MS::kSuccess;
+    });
+}
+
+MStatus MFnMesh::getVertexNormal(int vertexId, MVector& normal, MSpace::Space space) const
+{
+    TVX_API_CALL("MFnMesh::getVertexNormal");
+    return readVertexNormal(*this, vertexId, false, normal, space);
+}
+
+MStatus MFnMesh::getVertexNormal(int vertexId, bool angleWeighted, MVector& normal, MSpace::Space space) const
+{
+    TVX_API_CALL("MFnMesh::getVertexNormal");
+    return readVertexNormal(*this, vertexId, angleWeighted, normal, space);
+}
+
+MStatus MFnMesh::getVertexNormals(bool angleWeighted, MFloatVectorArray& normals, MSpace::Space space) const
+{
+    TVX_API_CALL("MFnMesh::getVertexNormals");
+    return withPlacedMesh(*this, space, [&](const MeshData& mesh, const engine::Matrix& matrix) -> MStatus {
+        giveNormals(normals, engine::vertexNormals(mesh, angleWeighted), matrix);
+        return MS::kSuccess;
+    });
+}
+
+MStatus MFnMesh::getPolygonNormal(int polygonId, MVector& normal, MSpace::Space space) const
+{
+    TVX_API_CALL("MFnMesh::getPolygonNormal");
+    return withPlacedMesh(*this, space, [&](const MeshData& mesh, const engine::Matrix& matrix) {
+        const MStatus status = requireThere(mesh.hasFace(polygonId));
+        if (status)
+            normal = api::toVector(
+                api::placedNormal(engine::faceNormal(mesh, static_cast<std::size_t>(polygonId)), matrix));
+        return status;
+    });
+}
+
+bool MFnMesh::isNormalLocked(int normalId, MStatus* ReturnStatus) const
+{
+    TVX_API_CALL_OR("MFnMesh::isNormalLocked", ReturnStatus, false);
+    api::give(ReturnStatus, withMesh(*this, [&](const MeshData& mesh) {
+                  const auto count = static_cast<int>(mesh.normals().normals.size());
+                  return requireThere(normalId >= 0 && normalId < count);
+              }));
+    return false;
+}
+
+MStatus MFnMesh::unlockVertexNormals(MIntArray&)
+{
+    TVX_API_CALL("MFnMesh::unlockVertexNormals");
+    return targetOf(*this).status();
+}
+
+MStatus MFnMesh::unlockFaceVertexNormals(MIntArray&, MIntArray&)
+{
+    TVX_API_CALL("MFnMesh::unlockFaceVertexNormals");
+    return targetOf(*this).status();
+}
+
+bool MFnMesh::isPolygonConvex(int faceIndex, MStatus* ReturnStatus) const
+{
+    TVX_API_CALL_OR("MFnMesh::isPolygonConvex", ReturnStatus, false);
+    bool isConvex = false;
+    api::give(ReturnStatus,
+              withFace(*this, faceIndex, [&](const MeshData& mesh, std::size_t face) -> MStatus {
+                  isConvex = engine::isConvex(mesh, face);
+                  return MS::kSuccess;
+              }));
+    return isConvex;
+}
+
+MStatus MFnMesh::getEdgeVertices(int edgeId, int2& vertexList) const
+{
+    TVX_API_CALL("MFnMesh::getEdgeVertices");
+    return withEdge(*this, edgeId, [&](const MeshData::Edge& edge) -> MStatus {
+        vertexList[0] = edge.from;
+        vertexList[1] = edge.to;
+        return MS::kSuccess;
+    });
+}
+
+bool MFnMesh::isEdgeSmooth(int edgeId, MStatus* ReturnStatus) const
+{
+    TVX_API_CALL_OR("MFnMesh::isEdgeSmooth", ReturnStatus, false);
+    bool isSmooth = false;
+    api::give(ReturnStatus, withEdge(*this, edgeId, [&](const MeshData::Edge& edge) -> MStatus {
+                  isSmooth = edge.smooth != 0;
+                  return MS::kSuccess;
+              }));
+    return isSmooth;
+}
+
+MStatus MFnMesh::setEdgeSmoothing(int edgeId, bool smooth)
+{
+    TVX_API_CALL("MFnMesh::setEdgeSmoothing");
+    return targetOf(*this).smooth(edgeId, smooth);
+}
+
+MStatus MFnMesh::cleanupEdgeSmoothing()
+{
+    TVX_API_CALL("MFnMesh::cleanupEdgeSmoothing");
+    return targetOf(*this).status();
+}
+
+int MFnMesh::getHoles(MIntArray& holeInfoArray, MIntArray& holeVertexArray, MStatus* ReturnStatus)
+{
+    TVX_API_CALL_OR("MFnMesh::getHoles", ReturnStatus, 0);
+    return readMesh(*this, ReturnStatus, [&](const MeshData& mesh) {
+        auto& info = tvxAccess::elements(holeInfoArray);
+        auto& vertices = tvxAccess::elements(holeVertexArray);
+        info.clear();
+        vertices.clear();
+        for (std::size_t face = 0; face < mesh.faces.size(); ++face)
+            for (std::size_t i = 1; i < mesh.faces.loopCount(face); ++i) {
+                const engine::IndexSpan hole = mesh.faces.loop(face, i);
+                info.insert(info.end(), {static_cast<int>(face), static_cast<int>(hole.size()),
+                                         static_cast<int>(vertices.size())});
+                for (const std::int32_t corner : hole)
+                    vertices.push_back(mesh.startOf(corner));
+            }
+        return info.size() / 3;
+    });
+}
+
+bool MFnMesh::onBoundary(int polygonId, MStatus* ReturnStatus) const
+{
+    TVX_API_CALL_OR("MFnMesh::onBoundary", ReturnStatus, false);
+    bool isOnBorder = false;
+    api::give(ReturnStatus, withFace(*this, polygonId, [&](const MeshData& mesh, std::size_t) -> MStatus {
+                  isOnBorder = api::isOnBorder(mesh, polygonId);
+                  return MS::kSuccess;
+              }));
+    return isOnBorder;
+}

@@ -1,0 +1,447 @@
+// MFnMesh: modelling, rays, tangents and the like, which the host cannot do: kNotImplemented, said once.
+#include <maya/MFnMesh.h>
+
+#include "support/apiCall.h"
+#include "support/notImplemented.h"
+
+#include <maya/MUintArray.h>
+
+using tvxhost::api::notImplemented;
+
+MObject MFnMesh::generateSmoothMesh(MObject, MMeshSmoothOptions*, MStatus* ReturnStatus)
+{
+    TVX_API_CALL_OR("MFnMesh::generateSmoothMesh", ReturnStatus, MObject());
+    notImplemented("MFnMesh::generateSmoothMesh", ReturnStatus);
+    return MObject();
+}
+
+MStatus MFnMesh::getSmoothMeshDisplayOptions(MMeshSmoothOptions&) const
+{
+    TVX_API_CALL("MFnMesh::getSmoothMeshDisplayOptions");
+    return notImplemented("MFnMesh::getSmoothMeshDisplayOptions");
+}
+
+MStatus MFnMesh::setSmoothMeshDisplayOptions(const MMeshSmoothOptions&)
+{
+    TVX_API_CALL("MFnMesh::setSmoothMeshDisplayOptions");
+    return notImplemented("MFnMesh::setSmoothMeshDisplayOptions");
+}
+
+MObject MFnMesh::addPolygon(const MPointArray&, bool, double, MObject, MStatus* ReturnStatus)
+{
+    TVX_API_CALL_OR("MFnMesh::addPolygon", ReturnStatus, MObject());
+    notImplemented("MFnMesh::addPolygon", ReturnStatus);
+    return MObject();
+}
+
+MObject MFnMesh::addPolygon(const MPointArray&, int&, bool, double, MObject, MStatus* ReturnStatus)
+{
+    TVX_API_CALL_OR("MFnMesh::addPolygon", ReturnStatus, MObject());
+    notImplemented("MFnMesh::addPolygon", ReturnStatus);
+    return MObject();
+}
+
+MObject MFnMesh::addPolygon(const MPointArray&, const MIntArray&, int&, bool, double, MObject,
+                            MStatus* ReturnStatus)
+{
+    TVX_API_CALL_OR("MFnMesh::addPolygon", ReturnStatus, MObject());
+    notImplemented("MFnMesh::addPolygon", ReturnStatus);
+    return MObject();
+}
+
+MStatus MFnMesh::addHoles(int, const MPointArray&, const MIntArray&, bool, double)
+{
+    TVX_API_CALL("MFnMesh::addHoles");
+    return notImplemented("MFnMesh::addHoles");
+}
+
+MStatus MFnMesh::deleteFace(int, MDGModifier*)
+{
+    TVX_API_CALL("MFnMesh::deleteFace");
+    return notImplemented("MFnMesh::deleteFace");
+}
+
+MStatus MFnMesh::deleteEdge(int, MDGModifier*)
+{
+    TVX_API_CALL("MFnMesh::deleteEdge");
+    return notImplemented("MFnMesh::deleteEdge");
+}
+
+MStatus MFnMesh::deleteVertex(int, MDGModifier*)
+{
+    TVX_API_CALL("MFnMesh::deleteVertex");
+    return notImplemented("MFnMesh::deleteVertex");
+}
+
+MStatus MFnMesh::split(MIntArray&, MIntArray&, MFloatArray&, MFloatPointArray&)
+{
+    TVX_API_CALL("MFnMesh::split");
+    return notImplemented("MFnMesh::split");
+}
+
+MStatus MFnMesh::subdivideFaces(MIntArray&, int)
+{
+    TVX_API_CALL("MFnMesh::subdivideFaces");
+    return notImplemented("MFnMesh::subdivideFaces");
+}
+
+MStatus MFnMesh::subdivideEdges(MIntArray&, int)
+{
+    TVX_API_CALL("MFnMesh::subdivideEdges");
+    return notImplemented("MFnMesh::subdivideEdges");
+}
+
+MStatus MFnMesh::extrudeFaces(MIntArray&, int, MFloatVector*, bool, float, float)
+{
+    TVX_API_CALL("MFnMesh::extrudeFaces");
+    return notImplemented("MFnMesh::extrudeFaces");
+}
+
+MStatus MFnMesh::extrudeEdges(MIntArray&, int, MFloatVector*, bool, float, float)
+{
+    TVX_API_CALL("MFnMesh::extrudeEdges");
+    return notImplemented("MFnMesh::extrudeEdges");
+}
+
+MStatus MFnMesh::duplicateFaces(MIntArray&, MFloatVector*)
+{
+    TVX_API_CALL("MFnMesh::duplicateFaces");
+    return notImplemented("MFnMesh::duplicateFaces");
+}
+
+MStatus MFnMesh::extractFaces(MIntArray&, MFloatVector*)
+{
+    TVX_API_CALL("MFnMesh::extractFaces");
+    return notImplemented("MFnMesh::extractFaces");
+}
+
+MStatus MFnMesh::collapseFaces(MIntArray&)
+{
+    TVX_API_CALL("MFnMesh::collapseFaces");
+    return notImplemented("MFnMesh::collapseFaces");
+}
+
+MStatus MFnMesh::collapseEdges(MIntArray&)
+{
+    TVX_API_CALL("MFnMesh::collapseEdges");
+    return notImplemented("MFnMesh::collapseEdges");
+}
+
+MStatus MFnMesh::getTriangles(MIntArray&, MIntArray&) const
+{
+    TVX_API_CALL("MFnMesh::getTriangles");
+    return notImplemented("MFnMesh::getTriangles");
+}
+
+MStatus MFnMesh::getTriangleOffsets(MIntArray&, MIntArray&) const
+{
+    TVX_API_CALL("MFnMesh::getTriangleOffsets");
+    return notImplemented("MFnMesh::getTriangleOffsets");
+}
+
+MStatus MFnMesh::booleanOp(BoolOperation, MFnMesh&, MFnMesh&)
+{
+    TVX_API_CALL("MFnMesh::booleanOp");
+    return notImplemented("MFnMesh::booleanOp");
+}
+
+MStatus MFnMesh::booleanOps(BoolOperation, const MObjectArray&, bool)
+{
+    TVX_API_CALL("MFnMesh::booleanOps");
+    return notImplemented("MFnMesh::booleanOps");
+}
+
+bool MFnMesh::closestIntersection(const MFloatPoint&, const MFloatVector&, const MIntArray*, const MIntArray*,
+                                  bool, MSpace::Space, float, bool, MMeshIsectAccelParams*, MFloatPoint&,
+                                  float*, int*, int*, float*, float*, float, MStatus* ReturnStatus)
+{
+    TVX_API_CALL_OR("MFnMesh::closestIntersection", ReturnStatus, false);
+    notImplemented("MFnMesh::closestIntersection", ReturnStatus);
+    return false;
+}
+
+bool MFnMesh::anyIntersection(const MFloatPoint&, const MFloatVector&, const MIntArray*, const MIntArray*,
+                              bool, MSpace::Space, float, bool, MMeshIsectAccelParams*, MFloatPoint&, float*,
+                              int*, int*, float*, float*, float, MStatus* ReturnStatus)
+{
+    TVX_API_CALL_OR("MFnMesh::anyIntersection", ReturnStatus, false);
+    notImplemented("MFnMesh::anyIntersection", ReturnStatus);
+    return false;
+}
+
+bool MFnMesh::allIntersections(const MFloatPoint&, const MFloatVector&, const MIntArray*, const MIntArray*,
+                               bool, MSpace::Space, float, bool, MMeshIsectAccelParams*, bool,
+                               MFloatPointArray&, MFloatArray*, MIntArray*, MIntArray*, MFloatArray*,
+                               MFloatArray*, float, MStatus* ReturnStatus)
+{
+    TVX_API_CALL_OR("MFnMesh::allIntersections", ReturnStatus, false);
+    notImplemented("MFnMesh::allIntersections", ReturnStatus);
+    return false;
+}
+
+MStatus MFnMesh::sortIntersectionFaceTriIds(MIntArray*, MIntArray*)
+{
+    TVX_API_CALL("MFnMesh::sortIntersectionFaceTriIds");
+    return notImplemented("MFnMesh::sortIntersectionFaceTriIds");
+}
+
+MStatus MFnMesh::freeCachedIntersectionAccelerator()
+{
+    TVX_API_CALL("MFnMesh::freeCachedIntersectionAccelerator");
+    return notImplemented("MFnMesh::freeCachedIntersectionAccelerator");
+}
+
+MString MFnMesh::cachedIntersectionAcceleratorInfo(MStatus* ReturnStatus)
+{
+    TVX_API_CALL_OR("MFnMesh::cachedIntersectionAcceleratorInfo", ReturnStatus, MString());
+    notImplemented("MFnMesh::cachedIntersectionAcceleratorInfo", ReturnStatus);
+    return MString();
+}
+
+MString MFnMesh::globalIntersectionAcceleratorsInfo()
+{
+    TVX_API_CALL_OR("MFnMesh::globalIntersectionAcceleratorsInfo", nullptr, MString());
+    notImplemented("MFnMesh::globalIntersectionAcceleratorsInfo", nullptr);
+    return MString();
+}
+
+void MFnMesh::clearGlobalIntersectionAcceleratorInfo()
+{
+    notImplemented("MFnMesh::clearGlobalIntersectionAcceleratorInfo", nullptr);
+}
+
+bool MFnMesh::intersect(const MPoint&, const MVector&, MPointArray&, double, MSpace::Space, MIntArray*,
+                        MStatus* ReturnStatus) const
+{
+    TVX_API_CALL_OR("MFnMesh::intersect", ReturnStatus, false);
+    notImplemented("MFnMesh::intersect", ReturnStatus);
+    return false;
+}
+
+MStatus MFnMesh::getClosestPointAndNormal(const MPoint&, MPoint&, MVector&, MSpace::Space, int*,
+                                          MMeshIsectAccelParams*) const
+{
+    TVX_API_CALL("MFnMesh::getClosestPointAndNormal");
+    return notImplemented("MFnMesh::getClosestPointAndNormal");
+}
+
+MStatus MFnMesh::getClosestPoint(const MPoint&, MPoint&, MSpace::Space, int*, MMeshIsectAccelParams*) const
+{
+    TVX_API_CALL("MFnMesh::getClosestPoint");
+    return notImplemented("MFnMesh::getClosestPoint");
+}
+
+MStatus MFnMesh::getClosestNormal(const MPoint&, MVector&, MSpace::Space, int*, MMeshIsectAccelParams*) const
+{
+    TVX_API_CALL("MFnMesh::getClosestNormal");
+    return notImplemented("MFnMesh::getClosestNormal");
+}
+
+MStatus MFnMesh::getConnectedShaders(unsigned int, MObjectArray&, MIntArray&) const
+{
+    TVX_API_CALL("MFnMesh::getConnectedShaders");
+    return notImplemented("MFnMesh::getConnectedShaders");
+}
+
+const float* MFnMesh::getRawNormals(MStatus* ReturnStatus) const
+{
+    TVX_API_CALL_OR("MFnMesh::getRawNormals", ReturnStatus, nullptr);
+    notImplemented("MFnMesh::getRawNormals", ReturnStatus);
+    return nullptr;
+}
+
+MStatus MFnMesh::getPolygonTriangleVertices(int, int, int[3]) const
+{
+    TVX_API_CALL("MFnMesh::getPolygonTriangleVertices");
+    return notImplemented("MFnMesh::getPolygonTriangleVertices");
+}
+
+MStatus MFnMesh::setNormals(MFloatVectorArray&, MSpace::Space)
+{
+    TVX_API_CALL("MFnMesh::setNormals");
+    return notImplemented("MFnMesh::setNormals");
+}
+
+MStatus MFnMesh::setFaceVertexNormal(MVector&, int, int, MSpace::Space, MDGModifier*)
+{
+    TVX_API_CALL("MFnMesh::setFaceVertexNormal");
+    return notImplemented("MFnMesh::setFaceVertexNormal");
+}
+
+MStatus MFnMesh::setVertexNormal(MVector&, int, MSpace::Space, MDGModifier*)
+{
+    TVX_API_CALL("MFnMesh::setVertexNormal");
+    return notImplemented("MFnMesh::setVertexNormal");
+}
+
+MStatus MFnMesh::setFaceVertexNormals(MVectorArray&, MIntArray&, MIntArray&, MSpace::Space)
+{
+    TVX_API_CALL("MFnMesh::setFaceVertexNormals");
+    return notImplemented("MFnMesh::setFaceVertexNormals");
+}
+
+MStatus MFnMesh::setVertexNormals(MVectorArray&, MIntArray&, MSpace::Space)
+{
+    TVX_API_CALL("MFnMesh::setVertexNormals");
+    return notImplemented("MFnMesh::setVertexNormals");
+}
+
+MStatus MFnMesh::lockVertexNormals(MIntArray&)
+{
+    TVX_API_CALL("MFnMesh::lockVertexNormals");
+    return notImplemented("MFnMesh::lockVertexNormals");
+}
+
+MStatus MFnMesh::lockFaceVertexNormals(MIntArray&, MIntArray&)
+{
+    TVX_API_CALL("MFnMesh::lockFaceVertexNormals");
+    return notImplemented("MFnMesh::lockFaceVertexNormals");
+}
+
+int MFnMesh::getTangentId(int, int, MStatus* ReturnStatus) const
+{
+    TVX_API_CALL_OR("MFnMesh::getTangentId", ReturnStatus, 0);
+    notImplemented("MFnMesh::getTangentId", ReturnStatus);
+    return 0;
+}
+
+MStatus MFnMesh::getTangents(MFloatVectorArray&, MSpace::Space, const MString*) const
+{
+    TVX_API_CALL("MFnMesh::getTangents");
+    return notImplemented("MFnMesh::getTangents");
+}
+
+MStatus MFnMesh::getFaceVertexTangent(int, int, MVector&, MSpace::Space, const MString*) const
+{
+    TVX_API_CALL("MFnMesh::getFaceVertexTangent");
+    return notImplemented("MFnMesh::getFaceVertexTangent");
+}
+
+MStatus MFnMesh::getFaceVertexTangents(int, MFloatVectorArray&, MSpace::Space, const MString*) const
+{
+    TVX_API_CALL("MFnMesh::getFaceVertexTangents");
+    return notImplemented("MFnMesh::getFaceVertexTangents");
+}
+
+MStatus MFnMesh::getBinormals(MFloatVectorArray&, MSpace::Space, const MString*) const
+{
+    TVX_API_CALL("MFnMesh::getBinormals");
+    return notImplemented("MFnMesh::getBinormals");
+}
+
+MStatus MFnMesh::getFaceVertexBinormal(int, int, MVector&, MSpace::Space, const MString*) const
+{
+    TVX_API_CALL("MFnMesh::getFaceVertexBinormal");
+    return notImplemented("MFnMesh::getFaceVertexBinormal");
+}
+
+MStatus MFnMesh::getFaceVertexBinormals(int, MFloatVectorArray&, MSpace::Space, const MString*) const
+{
+    TVX_API_CALL("MFnMesh::getFaceVertexBinormals");
+    return notImplemented("MFnMesh::getFaceVertexBinormals");
+}
+
+bool MFnMesh::isRightHandedTangent(int, const MString*, MStatus* ReturnStatus) const
+{
+    TVX_API_CALL_OR("MFnMesh::isRightHandedTangent", ReturnStatus, false);
+    notImplemented("MFnMesh::isRightHandedTangent", ReturnStatus);
+    return false;
+}
+
+MStatus MFnMesh::getCreaseEdges(MUintArray&, MDoubleArray&) const
+{
+    TVX_API_CALL("MFnMesh::getCreaseEdges");
+    return notImplemented("MFnMesh::getCreaseEdges");
+}
+
+MStatus MFnMesh::setCreaseEdges(const MUintArray&, const MDoubleArray&)
+{
+    TVX_API_CALL("MFnMesh::setCreaseEdges");
+    return notImplemented("MFnMesh::setCreaseEdges");
+}
+
+MUintArray MFnMesh::getInvisibleFaces(MStatus* ReturnStatus) const
+{
+    TVX_API_CALL_OR("MFnMesh::getInvisibleFaces", ReturnStatus, MUintArray());
+    notImplemented("MFnMesh::getInvisibleFaces", ReturnStatus);
+    return MUintArray();
+}
+
+MStatus MFnMesh::setInvisibleFaces(const MUintArray&, bool)
+{
+    TVX_API_CALL("MFnMesh::setInvisibleFaces");
+    return notImplemented("MFnMesh::setInvisibleFaces");
+}
+
+MStatus MFnMesh::getCreaseVertices(MUintArray&, MDoubleArray&) const
+{
+    TVX_API_CALL("MFnMesh::getCreaseVertices");
+    return notImplemented("MFnMesh::getCreaseVertices");
+}
+
+MStatus MFnMesh::setCreaseVertices(const MUintArray&, const MDoubleArray&)
+{
+    TVX_API_CALL("MFnMesh::setCreaseVertices");
+    return notImplemented("MFnMesh::setCreaseVertices");
+}
+
+MStatus MFnMesh::polyTriangulate(const float*, unsigned int, unsigned int, unsigned int, bool, const float*,
+                                 unsigned short*, int&)
+{
+    TVX_API_CALL("MFnMesh::polyTriangulate");
+    return notImplemented("MFnMesh::polyTriangulate");
+}
+
+MStatus MFnMesh::polyTriangulate(const MFloatPointArray&, const MIntArray&, unsigned int,
+                                 const MFloatVectorArray&, MIntArray&)
+{
+    TVX_API_CALL("MFnMesh::polyTriangulate");
+    return notImplemented("MFnMesh::polyTriangulate");
+}
+
+MObject MFnMesh::generateSmoothMesh(MObject, MStatus* ReturnStatus)
+{
+    TVX_API_CALL_OR("MFnMesh::generateSmoothMesh", ReturnStatus, MObject());
+    notImplemented("MFnMesh::generateSmoothMesh", ReturnStatus);
+    return MObject();
+}
+
+MObject MFnMesh::addPolygon(MPointArray&, double, bool, double, bool, MObject, MStatus* ReturnStatus)
+{
+    TVX_API_CALL_OR("MFnMesh::addPolygon", ReturnStatus, MObject());
+    notImplemented("MFnMesh::addPolygon", ReturnStatus);
+    return MObject();
+}
+
+bool MFnMesh::intersect(MPoint&, MVector&, MPointArray&, MStatus* ReturnStatus) const
+{
+    TVX_API_CALL_OR("MFnMesh::intersect", ReturnStatus, false);
+    notImplemented("MFnMesh::intersect", ReturnStatus);
+    return false;
+}
+
+bool MFnMesh::intersect(const MPoint&, const MVector&, MPointArray&, MStatus* ReturnStatus) const
+{
+    TVX_API_CALL_OR("MFnMesh::intersect", ReturnStatus, false);
+    notImplemented("MFnMesh::intersect", ReturnStatus);
+    return false;
+}
+
+const adsk::Data::Associations* MFnMesh::metadata(MStatus* ReturnStatus) const
+{
+    TVX_API_CALL_OR("MFnMesh::metadata", ReturnStatus, nullptr);
+    notImplemented("MFnMesh::metadata", ReturnStatus);
+    return nullptr;
+}
+
+MStatus MFnMesh::setMetadata(const adsk::Data::Associations&)
+{
+    TVX_API_CALL("MFnMesh::setMetadata");
+    return notImplemented("MFnMesh::setMetadata");
+}
+
+MStatus MFnMesh::validateMetadata(MString&) const
+{
+    TVX_API_CALL("MFnMesh::validateMetadata");
+    return notImplemented("MFnMesh::validateMetadata");
+}
