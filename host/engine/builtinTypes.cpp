@@ -8,6 +8,7 @@
 #include "geometry/polyNodes.h"
 #include "mesh.h"
 #include "number.h"
+#include "particle.h"
 #include "scene.h"
 #include "values.h"
 
@@ -231,6 +232,7 @@ void addBuiltinComputes(TypeTable& types)
     give("unitToTimeConversion", conversion(1.0 / kTicksPerSecond));
     give("animCurve", computeCurve);
     addPolyComputes(types);
+    addParticleBehaviour(types);
 }
 
 } // namespace tvxhost::engine

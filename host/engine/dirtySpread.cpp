@@ -16,7 +16,7 @@ bool isOutdated(const Cell& cell)
     for (const Cell* at = &cell; at; at = at->parent())
         if (at->freshness != Freshness::inherited)
             return at->freshness == Freshness::dirty;
-    return cell.store().node().type().isOutput(cell.attribute());
+    return cell.store().node().isOutput(cell.attribute());
 }
 
 bool anyBelow(const Cell& cell, Freshness freshness)
@@ -69,7 +69,7 @@ bool isDirty(const Plug& plug)
     for (; above; above = above->parent())
         if (above->freshness != Freshness::inherited)
             return above->freshness == Freshness::dirty;
-    return plug.node()->type().isOutput(*plug.attribute());
+    return plug.node()->isOutput(*plug.attribute());
 }
 
 void setClean(const Plug& plug)
@@ -160,6 +160,9 @@ void DirtySpread::spreadFrom(const Plug& plug)
 
 void DirtySpread::spreadAlongAffects(const Plug& plug)
 {
+    // Of what was added to a node the type knows nothing.
+    if (plug.attribute()->flags.dynamic)
+        return;
     for (Attribute* output : plug.node()->type().affectedBy(*plug.attribute()))
         outdatePlug(*plug.node(), *output, plug);
 }

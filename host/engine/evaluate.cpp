@@ -186,7 +186,7 @@ Outcome evaluate(const Plug& plug)
         return {Reason::doesNotExist, "the node is gone or has no such attribute"};
     Node& node = *plug.node();
     Outcome outcome = pullAbove(node.cells().findNearest(plug));
-    if (node.type().isOutput(*plug.attribute()) && !isFed(node.cells().findNearest(plug)) && isDirty(plug))
+    if (node.isOutput(*plug.attribute()) && !isFed(node.cells().findNearest(plug)) && isDirty(plug))
         note(outcome, compute(plug));
     if (const Cell* cell = node.cells().find(plug))
         note(outcome, pullBelow(*cell));

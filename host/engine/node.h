@@ -32,6 +32,8 @@ public:
     virtual Computed compute(const Plug& plug) = 0;
     /// Empty: the host's own rule holds.
     virtual std::optional<bool> shouldSave(const Plug&) { return std::nullopt; }
+    /// Whether it computes an attribute that was added to its node.
+    virtual bool computes(const Attribute& /*dynamic*/) const { return false; }
     virtual void setDependentsDirty(const Plug&, std::vector<Plug>&) {}
     /// Empty: no opinion.
     virtual std::optional<bool> legalConnection(const Plug&, const Plug& /*other*/, bool /*asSource*/)
@@ -73,6 +75,13 @@ public:
     /// By long or short name (children too) or alias; null when there is none.
     Attribute* findAttribute(const std::string& name) const;
     bool hasAttribute(const Attribute& attribute) const;
+    /// Whether the attribute is computed rather than only kept.
+    bool isOutput(const Attribute& attribute) const
+    {
+        if (attribute.flags.dynamic)
+            return m_behaviour && m_behaviour->computes(attribute);
+        return m_type->isOutput(attribute);
+    }
     Outcome addDynamicAttribute(const Ref<Attribute>& attribute);
     Outcome removeDynamicAttribute(Attribute& attribute);
 

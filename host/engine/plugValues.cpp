@@ -309,7 +309,7 @@ Outcome writeElements(const Plug& arrayPlug, int first, const double* values, st
         return countMismatch(arrayPlug, (count / each + 1) * each, count);
 
     Cell& array = *arrayPlug.node()->cells().make(arrayPlug);
-    const bool canPack = !arrayPlug.node()->type().isOutput(attribute) && array.linkedCells() == 0 &&
+    const bool canPack = !arrayPlug.node()->isOutput(attribute) && array.linkedCells() == 0 &&
                          array.below().empty() && !attribute.minimum && !attribute.maximum;
     if (!canPack) {
         for (std::size_t i = 0; i < count / each; ++i)

@@ -424,6 +424,7 @@ void Scene::newScene()
     m_namespace = ":";
     m_units = Units();
     m_time = 0.0;
+    m_playback = Playback();
     fileName.clear();
     fileInfo.clear();
     requirements.clear();

@@ -6,6 +6,7 @@
 #include "nodeType.h"
 #include "optionVars.h"
 #include "outcome.h"
+#include "playback.h"
 #include "plug.h"
 #include "scriptEditor.h"
 #include "selection.h"
@@ -164,6 +165,7 @@ public:
     /// Seconds; a change dirties what hangs on time.
     double time() const { return m_time; }
     void setTime(double seconds);
+    Playback& playback() { return m_playback; }
 
     /// Removes a connection however the two plugs were made (the caller knows that it exists).
     void breakConnection(const Plug& source, const Plug& destination);
@@ -235,6 +237,7 @@ private:
     SelectionList m_selection;
     SelectionList m_hilite;
     double m_time = 0.0;
+    Playback m_playback;
 };
 
 } // namespace tvxhost::engine

@@ -28,7 +28,7 @@ const Attribute* packedHolder(const Plug& plug)
 PackedElements* packedRoom(const Plug& plug)
 {
     const Attribute* holder = packedHolder(plug);
-    if (!holder || plug.node()->type().isOutput(*holder))
+    if (!holder || plug.node()->isOutput(*holder))
         return nullptr;
     const Plug element = holder == plug.attribute() ? plug : plug.parent();
     Cell* array = plug.logicalIndex() < 0 ? nullptr : plug.node()->cells().make(element.array());
@@ -119,7 +119,7 @@ Ref<Data> storedData(const Plug& plug)
 void noteEdit(const Plug& plug)
 {
     // What is computed is derived itself: nothing else hangs on when it was stored.
-    if (!plug.node()->type().isOutput(*plug.attribute()))
+    if (!plug.node()->isOutput(*plug.attribute()))
         ++plug.node()->cells().edits;
 }
 

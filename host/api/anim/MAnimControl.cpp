@@ -6,7 +6,30 @@
 #include "support/notImplemented.h"
 
 using namespace tvxhost;
+using api::failure;
 using api::notImplemented;
+using api::StatusText;
+using engine::Playback;
+
+namespace {
+
+Playback& playback()
+{
+    return engine::Scene::current().playback();
+}
+
+MTime timeOf(double seconds)
+{
+    return MTime(MTime(seconds, MTime::kSeconds).as(MTime::uiUnit()), MTime::uiUnit());
+}
+
+MStatus set(void (Playback::*member)(double), const MTime& time)
+{
+    (playback().*member)(time.as(MTime::kSeconds));
+    return MS::kSuccess;
+}
+
+} // namespace
 
 MAnimControl::MAnimControl() {}
 
@@ -14,8 +37,7 @@ MAnimControl::~MAnimControl() {}
 
 MTime MAnimControl::currentTime()
 {
-    MTime now(engine::Scene::current().time(), MTime::kSeconds);
-    return MTime(now.as(MTime::uiUnit()), MTime::uiUnit());
+    return timeOf(engine::Scene::current().time());
 }
 
 MStatus MAnimControl::setCurrentTime(const MTime& newTime)
@@ -56,110 +78,116 @@ bool MAnimControl::weightedTangents(MStatus* ReturnStatus)
 
 MAnimControl::PlaybackMode MAnimControl::playbackMode()
 {
-    notImplemented("MAnimControl::playbackMode");
-    return kPlaybackOnce;
+    return static_cast<PlaybackMode>(playback().mode);
 }
 
-MStatus MAnimControl::setPlaybackMode(PlaybackMode)
+MStatus MAnimControl::setPlaybackMode(PlaybackMode newMode)
 {
     TVX_API_CALL("MAnimControl::setPlaybackMode");
-    return notImplemented("MAnimControl::setPlaybackMode");
+    if (newMode < kPlaybackOnce || newMode > kPlaybackOscillate)
+        return failure(MS::kInvalidParameter, StatusText::unexpectedFailure);
+    playback().mode = static_cast<Playback::Mode>(newMode);
+    return MS::kSuccess;
 }
 
 MAnimControl::PlaybackViewMode MAnimControl::viewMode()
 {
-    notImplemented("MAnimControl::viewMode");
-    return kPlaybackViewAll;
+    return static_cast<PlaybackViewMode>(playback().views);
 }
 
-MStatus MAnimControl::setViewMode(PlaybackViewMode)
+MStatus MAnimControl::setViewMode(PlaybackViewMode newMode)
 {
     TVX_API_CALL("MAnimControl::setViewMode");
-    return notImplemented("MAnimControl::setViewMode");
+    if (newMode < kPlaybackViewAll || newMode > kPlaybackViewActive)
+        return failure(MS::kInvalidParameter, StatusText::unexpectedFailure);
+    playback().views = static_cast<Playback::Views>(newMode);
+    return MS::kSuccess;
 }
 
 double MAnimControl::playbackBy()
 {
-    notImplemented("MAnimControl::playbackBy");
-    return 1.0;
+    return playback().by;
 }
 
-MStatus MAnimControl::setPlaybackBy(const double&)
+MStatus MAnimControl::setPlaybackBy(const double& newTime)
 {
     TVX_API_CALL("MAnimControl::setPlaybackBy");
-    return notImplemented("MAnimControl::setPlaybackBy");
+    playback().by = newTime;
+    return MS::kSuccess;
 }
 
 MTime MAnimControl::minTime()
 {
-    notImplemented("MAnimControl::minTime");
-    return MTime();
+    return timeOf(playback().minimum());
 }
 
 MTime MAnimControl::maxTime()
 {
-    notImplemented("MAnimControl::maxTime");
-    return MTime();
+    return timeOf(playback().maximum());
 }
 
-MStatus MAnimControl::setMinTime(MTime)
+MStatus MAnimControl::setMinTime(MTime newMinTime)
 {
     TVX_API_CALL("MAnimControl::setMinTime");
-    return notImplemented("MAnimControl::setMinTime");
+    return set(&Playback::setMinimum, newMinTime);
 }
 
-MStatus MAnimControl::setMaxTime(MTime)
+MStatus MAnimControl::setMaxTime(MTime newMaxTime)
 {
     TVX_API_CALL("MAnimControl::setMaxTime");
-    return notImplemented("MAnimControl::setMaxTime");
+    return set(&Playback::setMaximum, newMaxTime);
 }
 
-MStatus MAnimControl::setMinMaxTime(MTime, MTime)
+MStatus MAnimControl::setMinMaxTime(MTime min, MTime max)
 {
     TVX_API_CALL("MAnimControl::setMinMaxTime");
-    return notImplemented("MAnimControl::setMinMaxTime");
+    if (max < min)
+        return failure(MS::kInvalidParameter, StatusText::unexpectedFailure);
+    set(&Playback::setMinimum, min);
+    return set(&Playback::setMaximum, max);
 }
 
 MTime MAnimControl::animationStartTime()
 {
-    notImplemented("MAnimControl::animationStartTime");
-    return MTime();
+    return timeOf(playback().animationStart());
 }
 
 MTime MAnimControl::animationEndTime()
 {
-    notImplemented("MAnimControl::animationEndTime");
-    return MTime();
+    return timeOf(playback().animationEnd());
 }
 
-MStatus MAnimControl::setAnimationStartTime(MTime)
+MStatus MAnimControl::setAnimationStartTime(MTime newStartTime)
 {
     TVX_API_CALL("MAnimControl::setAnimationStartTime");
-    return notImplemented("MAnimControl::setAnimationStartTime");
+    return set(&Playback::setAnimationStart, newStartTime);
 }
 
-MStatus MAnimControl::setAnimationEndTime(MTime)
+MStatus MAnimControl::setAnimationEndTime(MTime newEndTime)
 {
     TVX_API_CALL("MAnimControl::setAnimationEndTime");
-    return notImplemented("MAnimControl::setAnimationEndTime");
+    return set(&Playback::setAnimationEnd, newEndTime);
 }
 
-MStatus MAnimControl::setAnimationStartEndTime(MTime, MTime)
+MStatus MAnimControl::setAnimationStartEndTime(MTime newStartTime, MTime newEndTime)
 {
     TVX_API_CALL("MAnimControl::setAnimationStartEndTime");
-    return notImplemented("MAnimControl::setAnimationStartEndTime");
+    if (newEndTime < newStartTime)
+        return failure(MS::kInvalidParameter, StatusText::unexpectedFailure);
+    set(&Playback::setAnimationStart, newStartTime);
+    return set(&Playback::setAnimationEnd, newEndTime);
 }
 
 double MAnimControl::playbackSpeed()
 {
-    notImplemented("MAnimControl::playbackSpeed");
-    return 0.0;
+    return playback().speed;
 }
 
-MStatus MAnimControl::setPlaybackSpeed(double)
+MStatus MAnimControl::setPlaybackSpeed(double newSpeed)
 {
     TVX_API_CALL("MAnimControl::setPlaybackSpeed");
-    return notImplemented("MAnimControl::setPlaybackSpeed");
+    playback().speed = newSpeed;
+    return MS::kSuccess;
 }
 
 MStatus MAnimControl::playForward()

@@ -16,6 +16,8 @@
 #include "support/notImplemented.h"
 #include "support/plugCall.h"
 
+#include "engine/duplicate.h"
+
 #include <algorithm>
 
 using namespace tvxhost::api;
@@ -386,10 +388,26 @@ unsigned int MFnDagNode::instanceCount(bool total, MStatus* ReturnStatus) const
     return static_cast<unsigned int>(total ? DagPath::countTo(*node) : node->parents().size());
 }
 
-MObject MFnDagNode::duplicate(bool, bool, MStatus* ReturnStatus) const
+MObject MFnDagNode::duplicate(bool instance, bool instanceLeaf, MStatus* ReturnStatus) const
 {
-    notImplemented("MFnDagNode::duplicate", ReturnStatus);
-    return MObject();
+    TVX_API_CALL_OR("MFnDagNode::duplicate", ReturnStatus, MObject());
+    DagNode* node = dagNodeOf(*this);
+    if (!requireAttached(node, ReturnStatus))
+        return MObject();
+    if (instance) {
+        notImplemented("MFnDagNode::duplicate as an instance", ReturnStatus);
+        return MObject();
+    }
+    tvxhost::engine::DuplicateOptions options;
+    options.sharesLeaves = instanceLeaf;
+    DagPath above = pathOf(*this, *node);
+    if (!above.pop()) {
+        give(ReturnStatus, failure(StatusText::objectIsIncompatible));
+        return MObject();
+    }
+    const auto copy = tvxhost::engine::duplicate(*node, *above.node(), options);
+    give(ReturnStatus, toStatus(copy.outcome));
+    return copy ? tvxAccess::handle(copy.value) : MObject();
 }
 
 // Paths

@@ -46,6 +46,7 @@
 #include <maya/MFnMessageAttribute.h>
 #include <maya/MFnNumericAttribute.h>
 #include <maya/MFnNumericData.h>
+#include <maya/MFnParticleSystem.h>
 #include <maya/MFnPointArrayData.h>
 #include <maya/MFnStringArrayData.h>
 #include <maya/MFnStringData.h>
@@ -58,10 +59,10 @@
 #include <maya/MIntArray.h>
 #include <maya/MItDag.h>
 #include <maya/MItDependencyNodes.h>
-#include <maya/MMatrix.h>
 #include <maya/MItMeshEdge.h>
 #include <maya/MItMeshPolygon.h>
 #include <maya/MItMeshVertex.h>
+#include <maya/MMatrix.h>
 #include <maya/MMatrixArray.h>
 #include <maya/MNamespace.h>
 #include <maya/MObject.h>
@@ -156,15 +157,16 @@ const Layout layouts[] = {
     LAYOUT(MFnDoubleArrayData, 32, 8),
     LAYOUT(MFnEnumAttribute, 64, 8),
     LAYOUT(MFnGenericAttribute, 64, 8),
-    LAYOUT(MFnIntArrayData, 32, 8),
     LAYOUT(MFnGeometryData, 32, 8),
+    LAYOUT(MFnIntArrayData, 32, 8),
     LAYOUT(MFnMatrixAttribute, 64, 8),
     LAYOUT(MFnMatrixData, 32, 8),
-    LAYOUT(MFnMessageAttribute, 64, 8),
     LAYOUT(MFnMesh, 80, 8),
     LAYOUT(MFnMeshData, 32, 8),
+    LAYOUT(MFnMessageAttribute, 64, 8),
     LAYOUT(MFnNumericAttribute, 64, 8),
     LAYOUT(MFnNumericData, 32, 8),
+    LAYOUT(MFnParticleSystem, 64, 8),
     LAYOUT(MFnPlugin, 32, 8),
     LAYOUT(MFnPointArrayData, 32, 8),
     LAYOUT(MFnStringArrayData, 32, 8),
@@ -178,11 +180,11 @@ const Layout layouts[] = {
     LAYOUT(MIntArray, 24, 8),
     LAYOUT(MItDag, 56, 8),
     LAYOUT(MItDependencyNodes, 56, 8),
-    LAYOUT(MMatrix, 128, 8),
-    LAYOUT(MMatrixArray, 16, 8),
     LAYOUT(MItMeshEdge, 88, 8),
     LAYOUT(MItMeshPolygon, 88, 8),
     LAYOUT(MItMeshVertex, 88, 8),
+    LAYOUT(MMatrix, 128, 8),
+    LAYOUT(MMatrixArray, 16, 8),
     LAYOUT(MNamespace, 1, 1),
     LAYOUT(MObject, 16, 8),
     LAYOUT(MObjectArray, 8, 8),

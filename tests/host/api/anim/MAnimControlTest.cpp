@@ -21,6 +21,51 @@ TEST_F(MAnimControlTest, TheCurrentTimeIsTheScenes)
     EXPECT_EQ(MAnimControl::currentTime().unit(), MTime::kPALFrame);
 }
 
+TEST_F(MAnimControlTest, TellsAndSetsTheRanges)
+{
+    EXPECT_EQ(MAnimControl::minTime(), MTime(1, MTime::kFilm));
+    EXPECT_EQ(MAnimControl::maxTime(), MTime(24, MTime::kFilm));
+    EXPECT_EQ(MAnimControl::animationStartTime(), MTime(1, MTime::kFilm));
+    EXPECT_EQ(MAnimControl::animationEndTime(), MTime(48, MTime::kFilm));
+    EXPECT_EQ(MAnimControl::setAnimationStartEndTime(MTime(0, MTime::kFilm), MTime(200, MTime::kFilm)),
+              MS::kSuccess);
+    EXPECT_EQ(MAnimControl::setMinMaxTime(MTime(10, MTime::kFilm), MTime(120, MTime::kFilm)), MS::kSuccess);
+    EXPECT_EQ(MAnimControl::minTime().value(), 10.0);
+    EXPECT_EQ(MAnimControl::maxTime().value(), 120.0);
+    EXPECT_EQ(MAnimControl::animationEndTime().value(), 200.0);
+    MTime::setUIUnit(MTime::kSeconds);
+    EXPECT_EQ(MAnimControl::maxTime().value(), 5.0);
+    EXPECT_EQ(MAnimControl::setMinMaxTime(MTime(2, MTime::kSeconds), MTime(1, MTime::kSeconds)),
+              MS::kInvalidParameter);
+}
+
+TEST_F(MAnimControlTest, AnEndOfARangeMovesThoseThatItPasses)
+{
+    EXPECT_EQ(MAnimControl::setMaxTime(MTime(60, MTime::kFilm)), MS::kSuccess);
+    EXPECT_EQ(MAnimControl::animationEndTime(), MTime(60, MTime::kFilm));
+    EXPECT_EQ(MAnimControl::setAnimationStartTime(MTime(30, MTime::kFilm)), MS::kSuccess);
+    EXPECT_EQ(MAnimControl::minTime(), MTime(30, MTime::kFilm));
+    EXPECT_EQ(MAnimControl::setAnimationEndTime(MTime(20, MTime::kFilm)), MS::kSuccess);
+    EXPECT_EQ(MAnimControl::animationStartTime(), MTime(20, MTime::kFilm));
+    EXPECT_EQ(MAnimControl::minTime(), MTime(20, MTime::kFilm));
+    EXPECT_EQ(MAnimControl::maxTime(), MTime(20, MTime::kFilm));
+    EXPECT_EQ(MAnimControl::setMinTime(MTime(40, MTime::kFilm)), MS::kSuccess);
+    EXPECT_EQ(MAnimControl::maxTime(), MTime(40, MTime::kFilm));
+}
+
+TEST_F(MAnimControlTest, TellsHowItWouldPlay)
+{
+    EXPECT_EQ(MAnimControl::playbackMode(), MAnimControl::kPlaybackLoop);
+    EXPECT_EQ(MAnimControl::setPlaybackMode(MAnimControl::kPlaybackOscillate), MS::kSuccess);
+    EXPECT_EQ(MAnimControl::playbackMode(), MAnimControl::kPlaybackOscillate);
+    EXPECT_EQ(MAnimControl::setViewMode(MAnimControl::kPlaybackViewAll), MS::kSuccess);
+    EXPECT_EQ(MAnimControl::viewMode(), MAnimControl::kPlaybackViewAll);
+    EXPECT_EQ(MAnimControl::setPlaybackBy(2.0), MS::kSuccess);
+    EXPECT_EQ(MAnimControl::playbackBy(), 2.0);
+    EXPECT_EQ(MAnimControl::setPlaybackSpeed(1.0), MS::kSuccess);
+    EXPECT_EQ(MAnimControl::playbackSpeed(), 1.0);
+}
+
 TEST_F(MAnimControlTest, NothingPlays)
 {
     EXPECT_FALSE(MAnimControl::isPlaying());
