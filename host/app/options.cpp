@@ -79,6 +79,11 @@ void declareMode(CLI::App& app, Options& options, Words& words)
 {
     app.add_flag("--interactive", options.interactive,
                  "Run as with a user interface: windows and menus are recorded, plug-ins make theirs");
+    app.add_flag("--qt", options.qt, "The same with a Qt application and a main window");
+    app.add_option("--dialog-answer", options.dialogAnswers,
+                   "What the next file dialog is answered; may be repeated, one for each dialog")
+        ->type_name("ANSWER")
+        ->allow_extra_args(false);
     app.add_option("--fail", words.faults, "Make the N-th call of an API function fail; may be repeated")
         ->type_name("F[:N[:CODE]]")
         ->allow_extra_args(false);
@@ -136,6 +141,7 @@ void take(const Words& words, Options& options)
     takeFaults(words.faults, options);
     takeFile(words, options);
     options.summary = formatNamed(words.summary);
+    options.interactive = options.interactive || options.qt;
 }
 
 bool isPixels(std::string_view text, int& number)

@@ -44,6 +44,8 @@ struct Options
     bool evaluate = false;
 
     bool interactive = false;
+    bool qt = false;                        ///< with a Qt application and main window; interactive then
+    std::vector<std::string> dialogAnswers; ///< what the dialogs get, in order
     std::vector<Fault> faults;
     bool listCalls = false;
 };

@@ -4,6 +4,7 @@
 #include "nodeReport.h"
 #include "progress.h"
 #include "typeReport.h"
+#include "userInterface.h"
 
 #include "api/support/faults.h"
 #include "engine/atomicFile.h"
@@ -47,6 +48,7 @@ public:
     int run()
     {
         armFaults();
+        openWindows();
         loadPreferences();
         loadPlugins();
         if (openScene()) {
@@ -56,12 +58,14 @@ public:
             saveScene();
         }
         savePreferences();
+        finishWindows();
         listCalls();
         return m_session.editor().errors() == 0 ? 0 : 1;
     }
 
 private:
     void armFaults();
+    void openWindows();
     void loadPreferences();
     void loadPlugins();
     bool openScene();
@@ -74,6 +78,7 @@ private:
     void renderPicture();
     void saveScene();
     void savePreferences();
+    void finishWindows();
     void listCalls();
 
     /// Shows what went wrong, if anything did.
@@ -92,6 +97,7 @@ private:
 
     const Options& m_options;
     const Streams& m_streams;
+    std::unique_ptr<UserInterface> m_windows; ///< outlives the session, whose plug-ins may have windows in it
     Session m_session;
     std::string m_obstacle; ///< why no scene and no picture is written; empty: nothing stands in the way
 };
@@ -104,12 +110,22 @@ void Program::armFaults()
         api::faults::record(true);
 }
 
+void Program::openWindows()
+{
+    m_session.commands().dialogAnswers.assign(m_options.dialogAnswers.begin(), m_options.dialogAnswers.end());
+    if (!m_options.qt)
+        return;
+    auto windows = loadUserInterface();
+    check(windows.outcome);
+    m_windows = std::move(windows.value);
+}
+
 void Program::loadPreferences()
 {
     if (m_options.preferences.empty())
         return;
     m_session.commands().preferencesFolder = m_options.preferences;
-    check(m_session.scene().optionVars().load(m_options.preferences));
+    check(m_session.commands().loadPreferences(m_session.interpreter()));
 }
 
 void Program::loadPlugins()
@@ -224,9 +240,14 @@ void Program::saveScene()
 
 void Program::savePreferences()
 {
-    const engine::OptionVars& optionVars = m_session.scene().optionVars();
-    if (!m_options.preferences.empty() && optionVars.isChanged())
-        check(optionVars.save(m_options.preferences));
+    check(m_session.commands().savePreferences(true));
+}
+
+/// What was put off until there is nothing else to do.
+void Program::finishWindows()
+{
+    if (m_windows)
+        m_windows->processEvents();
 }
 
 void Program::listCalls()

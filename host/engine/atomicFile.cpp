@@ -107,4 +107,16 @@ Outcome writeFileAtomically(const fs::path& path, std::string_view text)
     return {};
 }
 
+std::filesystem::path setAside(const std::filesystem::path& file)
+{
+    std::filesystem::path aside = file;
+    aside += ".broken";
+    const std::string stem = aside.string();
+    for (int i = 1; std::filesystem::exists(aside); ++i)
+        aside = stem + std::to_string(i);
+    std::error_code error;
+    std::filesystem::rename(file, aside, error);
+    return error ? std::filesystem::path() : aside;
+}
+
 } // namespace tvxhost::engine

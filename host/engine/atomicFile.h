@@ -13,4 +13,8 @@ namespace tvxhost::engine {
 /// the system says.
 Outcome writeFileAtomically(const std::filesystem::path& path, std::string_view text);
 
+/// Moves a file that cannot be understood out of the way, under its name with ".broken" (and a number) behind
+/// it; the new path, empty when that failed.
+std::filesystem::path setAside(const std::filesystem::path& file);
+
 } // namespace tvxhost::engine

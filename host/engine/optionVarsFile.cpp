@@ -271,19 +271,6 @@ private:
     std::string m_name;
 };
 
-/// Moves a file that cannot be read out of the way, under a name that is free.
-fs::path setAside(const fs::path& file)
-{
-    fs::path aside = file;
-    aside += ".broken";
-    const std::string stem = aside.string();
-    for (int i = 1; fs::exists(aside); ++i)
-        aside = stem + std::to_string(i);
-    std::error_code error;
-    fs::rename(file, aside, error);
-    return error ? fs::path() : aside;
-}
-
 } // namespace
 
 Outcome OptionVars::load(const fs::path& folder)

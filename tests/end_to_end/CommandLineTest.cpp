@@ -17,9 +17,9 @@ TEST(CommandLine, HelpNamesTheOptionsAndGivesExamples)
     const ProgramResult result = runHost({"--help"});
     EXPECT_EQ(result.exitCode, 0);
     EXPECT_EQ(result.errors, "");
-    for (const char* option :
-         {"--plugin", "--prefs", "--script", "-e,--execute", "--render", "--size", "--camera", "--save",
-          "--summary", "--check", "--describe", "--list-nodes", "--fail", "--list-calls", "Examples:"})
+    for (const char* option : {"--plugin", "--prefs", "--script", "-e,--execute", "--render", "--size",
+                               "--camera", "--save", "--summary", "--check", "--describe", "--list-nodes",
+                               "--dialog-answer", "--qt", "--fail", "--list-calls", "Examples:"})
         EXPECT_THAT(result.output, HasSubstr(option));
 }
 

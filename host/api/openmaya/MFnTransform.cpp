@@ -3,33 +3,25 @@
 
 #include "engine/scene.h"
 #include "support/dagSet.h"
-#include "support/matrix4.h"
 #include "support/notImplemented.h"
 #include "support/rotationOrder.h"
 #include "support/transformNode.h"
+#include "support/transformSpaces.h"
 
 #include <optional>
 
 using namespace tvxhost;
 using api::failure;
+using api::Parents;
+using api::rotationIn;
+using api::setRotationIn;
 using api::StatusText;
+using api::toSpace;
 using api::Transformation;
+using api::translationIn;
+using api::turn;
 
 namespace {
-
-/// What is above a transform: nothing unless the set was built on a path.
-struct Parents
-{
-    MMatrix matrix;
-    MQuaternion rotation;
-};
-
-MQuaternion rotationOf(const MMatrix& matrix)
-{
-    Transformation parts;
-    parts.decompose(matrix);
-    return parts.rotation.asQuaternion();
-}
 
 /// The parents that a space takes into account; null, and why, when it needs a path and there is none.
 std::optional<Parents> parentsFor(const MFnDagNode& set, MSpace::Space space, MStatus& status)
@@ -45,8 +37,7 @@ std::optional<Parents> parentsFor(const MFnDagNode& set, MSpace::Space space, MS
         status = failure(StatusText::unexpectedFailure);
         return std::nullopt;
     }
-    const auto matrix = api::fromImath<MMatrix>(path->exclusiveMatrix());
-    return Parents{matrix, rotationOf(matrix)};
+    return api::parentsOf(*path);
 }
 
 /// Reads all parts and gives them and the parents to `use`, which returns a status.
@@ -97,41 +88,6 @@ MStatus getPart(const MFnDagNode& set, MVector Transformation::*partOf, double t
 MVector product(const MVector& a, const double b[3])
 {
     return MVector(a.x * b[0], a.y * b[1], a.z * b[2]);
-}
-
-/// From the node's points to a space behind the transformation; the identity for the spaces before it.
-MMatrix toSpace(const Transformation& parts, const Parents& parents, MSpace::Space space)
-{
-    return api::isBehind(space) ? parts.matrix() * parents.matrix : MMatrix();
-}
-
-/// The rotation as seen from a space: in the world with the rotation of the axes and that of the parents.
-MQuaternion rotationIn(const Transformation& parts, const Parents& parents, MSpace::Space space)
-{
-    const MQuaternion own = parts.rotation.asQuaternion();
-    return space == MSpace::kWorld ? parts.orientation * own * parents.rotation : own;
-}
-
-void setRotationIn(Transformation& parts, const Parents& parents, MSpace::Space space,
-                   const MQuaternion& rotation)
-{
-    const MEulerRotation before = parts.rotation;
-    parts.rotation = space == MSpace::kWorld
-                         ? parts.orientation.inverse() * rotation * parents.rotation.inverse()
-                         : rotation;
-    parts.rotation.setToClosestSolution(before);
-}
-
-/// Turns further; in the world about its axes.
-void turn(Transformation& parts, const Parents& parents, MSpace::Space space, const MQuaternion& rotation)
-{
-    parts.rotateBy(
-        space == MSpace::kWorld ? parents.rotation * rotation * parents.rotation.inverse() : rotation, space);
-}
-
-MVector translationIn(const Transformation& parts, const Parents& parents)
-{
-    return MVector(MPoint(parts.translation) * parents.matrix);
 }
 
 /// The attributes of a limit: "minTransXLimit" and "minTransXLimitEnable".

@@ -33,9 +33,26 @@ MVector axisAngles(const MQuaternion& orientation)
     return orientation.asEulerRotation().asVector();
 }
 
+/// Writes the components that differ, all of them or none: a locked one that stays as it is refuses nothing.
 Outcome writeChanged(Node& node, const char* attribute, const MVector& before, const MVector& after)
 {
-    return before == after ? Outcome() : writePart(node, attribute, after);
+    if (before == after)
+        return {};
+    const Expected<Plug> plug = node.findPlug(attribute);
+    if (!plug)
+        return plug.outcome;
+    for (unsigned axis = 0; axis < 3; ++axis) {
+        if (before[axis] == after[axis])
+            continue;
+        const Outcome written = engine::writeNumber(plug.value.child(axis), engine::Number(after[axis]));
+        if (written)
+            continue;
+        for (unsigned done = 0; done < axis; ++done)
+            if (before[done] != after[done])
+                static_cast<void>(engine::writeNumber(plug.value.child(done), engine::Number(before[done])));
+        return written;
+    }
+    return {};
 }
 
 } // namespace
@@ -51,12 +68,6 @@ Expected<MVector> readPart(Node& node, const char* attribute)
     if (numbers.value.size() != 3)
         return Outcome(Reason::wrongKind);
     return MVector(numbers.value.data());
-}
-
-Outcome writePart(Node& node, const char* attribute, const MVector& value)
-{
-    const Expected<Plug> plug = node.findPlug(attribute);
-    return plug ? engine::writeNumbers(plug.value, {value.x, value.y, value.z}) : plug.outcome;
 }
 
 Expected<MEulerRotation::RotationOrder> readRotateOrder(Node& node)

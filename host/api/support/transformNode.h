@@ -24,7 +24,6 @@ engine::Expected<Transformation> readTransformation(engine::Node& node);
 
 /// One part, evaluated; centimetres and radians.
 engine::Expected<MVector> readPart(engine::Node& node, const char* attribute);
-engine::Outcome writePart(engine::Node& node, const char* attribute, const MVector& value);
 
 engine::Expected<MEulerRotation::RotationOrder> readRotateOrder(engine::Node& node);
 engine::Outcome writeRotateOrder(engine::Node& node, MEulerRotation::RotationOrder order);

@@ -1,7 +1,9 @@
 // Commands about places in the DAG: relatives, parents, groups, instances.
 #include "commandSupport.h"
 #include "sceneCommands.h"
-#include "transformValues.h"
+#include "transformParts.h"
+
+#include "api/support/transformNode.h"
 
 #include <algorithm>
 
@@ -80,16 +82,57 @@ DagNode* parentInPath(const SelectionItem& item)
     return item.path.length() > 1 ? item.path.nodeAt(item.path.length() - 2) : nullptr;
 }
 
-/// Moves a transform and keeps it where it stands in the world.
-engine::Outcome reparentInPlace(engine::Scene& scene, const SelectionItem& item, DagNode* to)
+/// The parent as the engine takes it: null for the world.
+DagNode* parentAt(const DagPath& path)
 {
-    DagNode& node = *item.path.node();
+    return path.length() > 0 ? path.node() : nullptr;
+}
+
+/// Puts a transform below the end of a path and keeps it where it stands in the world.
+engine::Outcome reparentInPlace(engine::Scene& scene, const SelectionItem& item, const DagPath& to)
+{
     const engine::Matrix world = item.path.inclusiveMatrix();
-    const engine::Outcome moved = scene.reparent(node, parentInPath(item), to);
-    if (!moved || !node.isTransform())
-        return moved;
-    const engine::Matrix local = world * DagPath::firstTo(node).exclusiveMatrix().inverse();
-    return setLocalMatrix(node, local);
+    const engine::Outcome moved = scene.reparent(*item.path.node(), parentInPath(item), parentAt(to));
+    return moved ? setLocalMatrix(*item.path.node(), world * to.inclusiveMatrix().inverse()) : moved;
+}
+
+/// The path below which a shape can stand: that of the wished parent, or of a transform made below it where
+/// there is need of one, below the world and where the shape would leave its place.
+DagPath placeForShape(CommandContext& context, const SelectionItem& item, const DagPath& to, bool isRelative)
+{
+    const engine::Matrix before = item.path.exclusiveMatrix();
+    const engine::Matrix after = to.inclusiveMatrix();
+    if (parentAt(to) && (isRelative || before.equalWithAbsError(after, 1e-9)))
+        return to;
+    DagNode& made =
+        *valueOf(context, sceneOf(context).createNode("transform", "transform1", parentAt(to)))->asDag();
+    if (!isRelative)
+        require(context, setLocalMatrix(made, before * after.inverse()));
+    DagPath place = to;
+    require(context, place.push(made));
+    return place;
+}
+
+/// Puts an item below the end of a path; where it stands then.
+DagPath putBelow(CommandContext& context, const SelectionItem& item, const DagPath& to, bool isRelative)
+{
+    engine::Scene& scene = sceneOf(context);
+    DagNode& node = *item.path.node();
+    DagPath place = node.isShape() ? placeForShape(context, item, to, isRelative) : to;
+    if (node.isShape() || isRelative)
+        require(context, scene.reparent(node, parentInPath(item), parentAt(place)));
+    else
+        require(context, reparentInPlace(scene, item, place));
+    require(context, place.push(node));
+    return place;
+}
+
+/// Makes an item stand below the end of a path as well; where that is.
+DagPath addBelow(CommandContext& context, const SelectionItem& item, DagPath to)
+{
+    require(context, sceneOf(context).addParent(*item.path.node(), *to.node()));
+    require(context, to.push(*item.path.node()));
+    return to;
 }
 
 void checkTransform(CommandContext& context, const SelectionItem& item, const ParsedCommand& call)
@@ -101,36 +144,48 @@ void checkTransform(CommandContext& context, const SelectionItem& item, const Pa
             "'parent' command only operates on transform nodes. To parent shapes, use the -s/shape flag.");
 }
 
-Value parent(CommandContext& context, const ParsedCommand& call)
+Value removeInstances(CommandContext& context, const std::vector<SelectionItem>& items,
+                      const ParsedCommand& call)
 {
     engine::Scene& scene = sceneOf(context);
-    std::vector<SelectionItem> items = itemsOrSelection(context, call.names());
-    DagNode* under = nullptr;
-    if (!call.has("world") && !call.has("removeObject")) {
-        if (items.size() < 2)
-            context.fail("'parent' needs objects and the parent they go under");
-        under = items.back().node->asDag();
-        if (!under || !under->isTransform())
-            context.fail("'" + items.back().name() + "' cannot be a parent");
-        items.pop_back();
-    }
-    Value::Strings moved;
+    Value::Strings names;
     for (const SelectionItem& item : items) {
         checkTransform(context, item, call);
-        DagNode& node = *item.path.node();
-        if (call.has("removeObject")) {
-            DagNode* from = parentInPath(item);
-            require(context, scene.removeParent(node, from ? *from : scene.world()));
-        } else if (call.has("addObject")) {
-            require(context, scene.addParent(node, *under));
-        } else if (call.has("relative") || node.isShape()) {
-            require(context, scene.reparent(node, parentInPath(item), under));
-        } else {
-            require(context, reparentInPlace(scene, item, under));
-        }
-        moved.push_back(scene.shortestName(node));
+        DagNode* above = parentInPath(item);
+        require(context, scene.removeParent(*item.path.node(), above ? *above : scene.world()));
+        names.push_back(scene.shortestName(*item.path.node()));
     }
-    return Value(std::move(moved));
+    return Value(std::move(names));
+}
+
+/// The path of the parent that a call names last, which is then no item any more.
+DagPath takeParent(CommandContext& context, std::vector<SelectionItem>& items)
+{
+    if (items.size() < 2)
+        context.fail("'parent' needs objects and the parent they go under");
+    const SelectionItem last = items.back();
+    items.pop_back();
+    if (!last.isDag() || !last.path.node()->isTransform())
+        context.fail("'" + last.name() + "' cannot be a parent");
+    return last.path;
+}
+
+Value parent(CommandContext& context, const ParsedCommand& call)
+{
+    std::vector<SelectionItem> items = itemsOrSelection(context, call.names());
+    if (items.empty())
+        context.fail("Nothing is selected to parent.");
+    if (call.has("removeObject"))
+        return removeInstances(context, items, call);
+    const DagPath to = call.has("world") ? DagPath::world(sceneOf(context)) : takeParent(context, items);
+    Value::Strings names;
+    for (const SelectionItem& item : items) {
+        checkTransform(context, item, call);
+        const DagPath place = call.has("addObject") ? addBelow(context, item, to)
+                                                    : putBelow(context, item, to, call.has("relative"));
+        names.push_back(place.partialName());
+    }
+    return Value(std::move(names));
 }
 
 Value group(CommandContext& context, const ParsedCommand& call)
@@ -145,17 +200,38 @@ Value group(CommandContext& context, const ParsedCommand& call)
         above = parentInPath(items.front());
     engine::Node& made =
         *valueOf(context, scene.createNode("transform", call.string("name", "group1"), above));
+    const DagPath place = DagPath::firstTo(*made.asDag());
     for (const SelectionItem& item : items) {
         if (!item.isDag())
             context.fail("'" + item.name() + "' is not a DAG node");
-        const bool isRelative = call.has("relative") || item.path.node()->isShape();
-        require(context, isRelative ? scene.reparent(*item.path.node(), parentInPath(item), made.asDag())
-                                    : reparentInPlace(scene, item, made.asDag()));
+        putBelow(context, item, place, call.has("relative") || item.path.node()->isShape());
     }
     engine::SelectionList list;
     list.add(itemNamed(context, scene.shortestName(made)));
     scene.setSelection(std::move(list));
     return Value(scene.shortestName(made));
+}
+
+/// A transform with the numbers of another one.
+DagNode& transformLike(CommandContext& context, DagNode& original, const std::string& name, DagNode* above)
+{
+    engine::Scene& scene = sceneOf(context);
+    DagNode& copy = *valueOf(context, scene.createNode("transform", name, above))->asDag();
+    const auto parts = api::readTransformation(original);
+    require(context, parts.outcome);
+    require(context, api::writeTransformation(copy, parts.value));
+    return copy;
+}
+
+/// What hangs below a transform as instances below another; with `onlyLeaves` transforms are made anew.
+void addInstances(CommandContext& context, DagNode& original, DagNode& copy, bool onlyLeaves)
+{
+    for (DagNode* child : std::vector<DagNode*>(original.children())) {
+        if (onlyLeaves && child->isTransform())
+            addInstances(context, *child, transformLike(context, *child, child->name(), &copy), true);
+        else
+            require(context, sceneOf(context).addParent(*child, copy));
+    }
 }
 
 /// A new transform above what hangs below another one.
@@ -164,18 +240,20 @@ Value instance(CommandContext& context, const ParsedCommand& call)
     engine::Scene& scene = sceneOf(context);
     Value::Strings made;
     engine::SelectionList list;
-    for (const SelectionItem& item : itemsOrSelection(context, call.names())) {
-        if (!item.isDag() || !item.path.node()->isTransform())
-            context.fail("'" + item.name() + "' is not a transform");
+    for (SelectionItem item : itemsOrSelection(context, call.names())) {
+        if (item.isDag() && item.path.node()->isShape() && item.path.pop())
+            item.node = engine::Ref<engine::Node>(item.path.node());
+        if (!item.isDag() || item.path.length() == 0)
+            context.fail("'" + item.name() + "' is not a DAG node");
         DagNode& original = *item.path.node();
-        engine::Node& copy = *valueOf(
-            context, scene.createNode("transform", call.string("name", original.name()), parentInPath(item)));
-        require(context, setLocalMatrix(*copy.asDag(), original.localMatrix()));
-        for (DagNode* child : std::vector<DagNode*>(original.children()))
-            require(context, scene.addParent(*child, *copy.asDag()));
+        const std::string name = call.string("name", original.name());
+        DagNode& copy = transformLike(context, original, name, parentInPath(item));
+        addInstances(context, original, copy, call.has("leaf"));
         made.push_back(scene.shortestName(copy));
         list.add(itemNamed(context, made.back()));
     }
+    if (made.empty())
+        context.fail("Nothing is selected to instance.");
     scene.setSelection(std::move(list));
     return Value(std::move(made));
 }
@@ -215,7 +293,9 @@ void registerDagCommands(CommandTable& table)
                      switchFlag("a", "absolute", "keeps their place in the world (the default)")},
                     names(), group),
         makeCommand("instance", "Makes instances of transforms",
-                    {valueFlag("n", "name", A::string, "the new transform's name")}, names(), instance),
+                    {valueFlag("n", "name", A::string, "the new transform's name"),
+                     switchFlag("lf", "leaf", "of shapes only; the transforms above them are copied")},
+                    names(), instance),
     });
 }
 

@@ -1,4 +1,4 @@
-// Files: scenes, projects, requirements.
+// Files: scenes and requirements.
 #include "commandSupport.h"
 #include "sceneCommands.h"
 
@@ -15,13 +15,6 @@ namespace fs = std::filesystem;
 namespace {
 
 constexpr const char* kUnsaved = "Unsaved changes";
-
-/// A file's name as scripts give it: relative ones start at the project.
-fs::path resolved(const SceneSession& session, const std::string& name)
-{
-    const fs::path path(name);
-    return path.is_absolute() ? path : session.projectFolder / path;
-}
 
 // ---- file
 
@@ -48,7 +41,7 @@ Value openFile(CommandContext& context, const ParsedCommand& call)
 {
     checkUnsaved(context, call);
     SceneSession& session = sessionOf(context);
-    const fs::path file = resolved(session, call.names().at(0));
+    const fs::path file = session.workspace.resolved(call.names().at(0));
     checkRead(context, session.open(context.interpreter(), file));
     return Value(file.string());
 }
@@ -56,7 +49,7 @@ Value openFile(CommandContext& context, const ParsedCommand& call)
 Value importFile(CommandContext& context, const ParsedCommand& call)
 {
     SceneSession& session = sessionOf(context);
-    const fs::path file = resolved(session, call.names().at(0));
+    const fs::path file = session.workspace.resolved(call.names().at(0));
     checkRead(context, session.import(context.interpreter(), file));
     return Value(file.string());
 }
@@ -82,7 +75,7 @@ Value saveFile(CommandContext& context, const ParsedCommand& call)
 Value renameFile(CommandContext& context, const ParsedCommand& call)
 {
     SceneSession& session = sessionOf(context);
-    session.scene().fileName = resolved(session, call.string("rename")).lexically_normal().string();
+    session.scene().fileName = session.workspace.resolved(call.string("rename")).lexically_normal().string();
     return Value(session.scene().fileName);
 }
 
@@ -90,7 +83,7 @@ Value renameFile(CommandContext& context, const ParsedCommand& call)
 Value exportAll(CommandContext& context, const ParsedCommand& call)
 {
     SceneSession& session = sessionOf(context);
-    const fs::path file = resolved(session, call.names().at(0));
+    const fs::path file = session.workspace.resolved(call.names().at(0));
     checkFormat(context, call, file);
     engine::Scene& scene = session.scene();
     const std::string name = scene.fileName;
@@ -108,7 +101,7 @@ Value queryFile(CommandContext& context, const ParsedCommand& call)
     const engine::Scene& scene = session.scene();
     const fs::path file(scene.fileName);
     if (call.has("exists"))
-        return Value(fs::exists(resolved(session, call.names().at(0))));
+        return Value(fs::exists(session.workspace.resolved(call.names().at(0))));
     if (call.has("modified"))
         return Value(scene.isModified);
     if (call.has("sceneName"))
@@ -228,36 +221,6 @@ Value fileInfo(CommandContext& context, const ParsedCommand& call)
     return {};
 }
 
-// ---- workspace
-
-std::string withoutSlash(const fs::path& folder)
-{
-    std::string text = folder.lexically_normal().string();
-    while (text.size() > 1 && text.back() == '/')
-        text.pop_back();
-    return text;
-}
-
-Value workspace(CommandContext& context, const ParsedCommand& call)
-{
-    SceneSession& session = sessionOf(context);
-    if (call.queries()) {
-        const std::string root = withoutSlash(session.projectFolder);
-        return Value(call.has("rootDirectory") ? root + "/" : root);
-    }
-    const std::vector<std::string> words = call.names();
-    const std::string folder = call.has("directory") ? call.string("directory")
-                               : words.empty()       ? ""
-                                                     : words.front();
-    if (folder.empty())
-        return {};
-    const fs::path project = resolved(session, folder);
-    if (!fs::is_directory(project))
-        context.fail("workspace: there is no folder \"" + project.string() + "\"");
-    session.projectFolder = project;
-    return {};
-}
-
 } // namespace
 
 void registerFileCommands(CommandTable& table)
@@ -273,13 +236,6 @@ void registerFileCommands(CommandTable& table)
         makeCommand("fileInfo", "Keeps words with the scene",
                     {valueFlag("rm", "remove", A::string, "forgets a keyword")}, {A::string, 0, 2}, fileInfo,
                     kQuery),
-        makeCommand("workspace", "Tells and sets the project",
-                    {switchFlag("fn", "fullName", "the project's folder", kQuery),
-                     switchFlag("rd", "rootDirectory", "the same with a slash at its end", kQuery),
-                     valueFlag("dir", "directory", A::string, "the current folder", kCreateQuery),
-                     switchFlag("o", "openWorkspace", "makes it the project"),
-                     valueFlag("fre", "fileRuleEntry", A::string, "a rule's folder", kQuery)},
-                    {A::string, 0, 1}, workspace, kQuery),
     });
 }
 

@@ -1,8 +1,7 @@
-// Preferences and the session itself: optionVar, savePrefs, windowPref, about, internalVar.
+// Preferences and the session itself: optionVar, savePrefs, about, internalVar.
 #include "commandSupport.h"
 #include "sceneCommands.h"
 
-#include <array>
 #include <filesystem>
 #include <type_traits>
 #include <variant>
@@ -177,7 +176,7 @@ Value savePrefs(CommandContext& context, const ParsedCommand&)
     SceneSession& session = sessionOf(context);
     if (session.preferencesFolder.empty())
         return Value(0);
-    require(context, session.scene().optionVars().save(session.preferencesFolder));
+    require(context, session.savePreferences(false));
     return Value(1);
 }
 
@@ -234,99 +233,13 @@ Value internalVar(CommandContext& context, const ParsedCommand& call)
     return Value((preferences / "").string());
 }
 
-// ---- windowPref
-
-constexpr std::array<const char*, 5> kWindowNumbers = {"topEdge", "leftEdge", "width", "height", "maximized"};
-
-/// Window preferences live among the option variables, under a name of their own.
-std::string windowVariable(const std::string& window, const std::string& number)
-{
-    return "windowPref:" + window + ":" + number;
-}
-
-bool hasWindowPref(const OptionVars& variables, const std::string& window)
-{
-    return variables.exists(windowVariable(window, kWindowNumbers.front()));
-}
-
-void removeWindowPref(OptionVars& variables, const std::string& window)
-{
-    for (const char* number : kWindowNumbers)
-        variables.remove(windowVariable(window, number));
-}
-
-void removeAllWindowPrefs(OptionVars& variables)
-{
-    for (const std::string& name : variables.names())
-        if (name.rfind("windowPref:", 0) == 0)
-            variables.remove(name);
-}
-
-Value queryWindowPref(CommandContext& context, const ParsedCommand& call, const std::string& window)
-{
-    const OptionVars& variables = sceneOf(context).optionVars();
-    if (!hasWindowPref(variables, window))
-        context.fail("windowPref: there is no preference of a window '" + window + "'");
-    const auto number = [&](const char* name) {
-        return variables.asInt(windowVariable(window, name)).value_or(0);
-    };
-    if (call.has("topLeftCorner"))
-        return Value(Value::Integers{number("topEdge"), number("leftEdge")});
-    if (call.has("widthHeight"))
-        return Value(Value::Integers{number("width"), number("height")});
-    for (const char* name : kWindowNumbers)
-        if (call.has(name))
-            return Value(number(name));
-    return {};
-}
-
-Value windowPref(CommandContext& context, const ParsedCommand& call)
-{
-    OptionVars& variables = sceneOf(context).optionVars();
-    const std::vector<std::string> windows = call.names();
-    if (call.has("removeAll"))
-        removeAllWindowPrefs(variables);
-    if (call.has("saveAll"))
-        return savePrefs(context, call);
-    if (windows.empty())
-        return {};
-    const std::string& window = windows.front();
-    if (call.has("exists"))
-        return Value(hasWindowPref(variables, window));
-    if (call.queries())
-        return queryWindowPref(context, call, window);
-    if (call.has("remove")) {
-        removeWindowPref(variables, window);
-        return {};
-    }
-    const auto set = [&](const char* name, const Value& value) {
-        variables.set(windowVariable(window, name), value.toInteger());
-    };
-    if (!hasWindowPref(variables, window))
-        for (const char* name : kWindowNumbers)
-            set(name, Value(0));
-    for (const char* name : kWindowNumbers)
-        if (const FlagUse* use = call.use(name))
-            set(name, use->arguments.front());
-    if (const FlagUse* use = call.use("topLeftCorner")) {
-        set("topEdge", use->arguments[0]);
-        set("leftEdge", use->arguments[1]);
-    }
-    if (const FlagUse* use = call.use("widthHeight")) {
-        set("width", use->arguments[0]);
-        set("height", use->arguments[1]);
-    }
-    return Value(window);
-}
-
 } // namespace
 
 void registerPreferenceCommands(CommandTable& table)
 {
-    using A = ArgumentType;
     table.add({
         optionVarCommand(),
-        makeCommand("savePrefs", "Writes the preferences", {switchFlag("g", "general", "option variables")},
+        makeCommand("savePrefs", "Writes the preferences", {switchFlag("g", "general", "everything")},
                     noArguments(), savePrefs),
         aboutCommand(),
         makeCommand("internalVar", "Tells the folders of the user",
@@ -335,20 +248,6 @@ void registerPreferenceCommands(CommandTable& table)
                      switchFlag("usd", "userScriptDir", "scripts"),
                      switchFlag("utd", "userTmpDir", "temporary files")},
                     noArguments(), internalVar),
-        makeCommand("windowPref", "Keeps the places of windows",
-                    {switchFlag("ex", "exists", "whether there is one of this window", kCreateQuery),
-                     valueFlag("te", "topEdge", A::integer, "pixels from the top", kAllModes),
-                     valueFlag("le", "leftEdge", A::integer, "pixels from the left", kAllModes),
-                     valueFlag("w", "width", A::integer, "in pixels", kAllModes),
-                     valueFlag("h", "height", A::integer, "in pixels", kAllModes),
-                     {"tlc", "topLeftCorner", {A::integer, A::integer}, kAllModes, "top and left"},
-                     {"wh", "widthHeight", {A::integer, A::integer}, kAllModes, "width and height"},
-                     valueFlag("max", "maximized", A::boolean, "fills the screen", kAllModes),
-                     switchFlag("r", "remove", "forgets this window"),
-                     switchFlag("ra", "removeAll", "forgets all windows"),
-                     valueFlag("ea", "enableAll", A::boolean, "whether places are kept", kAllModes),
-                     switchFlag("sa", "saveAll", "writes them now")},
-                    names(0, 1), windowPref, kAllModes),
     });
 }
 

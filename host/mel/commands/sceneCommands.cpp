@@ -7,12 +7,18 @@ namespace tvxhost::mel {
 
 void registerSceneCommands(CommandTable& table)
 {
-    for (const auto& registerFamily :
-         {registerNodeCommands, registerListCommands, registerSelectionCommands, registerDagCommands,
-          registerAttributeValueCommands, registerAttributeCommands, registerClassificationCommands,
-          registerConnectionCommands, registerSetCommands, registerTransformCommands, registerTimeCommands,
-          registerPreferenceCommands, registerFileCommands, registerPluginCommands, registerInterfaceCommands,
-          registerNamespaceCommands, registerUndoCommands})
+    for (const auto& registerFamily : {registerNodeCommands,       registerListCommands,
+                                       registerSelectionCommands,  registerDagCommands,
+                                       registerDagEditCommands,    registerAttributeValueCommands,
+                                       registerAttributeCommands,  registerClassificationCommands,
+                                       registerConnectionCommands, registerSetCommands,
+                                       registerTransformCommands,  registerXformCommands,
+                                       registerParticleCommands,   registerTimeCommands,
+                                       registerPreferenceCommands, registerWindowPreferenceCommands,
+                                       registerFileCommands,       registerWorkspaceCommands,
+                                       registerDialogCommands,     registerPluginCommands,
+                                       registerInterfaceCommands,  registerNamespaceCommands,
+                                       registerUndoCommands})
         registerFamily(table);
 }
 

@@ -4,11 +4,14 @@
 #include "../interpreter.h"
 
 #include "api/plugins/pluginLoader.h"
+#include "engine/atomicFile.h"
 
 namespace tvxhost::mel {
 
+using engine::Outcome;
+
 SceneSession::SceneSession(engine::Scene& scene, api::PluginLoader* plugins)
-    : projectFolder(std::filesystem::current_path()), m_scene(scene), m_plugins(plugins)
+    : workspace(std::filesystem::current_path()), m_scene(scene), m_plugins(plugins)
 {
 }
 
@@ -23,6 +26,45 @@ engine::Outcome SceneSession::loadPlugin(const std::string& name, const engine::
     if (result.outcome && pluginsChanged)
         pluginsChanged();
     return result.outcome;
+}
+
+Outcome SceneSession::loadPreferences(Interpreter& interpreter)
+{
+    Outcome variables = m_scene.optionVars().load(preferencesFolder);
+    Outcome places = loadWindows(interpreter);
+    return variables ? std::move(places) : std::move(variables);
+}
+
+Outcome SceneSession::loadWindows(Interpreter& interpreter)
+{
+    const std::filesystem::path file = preferencesFolder / WindowPreferences::kFileName;
+    std::error_code ignored;
+    if (preferencesFolder.empty() || !std::filesystem::exists(file, ignored))
+        return {};
+    try {
+        interpreter.sourceFile(file);
+    } catch (const ScriptError& error) {
+        const std::string place =
+            "'" + file.string() + "' cannot be understood in line " + std::to_string(error.place().line);
+        const std::filesystem::path aside = engine::setAside(file);
+        return {engine::Reason::failed,
+                place + (aside.empty() ? " and could not be set aside"
+                                       : "; it was set aside as '" + aside.string() + "'")};
+    }
+    windows.markSaved();
+    return {};
+}
+
+Outcome SceneSession::savePreferences(bool onlyChanged)
+{
+    if (preferencesFolder.empty())
+        return {};
+    Outcome variables, places;
+    if (!onlyChanged || m_scene.optionVars().isChanged())
+        variables = m_scene.optionVars().save(preferencesFolder);
+    if (!onlyChanged || windows.isChanged())
+        places = windows.save(preferencesFolder);
+    return variables ? std::move(places) : std::move(variables);
 }
 
 scene::ReadOptions SceneSession::readOptions(Interpreter& interpreter)

@@ -2,6 +2,8 @@
 #pragma once
 
 #include "interfaceTree.h"
+#include "windowPreferences.h"
+#include "workspace.h"
 
 #include "../commandTable.h"
 
@@ -11,6 +13,7 @@
 
 #include "engine/scene.h"
 
+#include <deque>
 #include <filesystem>
 #include <functional>
 #include <string>
@@ -36,10 +39,13 @@ public:
 
     /// Compounds that `addAttr` has declared in part.
     scene::PendingCompounds compounds;
-    /// The folder of option variables; empty: none are kept between runs.
+    /// The folder of the user's preferences; empty: none are kept between runs.
     std::filesystem::path preferencesFolder;
-    /// The project's root; relative names of files start there.
-    std::filesystem::path projectFolder;
+    WindowPreferences windows;
+    /// The project.
+    Workspace workspace;
+    /// What the user will answer to the next dialogs, in order; a dialog that finds none is cancelled.
+    std::deque<std::string> dialogAnswers;
     /// Called after a plug-in was loaded or unloaded, before its interface is made or after it was removed.
     std::function<void()> pluginsChanged;
     /// Told about the progress of reading; may be empty.
@@ -51,6 +57,14 @@ public:
     /// loaded afterwards.
     engine::Outcome loadPlugin(const std::string& name, const engine::ScriptPlace& place, bool quiet = false,
                                const std::string& wishedName = {});
+
+    /// Reads option variables and the places of windows from the preferences' folder. The first thing that
+    /// went wrong; the rest was read nevertheless.
+    engine::Outcome loadPreferences(Interpreter& interpreter);
+    /// Only the places of windows. A file that cannot be understood is set aside.
+    engine::Outcome loadWindows(Interpreter& interpreter);
+    /// Writes them all, or only what has changed.
+    engine::Outcome savePreferences(bool onlyChanged);
 
     /// Opens a file: `file -open`. A failure is a file that is no scene; what is wrong inside has been shown.
     scene::ReadResult open(Interpreter& interpreter, const std::filesystem::path& file);

@@ -49,6 +49,20 @@ TEST(CommandLineOptions, KeepRepeatedOnesInOrder)
     EXPECT_THAT(options.commands, ElementsAre("print 1", "-1 + 2"));
 }
 
+TEST(CommandLineOptions, AnswerDialogsInOrder)
+{
+    const Options options = optionsOf({"--dialog-answer", "a.ma", "s.ma", "--dialog-answer", "scenes"});
+    EXPECT_THAT(options.dialogAnswers, ElementsAre("a.ma", "scenes"));
+    EXPECT_EQ(options.scene, "s.ma");
+    EXPECT_FALSE(options.qt);
+}
+
+TEST(CommandLineOptions, MakeASessionWithQtInteractive)
+{
+    EXPECT_TRUE(optionsOf({"--qt"}).qt);
+    EXPECT_TRUE(optionsOf({"--qt"}).interactive);
+}
+
 TEST(CommandLineOptions, GiveReportsAsTextUnlessJsonIsAskedFor)
 {
     EXPECT_EQ(optionsOf({"--summary", "s.ma"}).summary, ReportFormat::text);

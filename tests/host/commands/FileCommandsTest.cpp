@@ -1,4 +1,4 @@
-// file, fileInfo, workspace, sysFile.
+// file, fileInfo, sysFile.
 #include "CommandFixture.h"
 
 #include <filesystem>
@@ -19,7 +19,7 @@ protected:
     {
         m_folder = std::filesystem::temp_directory_path() / ("tvxFile." + std::to_string(::getpid()));
         std::filesystem::create_directories(m_folder);
-        session.projectFolder = m_folder;
+        session.workspace.open(m_folder);
     }
     void TearDown() override { std::filesystem::remove_all(m_folder); }
 
@@ -102,12 +102,6 @@ TEST_F(FileCommandsTest, fileInfoIsKeptWithTheScene)
     EXPECT_THAT(strings("fileInfo -q \"take\""), ElementsAre("2"));
     run("fileInfo -rm \"take\"");
     EXPECT_THAT(strings("fileInfo -q \"take\""), testing::IsEmpty());
-}
-
-TEST_F(FileCommandsTest, workspaceTellsTheProjectWithoutASlash)
-{
-    EXPECT_EQ(run("workspace -q -fn"), m_folder.string());
-    EXPECT_EQ(run("workspace -q -rd"), m_folder.string() + "/");
 }
 
 TEST_F(FileCommandsTest, sysFileMakesMovesAndDeletes)

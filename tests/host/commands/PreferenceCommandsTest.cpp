@@ -1,4 +1,4 @@
-// optionVar, savePrefs, windowPref, about, help.
+// optionVar, savePrefs, about, help.
 #include "CommandFixture.h"
 
 #include <filesystem>
@@ -49,18 +49,6 @@ TEST_F(PreferenceCommandsTest, savePrefsWritesTheFolderOfTheSession)
     EXPECT_TRUE(read.load(session.preferencesFolder));
     EXPECT_EQ(read.asInt("n"), 3);
     std::filesystem::remove_all(session.preferencesFolder);
-}
-
-TEST_F(PreferenceCommandsTest, windowPreferencesKeepTopBeforeLeft)
-{
-    EXPECT_EQ(run("windowPref -ex \"w\""), "0");
-    run("windowPref -tlc 10 20 -wh 300 200 \"w\"");
-    EXPECT_EQ(run("windowPref -ex \"w\""), "1");
-    EXPECT_THAT(value("windowPref -q -tlc \"w\"").integers(), ElementsAre(10, 20));
-    EXPECT_EQ(run("windowPref -q -te \"w\""), "10");
-    EXPECT_EQ(run("windowPref -q -w \"w\""), "300");
-    run("windowPref -r \"w\"");
-    EXPECT_EQ(run("windowPref -ex \"w\""), "0");
 }
 
 TEST_F(PreferenceCommandsTest, aboutTellsTheVersion)

@@ -1,4 +1,4 @@
-// move, rotate, scale, xform, currentTime, currentUnit.
+// move, rotate, scale, xform, makeIdentity, currentTime, currentUnit, playbackOptions.
 #include "CommandFixture.h"
 
 #include <cmath>
@@ -14,6 +14,14 @@ protected:
     TransformCommandsTest()
     {
         run("createNode transform -n \"a\"; createNode transform -n \"b\" -p \"a\"; select -cl");
+    }
+
+    void expectNear(const std::string& script, const Value::Numbers& expected)
+    {
+        const Value::Numbers found = numbers(script);
+        ASSERT_EQ(found.size(), expected.size()) << script;
+        for (std::size_t i = 0; i < found.size(); ++i)
+            EXPECT_NEAR(found[i], expected[i], 1e-9) << script << " [" << i << "]";
     }
 };
 
@@ -86,6 +94,188 @@ TEST_F(TransformCommandsTest, xformTranslatesInTheWorld)
     run("setAttr a.t 10 0 0; xform -ws -t 1 2 3 b");
     EXPECT_THAT(numbers("getAttr b.t"), ElementsAre(-9, 2, 3));
     EXPECT_THAT(numbers("xform -q -ws -t b"), ElementsAre(1, 2, 3));
+}
+
+TEST_F(TransformCommandsTest, moveTakesTheTranslationUnlessAPivotIsAskedFor)
+{
+    run("setAttr a.rp 5 0 0; setAttr a.sp 0 7 0; move 1 2 3 a");
+    expectNear("getAttr a.t", {1, 2, 3});
+    run("move -rpr 1 2 3 a");
+    expectNear("xform -q -ws -rp a", {1, 2, 3});
+    expectNear("getAttr a.t", {-4, 2, 3});
+    run("move -a -spr 1 2 3 a");
+    expectNear("xform -q -ws -sp a", {1, 2, 3});
+    expectNear("getAttr a.t", {1, -5, 3});
+}
+
+TEST_F(TransformCommandsTest, moveAlongTheObjectsAxesIsScaledWithIt)
+{
+    run("setAttr a.r 0 0 90; setAttr a.s 2 1 1; move -r -os 3 0 0 a");
+    expectNear("getAttr a.t", {0, 6, 0});
+    run("setAttr a.t 0 0 0; move -r -os -wd 3 0 0 a");
+    expectNear("getAttr a.t", {0, 3, 0});
+    run("move -os 9 8 7 a");
+    expectNear("getAttr a.t", {9, 8, 7});
+}
+
+TEST_F(TransformCommandsTest, moveInLocalSpaceIsScaledWithTheParent)
+{
+    run("setAttr a.s 2 2 2; move -r -ls 3 0 0 b");
+    expectNear("getAttr b.t", {3, 0, 0});
+    run("move -r -ls -wd 3 0 0 b");
+    expectNear("getAttr b.t", {4.5, 0, 0});
+    expectNear("xform -q -ws -t b", {9, 0, 0});
+}
+
+TEST_F(TransformCommandsTest, moveOfAShapeMovesItsTransform)
+{
+    run("createNode locator -n \"s\" -p \"b\"; move -r 1 0 0 s");
+    expectNear("getAttr b.t", {1, 0, 0});
+}
+
+TEST_F(TransformCommandsTest, lockedChannelsRefuseEveryMove)
+{
+    run("setAttr -l on a.tx");
+    EXPECT_EQ(failure("move 1 2 3 a"),
+              "The attribute 'a.translateX' is locked or connected and cannot be modified.");
+    expectNear("getAttr a.t", {0, 0, 0});
+    run("move -y 4 a");
+    expectNear("getAttr a.t", {0, 4, 0});
+}
+
+TEST_F(TransformCommandsTest, rotateIsInTheWorldUnlessToldOtherwise)
+{
+    run("setAttr a.r 0 0 90; rotate 0 0 90 b");
+    expectNear("getAttr b.r", {0, 0, 0});
+    run("rotate -os 0 0 30 b");
+    expectNear("getAttr b.r", {0, 0, 30});
+    run("setAttr b.r 0 0 0; rotate -r 90 0 0 b");
+    // About the world's x, which is the parent's -y.
+    expectNear("getAttr b.r", {0, -90, 0});
+    run("setAttr b.r 0 0 0; rotate -r -os 90 0 0 b");
+    expectNear("getAttr b.r", {90, 0, 0});
+}
+
+TEST_F(TransformCommandsTest, rotateAddsAnglesWhenTheyAreMeant)
+{
+    run("setAttr a.r 90 20 10; rotate -r -eu 10 20 30 a");
+    expectNear("getAttr a.r", {100, 40, 40});
+    run("rotate -y 5 a");
+    expectNear("getAttr a.r", {100, 5, 40});
+}
+
+TEST_F(TransformCommandsTest, rotateAndScaleLeaveAPivotInPlace)
+{
+    run("rotate -r -p 1 0 0 0 0 90 a");
+    expectNear("getAttr a.t", {1, -1, 0});
+    expectNear("getAttr a.r", {0, 0, 90});
+    run("setAttr b.t 0 0 0; setAttr a.t 0 0 0; setAttr a.r 0 0 0; scale -p 1 0 0 3 3 3 a");
+    expectNear("getAttr a.t", {-2, 0, 0});
+}
+
+TEST_F(TransformCommandsTest, xformTellsEveryPart)
+{
+    run("setAttr a.t 1 2 3; setAttr a.s 4 5 6; setAttr a.sh 7 8 9; setAttr a.ra 10 0 0; setAttr a.rpt 1 1 1;"
+        "setAttr a.spt 2 2 2; setAttr a.rp 3 3 3; setAttr a.sp 4 4 4; setAttr a.ro 5");
+    expectNear("xform -q -t a", {1, 2, 3});
+    expectNear("xform -q -s a", {4, 5, 6});
+    expectNear("xform -q -sh a", {7, 8, 9});
+    expectNear("xform -q -ra a", {10, 0, 0});
+    expectNear("xform -q -rt a", {1, 1, 1});
+    expectNear("xform -q -st a", {2, 2, 2});
+    expectNear("xform -q -piv a", {3, 3, 3, 4, 4, 4});
+    EXPECT_EQ(run("xform -q -roo a"), "zyx");
+    EXPECT_EQ(failure("xform -q a"), "xform: nothing was asked");
+}
+
+TEST_F(TransformCommandsTest, xformSpeaksTheUnitsOfTheUser)
+{
+    run("currentUnit -l m -a rad; xform -t 1 2 3 -ro 1 0 0 -s 2 2 2 a");
+    expectNear("xform -q -t a", {1, 2, 3});
+    expectNear("xform -q -ro a", {1, 0, 0});
+    run("currentUnit -l cm -a deg");
+    expectNear("xform -q -t a", {100, 200, 300});
+    expectNear("xform -q -ro a", {57.295779513082323, 0, 0});
+    expectNear("xform -q -s a", {2, 2, 2});
+}
+
+TEST_F(TransformCommandsTest, xformTurnsInTheWorld)
+{
+    run("setAttr a.r 0 0 90; xform -ws -ro 0 0 30 b");
+    expectNear("getAttr b.r", {0, 0, -60});
+    expectNear("xform -q -ws -ro b", {0, 0, 30});
+    run("xform -r -ro 0 0 10 b");
+    expectNear("getAttr b.r", {0, 0, -50});
+}
+
+TEST_F(TransformCommandsTest, newPivotsLeaveTheObjectWhereItIs)
+{
+    run("setAttr a.r 0 0 90; setAttr a.s 2 2 2");
+    const Value::Numbers before = numbers("xform -q -m a");
+    run("xform -piv 1 2 3 a");
+    expectNear("xform -q -m a", before);
+    expectNear("getAttr a.rp", {1, 2, 3});
+    run("xform -ws -rp 5 0 0 a");
+    expectNear("xform -q -ws -rp a", {5, 0, 0});
+    expectNear("xform -q -m a", before);
+    run("xform -ztp a");
+    expectNear("xform -q -m a", before);
+    expectNear("xform -q -piv a", {0, 0, 0, 0, 0, 0});
+    run("xform -p off -rp 1 0 0 a");
+    expectNear("getAttr a.rpt", {0, 0, 0});
+}
+
+TEST_F(TransformCommandsTest, newAxesAndOrdersLeaveTheObjectWhereItIs)
+{
+    run("setAttr a.r 10 20 30");
+    const Value::Numbers before = numbers("xform -q -m a");
+    run("xform -roo \"zyx\" a");
+    expectNear("xform -q -m a", before);
+    EXPECT_EQ(run("getAttr a.ro"), "5");
+    run("xform -ra 0 90 0 a");
+    expectNear("xform -q -m a", before);
+    expectNear("getAttr a.ra", {0, 90, 0});
+    run("xform -roo \"xyz\" a; setAttr a.ra 0 0 0; setAttr a.r 10 20 30; xform -p off -roo \"zyx\" a");
+    expectNear("getAttr a.r", {10, 20, 30});
+    EXPECT_EQ(failure("xform -roo \"xxx\" a"), "xform: \"xxx\" is no rotation order");
+}
+
+TEST_F(TransformCommandsTest, xformTellsBoxesAndCentresPivotsInThem)
+{
+    run("createNode locator -n \"s\" -p \"b\"; setAttr s.lp 4 0 0; setAttr a.t 10 0 0; setAttr b.t 0 1 0");
+    expectNear("xform -q -bb b", {3, 0, -1, 5, 2, 1});
+    expectNear("xform -q -ws -bb b", {13, 0, -1, 15, 2, 1});
+    run("xform -cp b");
+    expectNear("xform -q -piv b", {4, 0, 0, 4, 0, 0});
+    expectNear("xform -q -bb b", {3, 0, -1, 5, 2, 1});
+}
+
+TEST_F(TransformCommandsTest, makeIdentityResets)
+{
+    run("setAttr a.t 1 2 3; setAttr a.r 10 20 30; setAttr a.s 2 2 2; makeIdentity -t on a");
+    expectNear("getAttr a.t", {0, 0, 0});
+    expectNear("getAttr a.r", {10, 20, 30});
+    run("makeIdentity a");
+    expectNear("getAttr a.r", {0, 0, 0});
+    expectNear("getAttr a.s", {1, 1, 1});
+    EXPECT_EQ(failure("makeIdentity -apply on a"), "makeIdentity -apply is not implemented");
+}
+
+TEST_F(TransformCommandsTest, rangesOfPlayingAreInTheUnitsOfTheUser)
+{
+    EXPECT_EQ(run("playbackOptions -q -min"), "1");
+    EXPECT_EQ(run("playbackOptions -q -max"), "24");
+    EXPECT_EQ(run("playbackOptions -q -aet"), "48");
+    run("playbackOptions -min 5 -max 100 -ast 0 -aet 200 -loop \"once\" -ps 1");
+    EXPECT_EQ(run("playbackOptions -q -min"), "5");
+    EXPECT_EQ(run("playbackOptions -q -max"), "100");
+    EXPECT_EQ(run("playbackOptions -q -ast"), "0");
+    EXPECT_EQ(run("playbackOptions -q -aet"), "200");
+    EXPECT_EQ(run("playbackOptions -q -loop"), "once");
+    EXPECT_EQ(run("playbackOptions -q -fps"), "24");
+    run("currentUnit -t sec; playbackOptions -e -max 2");
+    EXPECT_EQ(run("playbackOptions -q -max"), "2");
+    EXPECT_EQ(failure("playbackOptions -loop \"twice\""), "playbackOptions: \"twice\" is no value of -loop");
 }
 
 TEST_F(TransformCommandsTest, timeIsInTheUnitsOfTheUser)
