@@ -1,6 +1,7 @@
 // Report about a node type: a table or JSON; see typeReport.h.
 #include "typeReport.h"
 
+#include "mel/arguments.h"
 #include "scene/uiUnits.h"
 
 #include <nlohmann/json.hpp>
@@ -10,6 +11,7 @@
 #include <charconv>
 #include <cstdio>
 #include <cstdlib>
+#include <optional>
 #include <vector>
 
 namespace tvxhost::app {
@@ -100,18 +102,13 @@ std::string numberText(const Attribute& attribute, double internal, const engine
     return text;
 }
 
-std::string stringDefault(const Attribute& attribute)
+/// The default of a string attribute that has one.
+std::optional<std::string> stringDefault(const Attribute& attribute)
 {
     const engine::Data* data = attribute.defaultData.get();
-    return data && data->type() == engine::DataType::string
-               ? static_cast<const engine::StringData*>(data)->value.str()
-               : std::string();
-}
-
-bool hasStringDefault(const Attribute& attribute)
-{
-    const engine::Data* data = attribute.defaultData.get();
-    return data && data->type() == engine::DataType::string;
+    if (!data || data->type() != engine::DataType::string)
+        return std::nullopt;
+    return static_cast<const engine::StringData*>(data)->value.str();
 }
 
 std::vector<std::string> defaultNumbers(Attribute& attribute, const engine::Units& units)
@@ -136,8 +133,8 @@ using Row = std::array<std::string, 7>;
 
 std::string defaultText(Attribute& attribute, const engine::Units& units)
 {
-    if (hasStringDefault(attribute))
-        return "\"" + stringDefault(attribute) + "\"";
+    if (const auto text = stringDefault(attribute))
+        return mel::quoted(*text);
     if (attribute.kind == AttributeKind::typed)
         return attribute.defaultData ? "data" : "none";
     return joined(defaultNumbers(attribute, units), " ");
@@ -224,8 +221,8 @@ ordered_json numberJson(const std::string& text)
 
 ordered_json defaultJson(Attribute& attribute, const engine::Units& units)
 {
-    if (hasStringDefault(attribute))
-        return stringDefault(attribute);
+    if (const auto text = stringDefault(attribute))
+        return *text;
     const std::vector<std::string> numbers = defaultNumbers(attribute, units);
     if (numbers.size() == 1 && attribute.children.empty())
         return numberJson(numbers.front());

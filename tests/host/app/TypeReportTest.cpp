@@ -107,6 +107,17 @@ TEST_F(TypeReport, LeavesOutColumnsWithoutContent)
                                    "\n"));
 }
 
+TEST_F(TypeReport, QuotesTheDefaultOfAString)
+{
+    engine::NodeType& type = addType("label", "THdependNode", 0x7f114);
+    const Ref<Attribute> text(new Attribute(AttributeKind::typed, "text", "tx"));
+    text->dataType = engine::DataType::string;
+    text->defaultData = Ref<engine::Data>(new engine::StringData("a \"b\""));
+    add(type, text);
+    EXPECT_THAT(app::describeAsText(type, {}), testing::HasSubstr("string  \"a \\\"b\\\"\"  -RW--IS-\n"));
+    EXPECT_EQ(json::parse(app::describeAsJson(type, {}))["attributes"][0]["default"], "a \"b\"");
+}
+
 TEST_F(TypeReport, OfATypeWithoutAttributesOfItsOwnSaysSo)
 {
     EXPECT_EQ(app::describeAsText(addType("bare", "THdependNode", 0x7f112), {}),
