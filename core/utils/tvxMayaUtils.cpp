@@ -1,4 +1,4 @@
-// Attributes: flags of new ones, values of those of a node.
+// Attributes: flags of new ones, values of those of nodes and of particles.
 #include "core/utils/tvxMayaUtils.h"
 
 #include "core/utils/tvxMayaCompat.h"
@@ -9,6 +9,7 @@
 #include <maya/MFnDoubleArrayData.h>
 #include <maya/MFnIntArrayData.h>
 #include <maya/MFnMatrixData.h>
+#include <maya/MFnParticleSystem.h>
 #include <maya/MFnStringArrayData.h>
 #include <maya/MFnVectorArrayData.h>
 #include <maya/MPlug.h>
@@ -562,6 +563,60 @@ void MayaUtils::setVectorArrayAttribute(const MObject& node, const MObject& attr
 {
     writeArray<MFnVectorArrayData>(kSetVectorArray, plugOf(kSetVectorArray, node, attribute, networked),
                                    value);
+}
+
+double MayaUtils::getDoubleAttributePP(const MObject& particleShape, const MString& attributeName,
+                                       unsigned int index, MStatus* status)
+{
+    MStatus unasked;
+    MStatus& result = status ? *status : unasked;
+    const MFnParticleSystem particles(particleShape, &result);
+    if (!result)
+        return 0.0;
+    MDoubleArray values(particles.count(), 0.0);
+    particles.getPerParticleAttribute(attributeName, values, &result);
+    if (!result)
+        TVX_WARN(TVX_UTILS_MEMBER("getDoubleAttributePP"),
+                 "WARNING Per Particle Attribute '" << attributeName << "' not found.");
+    return index < values.length() ? values[index] : 0.0;
+}
+
+float MayaUtils::getDoubleAttributePPAsFloat(const MObject& particleShape, const MString& attributeName,
+                                             unsigned int index, MStatus* status)
+{
+    return static_cast<float>(getDoubleAttributePP(particleShape, attributeName, index, status));
+}
+
+void MayaUtils::setDoubleAttributePP(const MObject& particleShape, const MString& attributeName,
+                                     unsigned int index, double value)
+{
+    MStatus status;
+    const MFnParticleSystem particles(particleShape, &status);
+    if (!status || !particles.isPerParticleDoubleAttribute(attributeName))
+        return;
+    MFnDoubleArrayData data(particles.findPlug(attributeName, true).asMObject(), nullptr);
+    if (index < data.length())
+        status = data.set(value, index);
+    if (!status)
+        TVX_WARN(TVX_UTILS_MEMBER("setDoubleAttributePP"), status.errorString());
+}
+
+MVector MayaUtils::getVectorAttributePP(const MObject& particleShape, const MString& attributeName,
+                                        unsigned int index, MStatus* status)
+{
+    MStatus unasked;
+    MStatus& result = status ? *status : unasked;
+    const MFnParticleSystem particles(particleShape, &result);
+    if (!result)
+        return MVector();
+    if (particles.isPerParticleVectorAttribute(attributeName)) {
+        const MPlug plug = particles.findPlug(attributeName, true, &result);
+        const MFnVectorArrayData data(plug.asMObject(), nullptr);
+        if (index < data.length())
+            return data[index];
+    }
+    result = MStatus(MStatus::kInvalidParameter);
+    return MVector();
 }
 
 } // namespace tarvox::crowd

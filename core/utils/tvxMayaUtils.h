@@ -1,6 +1,10 @@
 // Helpers over the Maya API.
 #pragma once
 
+#include <tvxCore/DistanceUnit.h>
+#include <tvxCore/Vector2.h>
+
+#include <maya/MAngle.h>
 #include <maya/MArgList.h>
 #include <maya/MDGContext.h>
 #include <maya/MDGModifier.h>
@@ -15,6 +19,7 @@
 #include <maya/MMatrix.h>
 #include <maya/MObject.h>
 #include <maya/MPoint.h>
+#include <maya/MQuaternion.h>
 #include <maya/MStatus.h>
 #include <maya/MString.h>
 #include <maya/MStringArray.h>
@@ -29,6 +34,12 @@
 class QMainWindow;
 
 namespace tarvox::crowd {
+
+/// An orientation in the core library's frame.
+struct CoreQuaternion
+{
+    float x, y, z, w;
+};
 
 /// Static helpers; there is no state. Nothing is thrown. What goes wrong is told through the core log, at the
 /// severity that each family names; a log whose filter is below that severity costs one comparison.
@@ -158,6 +169,34 @@ public:
                                         MVectorArray& result);
     static void setVectorArrayAttribute(const MObject& node, const MObject& attribute,
                                         const MVectorArray& value, bool networked);
+
+    /// @}
+
+    /// @name Attributes of particles
+    ///
+    /// One particle's value of a per-particle attribute of a particle shape, by the particle's index.
+    /// @param status  may be null
+    /// @{
+
+    /// 0 past the last particle, and when the shape or the attribute is none of its kind; the latter is
+    /// reported at WARNING. The status is that of the last call to Maya: an index past the end is no failure.
+    static double getDoubleAttributePP(const MObject& particleShape, const MString& attributeName,
+                                       unsigned int index, MStatus* status);
+    /// As getDoubleAttributePP, narrowed.
+    static float getDoubleAttributePPAsFloat(const MObject& particleShape, const MString& attributeName,
+                                             unsigned int index, MStatus* status);
+
+    /// Changes the value in the data that the shape hands out, which others read from there, and neither
+    /// marks anything dirty nor outlasts the next evaluation of the particles. Does nothing past the last
+    /// particle, and when the shape or the attribute is none of its kind. A value that cannot be stored is
+    /// reported at WARNING.
+    static void setDoubleAttributePP(const MObject& particleShape, const MString& attributeName,
+                                     unsigned int index, double value);
+
+    /// Zero with MS::kInvalidParameter past the last particle and for an attribute that is no per-particle
+    /// vector, and with Maya's failure for a shape that is no particle shape. Nothing is reported.
+    static MVector getVectorAttributePP(const MObject& particleShape, const MString& attributeName,
+                                        unsigned int index, MStatus* status);
 
     /// @}
 
@@ -317,6 +356,45 @@ public:
     /// From centimetres to the user's unit of length, and back.
     static MVector internalToUIUnits(const MVector& lengths);
     static MVector uiToInternalUnits(const MVector& lengths);
+
+    /// @}
+
+    /// @name Geometry in the core library's frame and units
+    ///
+    /// The point (x, y, z) of Maya is the ground point (-x, z) of the core library. Nothing is reported.
+    /// @{
+
+    /// A length in another unit.
+    static float convertDistance(float value, core::DistanceUnit from, core::DistanceUnit to);
+    /// A length in the first unit, centimetres, in another one.
+    static float convertDistanceTo(float value, core::DistanceUnit to);
+
+    /// An angle in radians, half a turn further.
+    static float shiftedRadians(const MAngle& angle);
+
+    /// An orientation of Maya's in the core library's frame.
+    static CoreQuaternion toCoreOrientation(const MQuaternion& orientation);
+
+    /// The outline of a mesh's open border as ground points, in the mesh's own space: one for each border
+    /// edge, in the order of walking. The walk begins at the first border edge, follows that border only, and
+    /// ends where it is closed. MS::kFailure and no points when there is no border, and for what is no mesh.
+    static MStatus getMeshBoundary(const MDagPath& mesh, std::vector<core::Vector2<float>>& outline);
+
+    /// The convex hull of all vertices of a mesh as ground points, in world space, counter-clockwise. Always
+    /// MS::kSuccess; without vertices the hull is empty.
+    static MStatus getMeshConvexHull(const MDagPath& mesh, std::vector<core::Vector2<float>>& hull);
+
+    /// A number that no other node of a type has in an integer attribute of theirs: below the smallest when
+    /// that is above 1, else above the largest. 1 when there is no other node, and when the last one found
+    /// has a number below 1.
+    static int findFreeIndex(const MObject& excludedNode, const MObject& attribute, const MTypeId& typeId);
+
+    /// The name of the shape below a transform, or of the shape itself. Left as it is when there is no such
+    /// node; a transform without a shape gives its own name.
+    static MStatus getShapeName(const MObject& node, MString& name);
+
+    /// How many elements of an array attribute are connected; 0 when it cannot be told.
+    static unsigned int countConnectedElements(const MObject& node, const MObject& attribute);
 
     /// @}
 

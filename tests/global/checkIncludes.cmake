@@ -1,5 +1,5 @@
-# The plug-in's sources stand on Maya, the core library, TBB, OpenGL and the standard library, and on nothing of
-# the host.
+# The plug-in's sources stand on Maya, the core library, TBB, OpenGL, Qt and the standard library, and on nothing
+# of the host.
 #   SOURCE_DIR  the sources
 file(GLOB_RECURSE sources ${SOURCE_DIR}/core/*.cpp ${SOURCE_DIR}/core/*.h ${SOURCE_DIR}/global/*.cpp
      ${SOURCE_DIR}/global/*.h ${SOURCE_DIR}/rendering/*.cpp ${SOURCE_DIR}/rendering/*.h)
@@ -9,7 +9,7 @@ if(count LESS 10)
 endif()
 
 set(own "\"(core|global|rendering)/")
-set(others "<(maya/M|tvxCore/|tbb/|GL/gl\\.h|OpenGL/gl\\.h|[a-z_]+>|(fcntl|io|share|sys/stat|unistd|windows)\\.h>)")
+set(others "<(maya/M|tvxCore/|tbb/|GL/gl\\.h|OpenGL/gl\\.h|Q[A-Za-z]+>|[a-z_]+>|(fcntl|io|share|sys/stat|unistd|windows)\\.h>)")
 set(entryUnits "")
 foreach(source IN LISTS sources)
   file(STRINGS ${source} includes REGEX "^ *# *include")

@@ -1,9 +1,9 @@
 // Meshes below a path and the selection: the rule as it is written, and that nothing is looked up twice.
+#include "MeshPathRule.h"
 #include "UtilsFixture.h"
 
 #include <maya/MDagPathArray.h>
 
-#include <cstring>
 #include <list>
 #include <random>
 
@@ -14,47 +14,6 @@ using testing::ElementsAre;
 using testing::IsEmpty;
 
 using Names = std::vector<std::string>;
-
-/// The leading characters that a candidate shares with the path, over at most 10000; one more for a "|" where
-/// the path ends first.
-int literalScore(const std::string& candidate, const std::string& path)
-{
-    int score = 0;
-    for (std::size_t i = 0; i < 10000 && i < candidate.size(); ++i) {
-        if (i == path.size())
-            return candidate[i] == '|' ? score + 1 : score;
-        if (candidate[i] != path[i])
-            return score;
-        ++score;
-    }
-    return score;
-}
-
-/// The rule without any thought of speed.
-void collectLiterally(const MDagPath& path, std::list<MDagPath>& meshes)
-{
-    if (path.hasFn(MFn::kMesh)) {
-        meshes.push_back(path);
-        return;
-    }
-    if (!path.hasFn(MFn::kTransform))
-        return;
-    const std::string name = path.fullPathName().asChar();
-    for (unsigned int i = 0; i < path.childCount(); ++i) {
-        MDagPathArray candidates;
-        MDagPath::getAllPathsTo(path.child(i), candidates);
-        int bestScore = -1;
-        MDagPath best;
-        for (unsigned int k = 0; k < candidates.length(); ++k) {
-            const int score = literalScore(candidates[k].fullPathName().asChar(), name);
-            if (score > bestScore) {
-                bestScore = score;
-                best = candidates[k];
-            }
-        }
-        collectLiterally(best, meshes);
-    }
-}
 
 Names namesOf(const std::list<MDagPath>& paths)
 {
@@ -95,6 +54,19 @@ protected:
         return names;
     }
 };
+
+TEST(MeshPathRule, CountsWhatTwoNamesShare)
+{
+    EXPECT_EQ(literalScore("|a|b", "|a"), 3);
+    EXPECT_EQ(literalScore("|ab|c", "|a"), 2);
+    EXPECT_EQ(literalScore("|b|c", "|a"), 1);
+    EXPECT_EQ(literalScore("|a", "|a|b"), 2);
+    EXPECT_EQ(literalScore("|a", ""), 1);
+    const std::string longName(9999, 'n');
+    EXPECT_EQ(literalScore(longName + "|x", longName), 10000);
+    EXPECT_EQ(literalScore(longName + "n|x", longName + "n"), 10000);
+    EXPECT_EQ(literalScore(longName + "nn|x", longName + "nn"), 10000);
+}
 
 TEST_F(MeshPaths, AMeshIsItsOwn)
 {
