@@ -11,7 +11,7 @@ namespace {
 using Corners = std::array<Point, 8>;
 
 /// More would make the octagon hardly larger.
-constexpr std::size_t kLargestSample = 512;
+constexpr std::size_t kLargestSample = 2048;
 
 /// Points for each one in the sample of a small set, where looking at many costs more than they are worth.
 constexpr std::size_t kPointsPerSample = 4;
