@@ -7,9 +7,11 @@
 #include "engine/node.h"
 #include "engine/scene.h"
 
+#include <algorithm>
 #include <cctype>
 #include <string>
 #include <unordered_map>
+#include <vector>
 
 namespace tvxhost::api {
 
@@ -95,6 +97,29 @@ MFn::Type builtInTypeNamed(const std::string& name)
     return regular == typesByEnumerator().end() ? MFn::kInvalid : regular->second;
 }
 
+/// The names of the built-in node types that an enumerator is the type of: none, or one or two.
+const std::vector<std::string>& builtInNamesOf(MFn::Type type)
+{
+    static const std::vector<std::vector<std::string>> names = [] {
+        std::vector<std::vector<std::string>> made(MFn::kLast);
+        for (const auto& [name, irregular] : irregularNodeTypes())
+            made[irregular].push_back(name);
+        for (const auto& [enumerator, regular] : typesByEnumerator()) {
+            std::string name = enumerator.substr(1);
+            for (const char first : {name[0], static_cast<char>(std::tolower(name[0]))}) {
+                name[0] = first;
+                auto& ofType = made[regular];
+                if (builtInTypeNamed(name) == regular &&
+                    std::find(ofType.begin(), ofType.end(), name) == ofType.end())
+                    ofType.push_back(name);
+            }
+        }
+        return made;
+    }();
+    static const std::vector<std::string> none;
+    return type < MFn::kLast ? names[type] : none;
+}
+
 /// The kind of a plug-in's node by the built-in type it stands on.
 MFn::Type pluginTypeOn(const NodeType& type)
 {
@@ -117,6 +142,15 @@ MFn::Type pluginTypeOn(const NodeType& type)
 MFn::Type ownType(const NodeType& type)
 {
     return type.plugin.empty() ? builtInTypeNamed(type.name) : pluginTypeOn(type);
+}
+
+/// Whether that is the given one. Asked by every function set, so that it looks nothing up.
+bool hasOwnType(const NodeType& nodeType, MFn::Type type)
+{
+    if (!nodeType.plugin.empty())
+        return pluginTypeOn(nodeType) == type;
+    const std::vector<std::string>& names = builtInNamesOf(type);
+    return std::find(names.begin(), names.end(), nodeType.name) != names.end();
 }
 
 MFn::Type groupType(NumberKind kind, std::size_t count, const MFn::Type (&byKind)[4], MFn::Type fourDoubles)
@@ -363,7 +397,7 @@ bool hasFn(const NodeType& nodeType, MFn::Type type)
     if (type == MFn::kInvalid)
         return false;
     for (const NodeType* t = &nodeType; t; t = t->parent)
-        if (ownType(*t) == type)
+        if (hasOwnType(*t, type))
             return true;
     return false;
 }
