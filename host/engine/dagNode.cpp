@@ -106,6 +106,8 @@ bool DagNode::isTransform() const
 
 bool DagNode::isIntermediate()
 {
+    if (cells().roots().empty()) // all values are their defaults
+        return false;
     Attribute* attribute = type().find("intermediateObject");
     return attribute && storedNumber(Plug(*this, *attribute)).asWhole() != 0;
 }
