@@ -28,7 +28,7 @@ std::vector<tvxbench::Row> allRows()
     std::vector<tvxbench::Row> rows;
     for (const auto& family :
          {tvxbench::loggerRows, tvxbench::formatRows, tvxbench::rejectedReportRows, tvxbench::loadRows,
-          tvxbench::circleRows, tvxbench::switchRows, tvxbench::hullRows})
+          tvxbench::circleRows, tvxbench::switchRows, tvxbench::hullRows, tvxbench::utilsRows})
         for (tvxbench::Row& row : family())
             rows.push_back(std::move(row));
     return rows;

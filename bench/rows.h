@@ -24,5 +24,6 @@ std::vector<Row> loadRows();
 std::vector<Row> circleRows();
 std::vector<Row> hullRows();
 std::vector<Row> switchRows();
+std::vector<Row> utilsRows();
 
 } // namespace tvxbench

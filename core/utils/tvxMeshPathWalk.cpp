@@ -2,7 +2,6 @@
 #include "core/utils/tvxMeshPathWalk.h"
 
 #include <maya/MFn.h>
-#include <maya/MFnDagNode.h>
 #include <maya/MString.h>
 
 #include <cstring>
@@ -20,24 +19,23 @@ std::size_t lengthOf(const MString& name)
 
 void MeshPathWalk::visit(MDagPath path)
 {
-    if (hasChildrenToVisit(path))
-        visitChildren(path, lengthOf(path.fullPathName()));
+    if (!appendIfMesh(path) && path.hasFn(MFn::kTransform))
+        visitChildren(path, MFnDagNode(path.node(), nullptr), lengthOf(path.fullPathName()));
 }
 
-bool MeshPathWalk::hasChildrenToVisit(const MDagPath& path)
+bool MeshPathWalk::appendIfMesh(const MDagPath& path)
 {
-    if (path.hasFn(MFn::kMesh)) {
+    const bool isMesh = path.hasFn(MFn::kMesh);
+    if (isMesh)
         m_meshes.push_back(path);
-        return false;
-    }
-    return path.hasFn(MFn::kTransform);
+    return isMesh;
 }
 
-void MeshPathWalk::visitChildren(MDagPath& path, std::size_t nameLength)
+void MeshPathWalk::visitChildren(MDagPath& path, const MFnDagNode& end, std::size_t nameLength)
 {
-    const unsigned int count = path.childCount();
+    const unsigned int count = end.childCount();
     for (unsigned int i = 0; i < count; ++i)
-        visitChild(path, path.child(i), nameLength);
+        visitChild(path, end.child(i), nameLength);
 }
 
 void MeshPathWalk::visitChild(MDagPath& path, const MObject& child, std::size_t nameLength)
@@ -45,8 +43,8 @@ void MeshPathWalk::visitChild(MDagPath& path, const MObject& child, std::size_t 
     const MFnDagNode node(child, nullptr);
     // Of the paths to a child with one parent only the one from here has all of this path's name in common.
     if (node.parentCount() == 1 && nameLength < InstancePaths::kComparedLength && path.push(child)) {
-        if (hasChildrenToVisit(path))
-            visitChildren(path, nameLength + 1 + lengthOf(node.name()));
+        if (!appendIfMesh(path) && child.hasFn(MFn::kTransform))
+            visitChildren(path, node, nameLength + 1 + lengthOf(node.name()));
         path.pop();
         return;
     }

@@ -4,6 +4,7 @@
 #include "core/utils/tvxInstancePaths.h"
 
 #include <maya/MDagPath.h>
+#include <maya/MFnDagNode.h>
 #include <maya/MObject.h>
 #include <maya/MObjectHandle.h>
 
@@ -24,8 +25,8 @@ public:
     void visit(MDagPath path);
 
 private:
-    bool hasChildrenToVisit(const MDagPath& path);
-    void visitChildren(MDagPath& path, std::size_t nameLength);
+    bool appendIfMesh(const MDagPath& path);
+    void visitChildren(MDagPath& path, const MFnDagNode& end, std::size_t nameLength);
     void visitChild(MDagPath& path, const MObject& child, std::size_t nameLength);
     const InstancePaths& pathsTo(const MObject& child);
 
