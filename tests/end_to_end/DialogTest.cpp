@@ -9,7 +9,7 @@ namespace {
 
 using namespace tvxhost::test;
 
-const char* const kAsk = "string $f[] = `fileDialog2 -fm 1`; print (size($f) + \" \" + $f[0] + \"\\n\");";
+const char* const kAsk = "fileDialog2 -fm 1";
 
 TEST(Dialogs, AreAnsweredInOrderAndThenCancelled)
 {
@@ -21,7 +21,7 @@ TEST(Dialogs, AreAnsweredInOrderAndThenCancelled)
     const ProgramResult result =
         runHost({"--dialog-answer", a, "--dialog-answer", b, "-e", kAsk, "-e", kAsk, "-e", kAsk});
     EXPECT_EQ(result.errors, "");
-    EXPECT_EQ(result.output, "1 " + a + "\n1 " + b + "\n0 \n");
+    EXPECT_EQ(result.output, a + "\n" + b + "\n\n");
     EXPECT_EQ(result.exitCode, 0);
 }
 

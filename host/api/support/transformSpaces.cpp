@@ -1,6 +1,7 @@
 // The parts of a transform as they are seen from a space; see transformSpaces.h.
 #include "transformSpaces.h"
 
+#include "engine/builtinTypes.h"
 #include "matrix4.h"
 
 namespace tvxhost::api {
@@ -18,6 +19,8 @@ MQuaternion rotationOf(const MMatrix& matrix)
 
 Parents parentsOf(const engine::DagPath& path)
 {
+    if (!engine::inheritsTransform(*path.node()))
+        return {};
     const auto matrix = fromImath<MMatrix>(path.exclusiveMatrix());
     return {matrix, rotationOf(matrix)};
 }

@@ -6,7 +6,7 @@
 
 namespace tvxhost::api {
 
-/// What stands above a transform on its path; nothing by default.
+/// What stands above a transform on its path; nothing by default, and for a node that inherits no transform.
 struct Parents
 {
     MMatrix matrix;

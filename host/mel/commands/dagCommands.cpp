@@ -4,6 +4,7 @@
 #include "transformParts.h"
 
 #include "api/support/transformNode.h"
+#include "engine/builtinTypes.h"
 
 #include <algorithm>
 
@@ -92,8 +93,11 @@ DagNode* parentAt(const DagPath& path)
 engine::Outcome reparentInPlace(engine::Scene& scene, const SelectionItem& item, const DagPath& to)
 {
     const engine::Matrix world = item.path.inclusiveMatrix();
-    const engine::Outcome moved = scene.reparent(*item.path.node(), parentInPath(item), parentAt(to));
-    return moved ? setLocalMatrix(*item.path.node(), world * to.inclusiveMatrix().inverse()) : moved;
+    DagNode& node = *item.path.node();
+    const engine::Outcome moved = scene.reparent(node, parentInPath(item), parentAt(to));
+    if (!moved || !engine::inheritsTransform(node))
+        return moved;
+    return setLocalMatrix(node, world * to.inclusiveMatrix().inverse());
 }
 
 /// The path below which a shape can stand: that of the wished parent, or of a transform made below it where

@@ -1,5 +1,9 @@
 // particle, nParticle.
+#include "../support/temporaryFolder.h"
 #include "CommandFixture.h"
+
+#include <fstream>
+#include <iterator>
 
 namespace tvxhost::mel {
 
@@ -103,6 +107,37 @@ TEST_F(ParticleCommandsTest, thePresentStateIsNotWrittenButTheInitialOneIs)
     EXPECT_THAT(numbers("particle -q -at position -or 0 particle1"), ElementsAre(1, 2, 3));
     run("setAttr particleShape1.position0 -type vectorArray 2 0 0 0 9 9 9");
     EXPECT_EQ(run("particle -q -ct particle1"), "2");
+}
+
+TEST_F(ParticleCommandsTest, scenesHoldTheInitialState)
+{
+    const test::TemporaryFolder folder;
+    const std::string file = (folder / "dust.ma").string();
+    std::ofstream(file) << "//Maya ASCII 2016 scene\n"
+                           "requires maya \"2016\";\n"
+                           "createNode transform -n \"dust\";\n"
+                           "createNode particle -n \"dustShape\" -p \"dust\";\n"
+                           "\taddAttr -ci true -sn \"lifespanPP\" -ln \"lifespanPP\" -dt \"doubleArray\";\n"
+                           "\taddAttr -ci true -h true -sn \"lifespanPP0\" -ln \"lifespanPP0\" -dt "
+                           "\"doubleArray\";\n"
+                           "\tsetAttr \".pos0\" -type \"vectorArray\" 2 1 2 3 4 5 6 ;\n"
+                           "\tsetAttr \".mas0\" -type \"doubleArray\" 2 1 7 ;\n"
+                           "\tsetAttr \".nid\" 2;\n"
+                           "\tsetAttr \".lifespanPP0\" -type \"doubleArray\" 2 0.5 1.5 ;\n"
+                           "connectAttr \":time1.o\" \"dustShape.cti\";\n";
+    run("file -f -o \"" + file + "\"");
+    EXPECT_EQ(run("particle -q -ct dust"), "2");
+    EXPECT_THAT(numbers("particle -q -at position -or 1 dust"), ElementsAre(4, 5, 6));
+    EXPECT_THAT(numbers("particle -q -at mass -or 1 dust"), ElementsAre(7));
+    EXPECT_THAT(numbers("particle -q -at lifespanPP -or 0 dust"), ElementsAre(0.5));
+    run("particle -e -at mass -or 0 -fv 3 dust; file -rename \"" + (folder / "saved.ma").string() +
+        "\"; file -save");
+    std::ifstream stream(folder / "saved.ma");
+    const std::string saved((std::istreambuf_iterator<char>(stream)), {});
+    EXPECT_THAT(saved, testing::HasSubstr("setAttr \".mas0\" -type \"doubleArray\" 2 1 7"));
+    EXPECT_THAT(saved, testing::HasSubstr("setAttr \".lifespanPP0\" -type \"doubleArray\" 2 0.5 1.5"));
+    EXPECT_THAT(saved, Not(testing::HasSubstr("setAttr \".mas\"")));
+    EXPECT_THAT(saved, Not(testing::HasSubstr("setAttr \".lifespanPP\"")));
 }
 
 TEST_F(ParticleCommandsTest, momentumIsKeptAsTold)

@@ -127,6 +127,15 @@ TEST_F(TransformCommandsTest, moveInLocalSpaceIsScaledWithTheParent)
     expectNear("xform -q -ws -t b", {9, 0, 0});
 }
 
+TEST_F(TransformCommandsTest, whatInheritsNoTransformStandsInTheWorldAsItIs)
+{
+    run("setAttr a.t 10 0 0; setAttr b.it 0; move 1 2 3 b");
+    expectNear("getAttr b.t", {1, 2, 3});
+    expectNear("xform -q -ws -t b", {1, 2, 3});
+    run("createNode transform -n \"c\"; setAttr c.t 0 50 0; parent b c");
+    expectNear("getAttr b.t", {1, 2, 3});
+}
+
 TEST_F(TransformCommandsTest, moveOfAShapeMovesItsTransform)
 {
     run("createNode locator -n \"s\" -p \"b\"; move -r 1 0 0 s");

@@ -145,3 +145,21 @@ TEST_F(DagNodes, NodesOutsideTheDagDoNotFit)
     EXPECT_TRUE(MFnDagNode().create("lambert", MObject::kNullObj, &status).isNull());
     EXPECT_FALSE(status);
 }
+
+TEST_F(DagNodes, DuplicatesStandBesideTheOriginal)
+{
+    MStatus status;
+    MFnDagNode set(inner);
+    EXPECT_TRUE(set.findPlug("translateX", true).setValue(3.0));
+    const MFnDagNode copy(set.duplicate(false, false, &status));
+    EXPECT_TRUE(status);
+    EXPECT_EQ("|root|inner1", text(copy.fullPathName()));
+    EXPECT_EQ(3.0, copy.findPlug("translateX", true).asDouble());
+    EXPECT_EQ("|root|inner1|shape1", text(MFnDagNode(copy.child(0)).fullPathName()));
+    const MFnDagNode sharing(set.duplicate(false, true, &status));
+    EXPECT_EQ(shape, sharing.child(0));
+    EXPECT_TRUE(set.duplicate(true, false, &status).isNull());
+    EXPECT_EQ(MS::kNotImplemented, status.statusCode());
+    EXPECT_TRUE(MFnDagNode().duplicate(false, false, &status).isNull());
+    EXPECT_EQ("(kFailure): Object does not exist", text(status));
+}

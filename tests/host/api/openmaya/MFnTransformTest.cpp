@@ -191,6 +191,18 @@ TEST_F(MFnTransformTest, RefusesLockedAndConnectedChannels)
     EXPECT_EQ(child.setScale(scale), MS::kSuccess) << "another channel";
 }
 
+TEST_F(MFnTransformTest, LockedChannelsThatStayAsTheyAreRefuseNothing)
+{
+    engine::PlugState locked;
+    locked.locked = true;
+    engine::setState(scene.findPlug("child.translateZ").value, locked);
+    MFnTransform child(object("child"), nullptr);
+    EXPECT_EQ(child.translateBy(MVector(1, 2, 0), MSpace::kTransform), MS::kSuccess);
+    EXPECT_EQ(child.getTranslation(MSpace::kTransform), MVector(1, 2, 0));
+    EXPECT_EQ(child.translateBy(MVector(5, 5, 5), MSpace::kTransform), MS::kFailure);
+    EXPECT_EQ(child.getTranslation(MSpace::kTransform), MVector(1, 2, 0)) << "all of it or nothing";
+}
+
 TEST_F(MFnTransformTest, MakesATransformBelowAParent)
 {
     MFnTransform set;
