@@ -182,7 +182,8 @@ bool Program::runText(const std::string& text)
 void Program::report()
 {
     if (m_options.summary) {
-        const scene::SceneSummary& summary = m_session.commands().lastSummary;
+        scene::SceneSummary summary = m_session.commands().lastSummary;
+        summary.meshes = scene::summarizeMeshes(m_session.scene());
         print(asLines(*m_options.summary == ReportFormat::json ? scene::toJson(summary)
                                                                : scene::toText(summary)));
     }

@@ -12,6 +12,7 @@
 #include "valueText.h"
 
 #include "engine/data.h"
+#include "engine/mesh.h"
 
 #include <algorithm>
 #include <array>
@@ -188,6 +189,8 @@ void NodeWriter::writeNode(engine::Node& node)
         m_out += " -p " + mel::quoted(m_scene.shortestName(*dag->parents().front()));
     m_out += ";\n";
     line("rename -uid " + mel::quoted(node.uuid()) + ";");
+    if (dag)
+        engine::settleMesh(*node.asDag());
     writeLines(node);
 }
 

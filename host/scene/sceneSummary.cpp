@@ -24,6 +24,28 @@ void addCounts(std::string& text, const std::string& label, const Counts& counts
         addLine(text, "  " + name, std::to_string(count));
 }
 
+void addMeshes(std::string& text, const std::vector<MeshSummary>& meshes)
+{
+    addLine(text, "meshes", std::to_string(meshes.size()));
+    for (const MeshSummary& mesh : meshes)
+        addLine(text, "  " + mesh.name,
+                std::to_string(mesh.vertices) + " vertices, " + std::to_string(mesh.edges) + " edges, " +
+                    std::to_string(mesh.faces) + " faces, " + std::to_string(mesh.borderEdges) +
+                    " border edges");
+}
+
+nlohmann::ordered_json meshesOf(const std::vector<MeshSummary>& meshes)
+{
+    nlohmann::ordered_json list = nlohmann::ordered_json::array();
+    for (const MeshSummary& mesh : meshes)
+        list.push_back({{"name", mesh.name},
+                        {"vertices", mesh.vertices},
+                        {"edges", mesh.edges},
+                        {"faces", mesh.faces},
+                        {"borderEdges", mesh.borderEdges}});
+    return list;
+}
+
 } // namespace
 
 std::string toText(const SceneSummary& summary)
@@ -34,6 +56,7 @@ std::string toText(const SceneSummary& summary)
     addCounts(text, "statements", summary.commands);
     addCounts(text, "nodes", summary.nodes);
     addCounts(text, "unknown nodes", summary.unknownNodes);
+    addMeshes(text, summary.meshes);
     std::string plugins;
     for (const std::string& plugin : summary.plugins)
         plugins += (plugins.empty() ? "" : " ") + plugin;
@@ -54,6 +77,7 @@ std::string toJson(const SceneSummary& summary)
     json["commands"] = summary.commands;
     json["nodes"] = summary.nodes;
     json["unknownNodes"] = summary.unknownNodes;
+    json["meshes"] = meshesOf(summary.meshes);
     json["plugins"] = summary.plugins;
     json["connections"] = summary.connections;
     json["keptStatements"] = summary.keptStatements;

@@ -1,6 +1,8 @@
 // SceneSummary: what a scene file held, counted while it was read.
 #pragma once
 
+#include "meshSummary.h"
+
 #include <cstddef>
 #include <map>
 #include <string>
@@ -18,9 +20,11 @@ struct SceneSummary
     /// existed or not.
     std::map<std::string, std::size_t> nodes;
     std::map<std::string, std::size_t> unknownNodes; ///< those of `nodes` whose type nobody knows
-    std::vector<std::string> plugins;                ///< that the file requires, in its order, each once
-    std::size_t connections = 0;                     ///< made
-    std::size_t keptStatements = 0; ///< not understood and kept as they stood, to be saved again
+    /// Those of the scene now; empty until summarizeMeshes was asked, because history has to be evaluated.
+    std::vector<MeshSummary> meshes;
+    std::vector<std::string> plugins; ///< that the file requires, in its order, each once
+    std::size_t connections = 0;      ///< made
+    std::size_t keptStatements = 0;   ///< not understood and kept as they stood, to be saved again
     std::size_t warnings = 0;
     std::size_t errors = 0;
 };

@@ -225,9 +225,18 @@ bool isSparse(const PlugTarget& target)
 
 // ---- Storing data
 
+/// Whether a statement gives faces: it says so, or it goes on with a list whose first statement did.
+bool givesFaces(const PlugTarget& target, const SetAttrRequest& request)
+{
+    const engine::Attribute& attribute = *target.plug.attribute();
+    return request.type == kPolyFacesType ||
+           (request.type.empty() && attribute.kind == AttributeKind::typed &&
+            attribute.dataType == engine::DataType::polyFaces);
+}
+
 Outcome storeData(const PlugTarget& target, const SetAttrRequest& request)
 {
-    if (request.type == kPolyFacesType)
+    if (givesFaces(target, request))
         return storePolyFaces(target, Words(request.values, request.end));
     if (target.isRange && target.first != target.last)
         return {Reason::typeMismatch,
@@ -262,7 +271,7 @@ Outcome storeValues(const PlugTarget& target, const SetAttrRequest& request, con
     Outcome stored;
     if (isSparse(target))
         stored = storeSparse(target, request, rules);
-    else if (isNumeric && !isKeptNumeric(target.plug))
+    else if (isNumeric && !isKeptNumeric(target.plug) && !givesFaces(target, request))
         stored = storeNumbers(target, request, rules, limits);
     else
         stored = storeData(target, request);

@@ -93,7 +93,7 @@ void Painter::paint(const DrawItem& item)
 
 void Painter::paintWire(const DrawItem& item)
 {
-    // A mesh that only has history has no edges here.
+    // A mesh may be without geometry.
     if (const MeshData* mesh = engine::meshOf(*item.path.node()))
         drawWire(*mesh, wireOf(*mesh));
 }

@@ -62,6 +62,7 @@ TEST_F(Reports, OfASceneIsOneJsonObjectOnOneLine)
                     {"commands", {{"connectAttr", 1}, {"createNode", 3}, {"requires", 1}}},
                     {"nodes", {{"noSuchType", 1}, {"transform", 2}}},
                     {"unknownNodes", {{"noSuchType", 1}}},
+                    {"meshes", json::array()},
                     {"plugins", json::array()},
                     {"connections", 1},
                     {"keptStatements", 1},
@@ -85,6 +86,7 @@ TEST_F(Reports, OfASceneIsTextForPeopleOtherwise)
                       "  transform: 2\n"
                       "unknown nodes: 1\n"
                       "  noSuchType: 1\n"
+                      "meshes: 0\n"
                       "plug-ins: \n"
                       "connections: 1\n"
                       "kept statements: 1\n"

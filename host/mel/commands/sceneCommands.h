@@ -18,6 +18,7 @@ void registerSetCommands(CommandTable& table);
 void registerTransformCommands(CommandTable& table);
 void registerXformCommands(CommandTable& table);
 void registerParticleCommands(CommandTable& table);
+void registerPolygonCommands(CommandTable& table);
 void registerTimeCommands(CommandTable& table);
 void registerPreferenceCommands(CommandTable& table);
 void registerWindowPreferenceCommands(CommandTable& table);

@@ -63,6 +63,21 @@ TEST_F(ReaderTest, spreadsRangesOverElements)
     EXPECT_THAT(mesh->faces.outline(0), ElementsAre(0, 1, 2, 3));
 }
 
+TEST_F(ReaderTest, takesFurtherFacesWithoutTheirType)
+{
+    read("createNode mesh -n \"m\" ;\n"
+         "\tsetAttr -s 4 \".vt[0:3]\"  0 0 0 1 0 0 1 1 0 0 1 0;\n"
+         "\tsetAttr -s 5 \".ed[0:4]\"  0 1 0 1 2 0 2 3 0 3 0 0 0 2 0;\n"
+         "\tsetAttr -s 2 -ch 6 \".fc\";\n"
+         "\tsetAttr \".fc[0]\" -type \"polyFaces\" \n\t\tf 3 0 1 -5;\n"
+         "\tsetAttr \".fc[1]\"\n\t\tf 3 4 2 3\n\t\tmu 0 3 0 1 2;\n");
+    EXPECT_THAT(messages(), IsEmpty());
+    const engine::MeshData* mesh = engine::meshOf(*node("m").asDag());
+    ASSERT_NE(mesh, nullptr);
+    ASSERT_EQ(mesh->faces.size(), 2u);
+    EXPECT_THAT(mesh->faces.outline(1), ElementsAre(4, 2, 3));
+}
+
 TEST_F(ReaderTest, reportsARangeWithTooFewValues)
 {
     const ReadResult result = read("createNode mesh -n \"m\" ;\n\tsetAttr \".vt[0:3]\"  0 0 0 1 0 0;\n");

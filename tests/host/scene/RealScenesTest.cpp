@@ -11,6 +11,7 @@
 #include <cstdlib>
 #include <fstream>
 #include <map>
+#include <set>
 #include <sstream>
 #include <string>
 #include <vector>
@@ -79,6 +80,38 @@ std::string differences(const Counts& actual, const Counts& expected)
     return text;
 }
 
+/// What the table meshes.tsv says of the meshes whose faces stand in the files: name without path, vertices,
+/// edges, faces and border edges, by file.
+using MeshCounts = std::multiset<std::string>;
+
+std::string meshLine(std::string name, std::size_t vertices, std::size_t edges, std::size_t faces,
+                     std::size_t borderEdges)
+{
+    name.erase(0, name.rfind('|') + 1);
+    std::ostringstream line;
+    line << name << ' ' << vertices << ' ' << edges << ' ' << faces << ' ' << borderEdges;
+    return line.str();
+}
+
+std::map<std::string, MeshCounts> readMeshTable(const std::string& folder)
+{
+    std::map<std::string, MeshCounts> meshes;
+    std::ifstream table(folder + "/meshes.tsv");
+    std::string line;
+    std::getline(table, line);
+    while (std::getline(table, line)) {
+        std::istringstream fields(line);
+        std::vector<std::string> columns;
+        for (std::string column; std::getline(fields, column, '\t');)
+            columns.push_back(column);
+        const auto number = [&](std::size_t i) { return std::stoul(columns.at(i)); };
+        // A mesh that only its history makes has no faces in the file.
+        if (number(6) > 0)
+            meshes[columns[0]].insert(meshLine(columns[1], number(4), number(5), number(6), number(7)));
+    }
+    return meshes;
+}
+
 class RealScenes : public testing::Test
 {
 protected:
@@ -116,6 +149,25 @@ TEST_F(RealScenes, areTheSameTextWhenSavedReadAndSavedAgain)
         ASSERT_TRUE(scene::openSceneText(scene, first, "saved.ma").outcome) << row.file;
         const std::string second = scene::sceneText(scene, "saved.ma", options);
         EXPECT_TRUE(first == second) << row.file;
+    }
+}
+
+TEST_F(RealScenes, haveMeshesAsAnIndependentScannerCountsThem)
+{
+    const std::map<std::string, MeshCounts> table = readMeshTable(m_folder);
+    ASSERT_FALSE(table.empty()) << "no meshes.tsv in " << m_folder;
+    for (const auto& [file, expected] : table) {
+        engine::Scene scene;
+        ASSERT_TRUE(scene::openScene(scene, m_folder + "/" + file).outcome) << file;
+        MeshCounts actual;
+        for (const scene::MeshSummary& mesh : scene::summarizeMeshes(scene))
+            actual.insert(meshLine(mesh.name, mesh.vertices, mesh.edges, mesh.faces, mesh.borderEdges));
+        for (const std::string& line : expected) {
+            const auto found = actual.find(line);
+            EXPECT_NE(found, actual.end()) << file << ": " << line;
+            if (found != actual.end())
+                actual.erase(found);
+        }
     }
 }
 

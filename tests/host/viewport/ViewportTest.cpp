@@ -124,6 +124,24 @@ TEST_F(ViewportTest, ALocatorIsACrossOfItsScaleAtItsPlace)
         EXPECT_EQ(picture.at(300, y), kBackground) << y;
 }
 
+TEST_F(ViewportTest, AMeshThatHistoryMakesIsAWire)
+{
+    lookFromFront();
+    create("mesh", "boxShape", &create("transform", "box"));
+    const auto maker = m_scene.createNode("polyCube", "polyCube1");
+    ASSERT_TRUE(maker);
+    ASSERT_TRUE(engine::writeNumber(m_scene.findPlug("polyCube1.width").value, engine::Number(2)));
+    ASSERT_TRUE(
+        m_scene.connect(m_scene.findPlug("polyCube1.out").value, m_scene.findPlug("boxShape.i").value));
+    const Picture picture = draw(401, 401);
+    // x from -1 to 1 is at the pixels 100 to 300 of 400, y from -0.5 to 0.5 at 150 to 250.
+    for (int x : {100, 300}) {
+        EXPECT_EQ(picture.at(x, 180), kDormantWire) << x;
+        EXPECT_EQ(picture.at(x, 140), kBackground) << x;
+    }
+    EXPECT_EQ(picture.at(150, 180), kBackground);
+}
+
 TEST_F(ViewportTest, TheAxesInTheCornerTurnWithTheView)
 {
     const Rgb x{255, 0, 0};

@@ -1,0 +1,364 @@
+// polyPlane, polyCube, polySphere, polyCone, polyCylinder, polyTorus: primitives with the nodes that make
+// them.
+#include "commandSupport.h"
+#include "sceneCommands.h"
+#include "setMembers.h"
+
+#include "engine/mesh.h"
+
+#include <algorithm>
+#include <cctype>
+
+namespace tvxhost::mel {
+
+using engine::DagNode;
+using engine::Node;
+using engine::Plug;
+
+namespace {
+
+using A = ArgumentType;
+
+/// A flag that is an attribute of the node that makes the primitive.
+struct AttributeFlag
+{
+    const char* shortName;
+    const char* longName;
+    ArgumentType type;
+    const char* attribute;
+    const char* help;
+};
+
+struct Primitive
+{
+    const char* command; ///< also the type of the node that makes it
+    const char* name;    ///< of the transform, without its number
+    const char* summary;
+    std::vector<AttributeFlag> flags;
+    int capRings = -1; ///< subdivisions of the caps when no flag gives them; -1: as the node has them
+};
+
+const std::vector<Primitive>& primitives()
+{
+    static const std::vector<Primitive> all = {
+        {"polyPlane",
+         "pPlane",
+         "Makes a plane of polygons",
+         {{"w", "width", A::linear, "width", "along x"},
+          {"h", "height", A::linear, "height", "along z"},
+          {"sx", "subdivisionsX", A::integer, "subdivisionsWidth", "columns"},
+          {"sy", "subdivisionsY", A::integer, "subdivisionsHeight", "rows"},
+          {"sw", "subdivisionsWidth", A::integer, "subdivisionsWidth", "columns"},
+          {"sh", "subdivisionsHeight", A::integer, "subdivisionsHeight", "rows"}}},
+        {"polyCube",
+         "pCube",
+         "Makes a cube of polygons",
+         {{"w", "width", A::linear, "width", "along x"},
+          {"h", "height", A::linear, "height", "along y"},
+          {"d", "depth", A::linear, "depth", "along z"},
+          {"sx", "subdivisionsX", A::integer, "subdivisionsWidth", "along x"},
+          {"sy", "subdivisionsY", A::integer, "subdivisionsHeight", "along y"},
+          {"sz", "subdivisionsZ", A::integer, "subdivisionsDepth", "along z"},
+          {"sw", "subdivisionsWidth", A::integer, "subdivisionsWidth", "along x"},
+          {"sh", "subdivisionsHeight", A::integer, "subdivisionsHeight", "along y"},
+          {"sd", "subdivisionsDepth", A::integer, "subdivisionsDepth", "along z"}}},
+        {"polySphere",
+         "pSphere",
+         "Makes a sphere of polygons",
+         {{"r", "radius", A::linear, "radius", "of the sphere"},
+          {"sx", "subdivisionsX", A::integer, "subdivisionsAxis", "around the axis"},
+          {"sy", "subdivisionsY", A::integer, "subdivisionsHeight", "along the axis"},
+          {"sa", "subdivisionsAxis", A::integer, "subdivisionsAxis", "around the axis"},
+          {"sh", "subdivisionsHeight", A::integer, "subdivisionsHeight", "along the axis"}}},
+        {"polyCone",
+         "pCone",
+         "Makes a cone of polygons",
+         {{"r", "radius", A::linear, "radius", "of the bottom"},
+          {"h", "height", A::linear, "height", "along the axis"},
+          {"sx", "subdivisionsX", A::integer, "subdivisionsAxis", "around the axis"},
+          {"sy", "subdivisionsY", A::integer, "subdivisionsHeight", "along the axis"},
+          {"sz", "subdivisionsZ", A::integer, "subdivisionsCap", "of the bottom"},
+          {"sa", "subdivisionsAxis", A::integer, "subdivisionsAxis", "around the axis"},
+          {"sh", "subdivisionsHeight", A::integer, "subdivisionsHeight", "along the axis"},
+          {"sc", "subdivisionsCap", A::integer, "subdivisionsCap", "of the bottom"},
+          {"rcp", "roundCap", A::boolean, "roundCap", "whether the bottom is round"}}},
+        {"polyCylinder",
+         "pCylinder",
+         "Makes a cylinder of polygons",
+         {{"r", "radius", A::linear, "radius", "of the cylinder"},
+          {"h", "height", A::linear, "height", "along the axis"},
+          {"sx", "subdivisionsX", A::integer, "subdivisionsAxis", "around the axis"},
+          {"sy", "subdivisionsY", A::integer, "subdivisionsHeight", "along the axis"},
+          {"sz", "subdivisionsZ", A::integer, "subdivisionsCaps", "of the caps"},
+          {"sa", "subdivisionsAxis", A::integer, "subdivisionsAxis", "around the axis"},
+          {"sh", "subdivisionsHeight", A::integer, "subdivisionsHeight", "along the axis"},
+          {"sc", "subdivisionsCaps", A::integer, "subdivisionsCaps", "of the caps"},
+          {"rcp", "roundCap", A::boolean, "roundCap", "whether the caps are round"}},
+         1},
+        {"polyTorus",
+         "pTorus",
+         "Makes a torus of polygons",
+         {{"r", "radius", A::linear, "radius", "of the middle of the ring"},
+          {"sr", "sectionRadius", A::linear, "sectionRadius", "of its section"},
+          {"tw", "twist", A::angle, "twist", "of the section"},
+          {"sx", "subdivisionsX", A::integer, "subdivisionsAxis", "around the axis"},
+          {"sy", "subdivisionsY", A::integer, "subdivisionsHeight", "around the section"},
+          {"sa", "subdivisionsAxis", A::integer, "subdivisionsAxis", "around the axis"},
+          {"sh", "subdivisionsHeight", A::integer, "subdivisionsHeight", "around the section"}}},
+    };
+    return all;
+}
+
+constexpr const char* kAxis = "axis";
+constexpr const char* kTextures = "createUVs";
+
+Plug plugOf(const CommandContext& context, Node& node, const char* attribute)
+{
+    return valueOf(context, node.findPlug(attribute));
+}
+
+/// Angles, distances and plain numbers of a flag in internal units.
+double numberOf(const CommandContext& context, const Value& value, ArgumentType type)
+{
+    if (type == A::integer || type == A::boolean)
+        return value.toNumber();
+    return toInternal(context, value, type);
+}
+
+void setAttributes(const CommandContext& context, const ParsedCommand& call, const Primitive& primitive,
+                   Node& node)
+{
+    for (const AttributeFlag& flag : primitive.flags)
+        if (const FlagUse* use = call.use(flag.longName))
+            require(context, writeNumber(plugOf(context, node, flag.attribute),
+                                         numberOf(context, use->arguments.front(), flag.type)));
+    if (const FlagUse* use = call.use(kAxis)) {
+        std::vector<double> axis;
+        for (const Value& value : use->arguments)
+            axis.push_back(value.toNumber());
+        require(context, writeNumbers(plugOf(context, node, kAxis), axis));
+    }
+    if (call.has(kTextures))
+        require(context, writeNumber(plugOf(context, node, kTextures), call.integer(kTextures)));
+}
+
+bool givesCapRings(const ParsedCommand& call, const Primitive& primitive)
+{
+    return std::any_of(primitive.flags.begin(), primitive.flags.end(), [&](const AttributeFlag& flag) {
+        return std::string(flag.attribute) == "subdivisionsCaps" && call.has(flag.longName);
+    });
+}
+
+/// "pCube1" becomes "pCubeShape1", "house" "houseShape".
+std::string shapeName(const std::string& transform)
+{
+    std::size_t digits = transform.size();
+    while (digits > 0 && std::isdigit(static_cast<unsigned char>(transform[digits - 1])))
+        --digits;
+    return transform.substr(0, digits) + "Shape" + transform.substr(digits);
+}
+
+void setIfThere(DagNode& node, const char* attribute, int value)
+{
+    if (const auto plug = node.findPlug(attribute))
+        (void)writeNumber(plug.value, value);
+}
+
+/// A mesh that is shaded as new ones are, below a transform.
+DagNode& makeShape(CommandContext& context, const std::string& name)
+{
+    engine::Scene& scene = sceneOf(context);
+    DagNode& transform = *valueOf(context, scene.createNode("transform", name))->asDag();
+    DagNode& shape =
+        *valueOf(context, scene.createNode("mesh", shapeName(transform.name()), &transform))->asDag();
+    setIfThere(shape, "visibleInReflections", 1);
+    setIfThere(shape, "visibleInRefractions", 1);
+    if (const auto group = scene.findNode(":initialShadingGroup"))
+        require(context, addSetMember(*group.value, itemNamed(context, scene.shortestName(shape))));
+    return shape;
+}
+
+Value create(CommandContext& context, const ParsedCommand& call, const Primitive& primitive)
+{
+    engine::Scene& scene = sceneOf(context);
+    const std::string name = call.string("name", primitive.name + std::string("1"));
+    DagNode& shape = makeShape(context, name);
+    DagNode& transform = *shape.parents().front();
+    Node& maker = *valueOf(context, scene.createNode(primitive.command));
+    if (primitive.capRings >= 0 && !givesCapRings(call, primitive))
+        require(context, writeNumber(plugOf(context, maker, "subdivisionsCaps"), primitive.capRings));
+    setAttributes(context, call, primitive, maker);
+    require(context, scene.connect(plugOf(context, maker, "output"), plugOf(context, shape, "inMesh")));
+    // Made at once, so that it stays when its history goes.
+    static_cast<void>(engine::meshOf(shape));
+    engine::SelectionList selected;
+    selected.add(itemNamed(context, scene.shortestName(transform)));
+    scene.setSelection(std::move(selected));
+    Value::Strings result = {scene.shortestName(transform)};
+    if (call.boolean("constructionHistory", true))
+        result.push_back(maker.name());
+    else
+        require(context, scene.deleteNode(maker));
+    return Value(std::move(result));
+}
+
+/// The node that makes a primitive: named itself, or by what it makes.
+Node& makerOf(const CommandContext& context, const engine::SelectionItem& item, const Primitive& primitive)
+{
+    DagNode* dag = item.node->asDag();
+    if (dag && dag->isTransform())
+        for (DagNode* child : dag->children())
+            if (child->type().isA("mesh"))
+                dag = child;
+    Node* node = item.node.get();
+    if (dag && dag->type().isA("mesh")) {
+        const Plug source = sourceOf(plugOf(context, *dag, "inMesh"));
+        node = source.isNull() ? nullptr : source.node();
+    }
+    if (!node || !node->type().isA(primitive.command))
+        context.fail("'" + item.name() + "' has no " + primitive.command + " in its history");
+    return *node;
+}
+
+Node& onlyMaker(CommandContext& context, const ParsedCommand& call, const Primitive& primitive)
+{
+    const std::vector<engine::SelectionItem> items = itemsOrSelection(context, call.names());
+    if (items.size() != 1)
+        context.fail("'" + context.command() + "' needs exactly one object to query or edit");
+    return makerOf(context, items.front(), primitive);
+}
+
+/// In the current units.
+Value queried(const CommandContext& context, Node& maker, const AttributeFlag& flag)
+{
+    const Plug plug = plugOf(context, maker, flag.attribute);
+    const engine::Number number = valueOf(context, readNumber(plug));
+    if (flag.type == A::integer)
+        return Value(static_cast<int>(number.asWhole()));
+    if (flag.type == A::boolean)
+        return Value(number.asWhole() != 0);
+    return Value(number.asReal() / toInternal(context, Value(1.0), flag.type));
+}
+
+Value query(CommandContext& context, const ParsedCommand& call, const Primitive& primitive)
+{
+    Node& maker = onlyMaker(context, call, primitive);
+    for (const AttributeFlag& flag : primitive.flags)
+        if (call.has(flag.longName))
+            return queried(context, maker, flag);
+    if (call.has(kAxis))
+        return Value(Value::Numbers(valueOf(context, readNumbers(plugOf(context, maker, kAxis)))));
+    if (call.has(kTextures))
+        return Value(
+            static_cast<int>(valueOf(context, readNumber(plugOf(context, maker, kTextures))).asWhole()));
+    context.fail("'" + context.command() + "' in query mode needs a flag");
+}
+
+Value run(CommandContext& context, const ParsedCommand& call, const Primitive& primitive)
+{
+    if (call.queries())
+        return query(context, call, primitive);
+    if (!call.edits())
+        return create(context, call, primitive);
+    Node& maker = onlyMaker(context, call, primitive);
+    setAttributes(context, call, primitive, maker);
+    return Value(maker.name());
+}
+
+CommandSpec specOf(const Primitive& primitive)
+{
+    std::vector<FlagSpec> flags;
+    for (const AttributeFlag& flag : primitive.flags)
+        flags.push_back(valueFlag(flag.shortName, flag.longName, flag.type, flag.help, kAllModes));
+    flags.push_back({"ax", kAxis, {A::number, A::number, A::number}, kAllModes, "what it stands along"});
+    flags.push_back(
+        valueFlag("cuv", kTextures, A::integer, "how textures are laid on (kept only)", kAllModes));
+    flags.push_back(
+        valueFlag("ch", "constructionHistory", A::boolean, "keeps the node that makes it (on by default)"));
+    flags.push_back(valueFlag("n", "name", A::string, "of the transform"));
+    return makeCommand(
+        primitive.command, primitive.summary, std::move(flags), names(0, 1),
+        [&primitive](CommandContext& context, const ParsedCommand& call) {
+            return run(context, call, primitive);
+        },
+        kAllModes);
+}
+
+// ---- polyEvaluate
+
+/// What is counted of a mesh.
+struct Measure
+{
+    const char* shortName;
+    const char* longName;
+    const char* help;
+    std::size_t (*count)(const engine::MeshData& mesh);
+};
+
+/// A face with n corners is n - 2 triangles, each hole two more.
+std::size_t trianglesOf(const engine::MeshData& mesh)
+{
+    std::size_t count = 0;
+    for (std::size_t face = 0; face < mesh.faces.size(); ++face)
+        if (const std::size_t loops = mesh.faces.loopCount(face); loops > 0)
+            count += mesh.faces.corners(face).size() + 2 * loops - 4;
+    return count;
+}
+
+constexpr Measure kMeasures[] = {
+    {"v", "vertex", "number of vertices", [](const engine::MeshData& mesh) { return mesh.points.size(); }},
+    {"e", "edge", "number of edges", [](const engine::MeshData& mesh) { return mesh.edges.size(); }},
+    {"f", "face", "number of faces", [](const engine::MeshData& mesh) { return mesh.faces.size(); }},
+    {"t", "triangle", "number of triangles", trianglesOf},
+};
+
+/// The mesh of an item: its own or the one below it; null when there is none.
+const engine::MeshData* meshOf(const engine::SelectionItem& item)
+{
+    DagNode* dag = item.node->asDag();
+    if (!dag)
+        return nullptr;
+    if (dag->isTransform())
+        for (DagNode* child : dag->children())
+            if (child->type().isA("mesh") && !child->isIntermediate())
+                return engine::meshOf(*child);
+    return engine::meshOf(*dag);
+}
+
+Value polyEvaluate(CommandContext& context, const ParsedCommand& call)
+{
+    const bool asksAll = call.flags.empty();
+    Value::Integers counts;
+    std::string text;
+    for (const engine::SelectionItem& item : itemsOrSelection(context, call.names())) {
+        const engine::MeshData* mesh = meshOf(item);
+        if (!mesh)
+            continue;
+        for (const Measure& measure : kMeasures)
+            if (asksAll || call.has(measure.longName)) {
+                counts.push_back(static_cast<int>(measure.count(*mesh)));
+                text += (text.empty() ? "" : " ") + std::string(measure.longName) + "=" +
+                        std::to_string(counts.back());
+            }
+    }
+    if (counts.empty())
+        return Value("Nothing counted : no polygonal object is selected.");
+    if (asksAll)
+        return Value(text);
+    return counts.size() == 1 ? Value(counts.front()) : Value(std::move(counts));
+}
+
+} // namespace
+
+void registerPolygonCommands(CommandTable& table)
+{
+    for (const Primitive& primitive : primitives())
+        table.add({specOf(primitive)});
+    std::vector<FlagSpec> measures;
+    for (const Measure& measure : kMeasures)
+        measures.push_back(switchFlag(measure.shortName, measure.longName, measure.help));
+    table.add({makeCommand("polyEvaluate", "Counts what meshes are made of", std::move(measures), names(),
+                           polyEvaluate)});
+}
+
+} // namespace tvxhost::mel
