@@ -14,6 +14,8 @@ std::vector<DagPath> transformsOf(const CommandContext& context, const std::vect
 {
     std::vector<DagPath> paths;
     for (const engine::SelectionItem& item : itemsOrSelection(context, names)) {
+        if (!item.components.empty())
+            context.fail("'" + context.command() + "' of components is not implemented: " + item.name());
         DagPath path = item.path;
         while (path.isValid() && path.length() > 0 && !path.node()->isTransform())
             if (!path.pop())
