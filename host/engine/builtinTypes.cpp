@@ -5,6 +5,7 @@
 #include "boundingBox.h"
 #include "cell.h"
 #include "dirtySpread.h"
+#include "geometry/historyNodes.h"
 #include "geometry/polyNodes.h"
 #include "mesh.h"
 #include "number.h"
@@ -230,6 +231,7 @@ void addBuiltinComputes(TypeTable& types)
     give("unitConversion", conversion(1.0));
     give("timeToUnitConversion", conversion(kTicksPerSecond));
     give("unitToTimeConversion", conversion(1.0 / kTicksPerSecond));
+    addHistoryComputes(types);
     give("animCurve", computeCurve);
     addPolyComputes(types);
     addParticleBehaviour(types);

@@ -2,6 +2,7 @@
 #include "duplicate.h"
 
 #include "cell.h"
+#include "mesh.h"
 #include "scene.h"
 #include "values.h"
 
@@ -72,6 +73,7 @@ Expected<DagNode*> copyNode(DagNode& original, DagNode& parent, const std::strin
             return added;
     copyAttributes(original, copy);
     if (Outcome joined = joinSets(original, copy); !joined)
+    copyHeldMesh(original, copy);
         return joined;
     return &copy;
 }

@@ -238,6 +238,14 @@ void storeMesh(DagNode& shape, const Ref<Data>& mesh)
     hold(shape, mesh);
 }
 
+void copyHeldMesh(DagNode& original, DagNode& copy)
+{
+    if (!isMesh(original) || !isMesh(copy))
+        return;
+    if (const Ref<Data> mesh = incomingMesh(original))
+        hold(copy, mesh->clone());
+}
+
 Outcome movePoints(DagNode& shape, const MovedPoints& moved)
 {
     const MeshData* mesh = meshOf(shape);

@@ -25,6 +25,9 @@ bool hasHistory(DagNode& shape);
 /// the data: it must not be that of anything else.
 void storeMesh(DagNode& shape, const Ref<Data>& mesh);
 
+/// Gives a copy of a shape what the original's history yields or left; its attributes are copied otherwise.
+void copyHeldMesh(DagNode& original, DagNode& copy);
+
 /// New places of vertices by number, in object space.
 using MovedPoints = std::vector<std::pair<std::int32_t, Vec3f>>;
 /// Moves vertices as seen by meshOf: by tweaks where there is history, for good where there is none.

@@ -1,6 +1,7 @@
 // Meshes: geometry from the attributes of a shape.
 #include "engine/mesh.h"
 
+#include "engine/duplicate.h"
 #include "engine/geometry/primitives.h"
 
 #include "fixtures.h"
@@ -205,6 +206,48 @@ TEST_F(MeshTest, OnlyVerticesThatThereAreCanBeMoved)
     makeQuad();
     EXPECT_EQ(movePoints(shape, {{0, Vec3f(0, 0, 0)}, {4, Vec3f(0, 0, 0)}}).reason, Reason::badIndex);
     EXPECT_EQ(meshOf(shape)->points[0], Vec3f(-1, 0, 1));
+}
+
+TEST_F(MeshTest, HistoryGoesThroughNodesThatChangeItOrPassItOn)
+{
+    make("polyCube", "polyCube1");
+    make("groupParts", "groupParts1");
+    make("polyTweak", "polyTweak1");
+    make("polyTweakUV", "polyTweakUV1");
+    make("polyMapCut", "polyMapCut1");
+    make("transformGeometry", "move");
+    ASSERT_TRUE(connect("polyCube1.out", "groupParts1.ig"));
+    ASSERT_TRUE(connect("groupParts1.og", "polyTweak1.ip"));
+    ASSERT_TRUE(connect("polyTweak1.out", "polyTweakUV1.ip"));
+    ASSERT_TRUE(connect("polyTweakUV1.out", "polyMapCut1.ip"));
+    ASSERT_TRUE(connect("polyMapCut1.out", "move.ig"));
+    ASSERT_TRUE(connect("move.og", "planeShape.i"));
+    EXPECT_TRUE(writeNumbers(plug("polyTweak1.tk[0]"), {0, 0, 1}));
+    Matrix away;
+    away.setTranslation(Vec3d(10, 0, 0));
+    EXPECT_TRUE(writeData(plug("move.txf"), MatrixData(away)));
+    ASSERT_NE(meshOf(shape), nullptr);
+    EXPECT_EQ(meshOf(shape)->points[0], Vec3f(9.5F, -0.5F, 1.5F));
+    EXPECT_EQ(meshOf(shape)->points[1], Vec3f(10.5F, -0.5F, 0.5F));
+    set("move.itf", 1);
+    EXPECT_EQ(meshOf(shape)->points[1], Vec3f(-9.5F, -0.5F, 0.5F));
+    set("polyCube1.w", 3);
+    EXPECT_EQ(meshOf(shape)->points[1], Vec3f(-8.5F, -0.5F, 0.5F));
+}
+
+TEST_F(MeshTest, ADuplicateHasTheGeometryOfTheHistoryAndNotTheHistory)
+{
+    make("polyCube", "polyCube1");
+    ASSERT_TRUE(connect("polyCube1.out", "planeShape.i"));
+    EXPECT_TRUE(writeNumbers(plug("planeShape.pt[0]"), {0, 0, 1}));
+    const Expected<DagNode*> copy = duplicate(*shape.parents().front(), scene.world(), {});
+    ASSERT_TRUE(copy);
+    DagNode& twin = *copy.value->children().front();
+    EXPECT_FALSE(hasHistory(twin));
+    ASSERT_NE(meshOf(twin), nullptr);
+    EXPECT_EQ(meshOf(twin)->points[0], Vec3f(-0.5F, -0.5F, 1.5F));
+    EXPECT_TRUE(movePoints(twin, {{1, Vec3f(0, 0, 0)}}));
+    EXPECT_EQ(meshOf(shape)->points[1], Vec3f(0.5F, -0.5F, 0.5F));
 }
 
 TEST_F(MeshTest, TheBoundingBoxFollowsHistory)
