@@ -73,7 +73,8 @@ TEST_F(MainWindow, IsNoneThatHasAParent)
 TEST_F(MainWindow, IsNoneThatIsEmbedded)
 {
     QWidget frame;
-    QMainWindow embedded(&frame, Qt::Widget);
+    QMainWindow embedded(&frame);
+    embedded.setWindowFlags(Qt::Widget);
     ASSERT_FALSE(embedded.isWindow());
     EXPECT_EQ(MayaUtils::getMainWindow(), nullptr);
 }
