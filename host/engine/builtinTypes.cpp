@@ -231,9 +231,9 @@ void addBuiltinComputes(TypeTable& types)
     give("unitConversion", conversion(1.0));
     give("timeToUnitConversion", conversion(kTicksPerSecond));
     give("unitToTimeConversion", conversion(1.0 / kTicksPerSecond));
-    addHistoryComputes(types);
     give("animCurve", computeCurve);
     addPolyComputes(types);
+    addHistoryComputes(types);
     addParticleBehaviour(types);
 }
 

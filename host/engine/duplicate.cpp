@@ -72,8 +72,8 @@ Expected<DagNode*> copyNode(DagNode& original, DagNode& parent, const std::strin
         if (Outcome added = copy.addDynamicAttribute(copyOf(*attribute)); !added)
             return added;
     copyAttributes(original, copy);
-    if (Outcome joined = joinSets(original, copy); !joined)
     copyHeldMesh(original, copy);
+    if (Outcome joined = joinSets(original, copy); !joined)
         return joined;
     return &copy;
 }
