@@ -9,22 +9,7 @@ namespace colors = api::colors;
 
 MColor wireColor(M3dView::DisplayStatus status)
 {
-    switch (status) {
-    case M3dView::kLead:
-        return colors::lead();
-    case M3dView::kActive:
-        return colors::active();
-    case M3dView::kHilite:
-        return colors::hilite();
-    case M3dView::kTemplate:
-        return colors::templated();
-    case M3dView::kActiveTemplate:
-        return colors::activeTemplate();
-    case M3dView::kActiveAffected:
-        return colors::activeAffected();
-    default:
-        return colors::dormant();
-    }
+    return colors::of(status);
 }
 
 MColor backgroundColor()

@@ -23,10 +23,30 @@ MTime timeOf(double seconds)
     return MTime(MTime(seconds, MTime::kSeconds).as(MTime::uiUnit()), MTime::uiUnit());
 }
 
-MStatus set(void (Playback::*member)(double), const MTime& time)
+/// One end of a range.
+using End = void (Playback::*)(double);
+
+MStatus set(const char* name, End end, const MTime& time)
 {
-    (playback().*member)(time.as(MTime::kSeconds));
+    TVX_API_CALL(name);
+    (playback().*end)(time.as(MTime::kSeconds));
     return MS::kSuccess;
+}
+
+MStatus setRange(const char* name, End begin, const MTime& first, End end, const MTime& last)
+{
+    TVX_API_CALL(name);
+    if (last < first)
+        return failure(MS::kInvalidParameter, StatusText::unexpectedFailure);
+    (playback().*begin)(first.as(MTime::kSeconds));
+    (playback().*end)(last.as(MTime::kSeconds));
+    return MS::kSuccess;
+}
+
+MStatus refuse(const char* name)
+{
+    TVX_API_CALL(name);
+    return notImplemented(name);
 }
 
 } // namespace
@@ -128,23 +148,17 @@ MTime MAnimControl::maxTime()
 
 MStatus MAnimControl::setMinTime(MTime newMinTime)
 {
-    TVX_API_CALL("MAnimControl::setMinTime");
-    return set(&Playback::setMinimum, newMinTime);
+    return set("MAnimControl::setMinTime", &Playback::setMinimum, newMinTime);
 }
 
 MStatus MAnimControl::setMaxTime(MTime newMaxTime)
 {
-    TVX_API_CALL("MAnimControl::setMaxTime");
-    return set(&Playback::setMaximum, newMaxTime);
+    return set("MAnimControl::setMaxTime", &Playback::setMaximum, newMaxTime);
 }
 
 MStatus MAnimControl::setMinMaxTime(MTime min, MTime max)
 {
-    TVX_API_CALL("MAnimControl::setMinMaxTime");
-    if (max < min)
-        return failure(MS::kInvalidParameter, StatusText::unexpectedFailure);
-    set(&Playback::setMinimum, min);
-    return set(&Playback::setMaximum, max);
+    return setRange("MAnimControl::setMinMaxTime", &Playback::setMinimum, min, &Playback::setMaximum, max);
 }
 
 MTime MAnimControl::animationStartTime()
@@ -159,23 +173,18 @@ MTime MAnimControl::animationEndTime()
 
 MStatus MAnimControl::setAnimationStartTime(MTime newStartTime)
 {
-    TVX_API_CALL("MAnimControl::setAnimationStartTime");
-    return set(&Playback::setAnimationStart, newStartTime);
+    return set("MAnimControl::setAnimationStartTime", &Playback::setAnimationStart, newStartTime);
 }
 
 MStatus MAnimControl::setAnimationEndTime(MTime newEndTime)
 {
-    TVX_API_CALL("MAnimControl::setAnimationEndTime");
-    return set(&Playback::setAnimationEnd, newEndTime);
+    return set("MAnimControl::setAnimationEndTime", &Playback::setAnimationEnd, newEndTime);
 }
 
 MStatus MAnimControl::setAnimationStartEndTime(MTime newStartTime, MTime newEndTime)
 {
-    TVX_API_CALL("MAnimControl::setAnimationStartEndTime");
-    if (newEndTime < newStartTime)
-        return failure(MS::kInvalidParameter, StatusText::unexpectedFailure);
-    set(&Playback::setAnimationStart, newStartTime);
-    return set(&Playback::setAnimationEnd, newEndTime);
+    return setRange("MAnimControl::setAnimationStartEndTime", &Playback::setAnimationStart, newStartTime,
+                    &Playback::setAnimationEnd, newEndTime);
 }
 
 double MAnimControl::playbackSpeed()
@@ -192,24 +201,20 @@ MStatus MAnimControl::setPlaybackSpeed(double newSpeed)
 
 MStatus MAnimControl::playForward()
 {
-    TVX_API_CALL("MAnimControl::playForward");
-    return notImplemented("MAnimControl::playForward");
+    return refuse("MAnimControl::playForward");
 }
 
 MStatus MAnimControl::playBackward()
 {
-    TVX_API_CALL("MAnimControl::playBackward");
-    return notImplemented("MAnimControl::playBackward");
+    return refuse("MAnimControl::playBackward");
 }
 
 MStatus MAnimControl::setAutoKeyMode(bool)
 {
-    TVX_API_CALL("MAnimControl::setAutoKeyMode");
-    return notImplemented("MAnimControl::setAutoKeyMode");
+    return refuse("MAnimControl::setAutoKeyMode");
 }
 
 MStatus MAnimControl::setWeightedTangents(bool)
 {
-    TVX_API_CALL("MAnimControl::setWeightedTangents");
-    return notImplemented("MAnimControl::setWeightedTangents");
+    return refuse("MAnimControl::setWeightedTangents");
 }

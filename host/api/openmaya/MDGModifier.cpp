@@ -37,6 +37,11 @@ MStatus wrongKind(const MObject& object)
     return object.isNull() ? nullArgument() : failure(StatusText::objectIsIncompatible);
 }
 
+MStatus cannotTakeBack(const char* function)
+{
+    return notImplemented((std::string("Undoing ") + function).c_str());
+}
+
 Plug plugOf(const MObject& node, const MObject& attribute)
 {
     Node* n = nodeOf(node);
@@ -81,6 +86,29 @@ MStatus queuePair(Modifier& modifier, const Plug& first, const Plug& second,
     return MS::kSuccess;
 }
 
+Modifier::Operation addOperation(const Ref<Node>& node, const Ref<Attribute>& attribute)
+{
+    return {[=] { return plugStatus(node->addDynamicAttribute(attribute)); },
+            [=] { return plugStatus(node->removeDynamicAttribute(*attribute)); }};
+}
+
+Modifier::Operation removeOperation(const Ref<Node>& node, const Ref<Attribute>& attribute)
+{
+    return {[=] { return plugStatus(node->removeDynamicAttribute(*attribute)); },
+            [] { return cannotTakeBack("MDGModifier::removeAttribute"); }};
+}
+
+MStatus queueChangeOf(Modifier& modifier, const MObject& node, const MObject& attribute,
+                      Modifier::Operation (*make)(const Ref<Node>&, const Ref<Attribute>&))
+{
+    const Ref<Node> target(nodeOf(node));
+    const Ref<Attribute> changed(attributeOf(attribute));
+    if (!target || !changed)
+        return wrongKind(target ? attribute : node);
+    modifier.queue.push_back(make(target, changed));
+    return MS::kSuccess;
+}
+
 /// Queues the writing of a number, in the units in which it is stored.
 MStatus queueNumber(Modifier& modifier, const char* name, const MPlug& plug, const Number& stored)
 {
@@ -114,11 +142,6 @@ MStatus setLocked(const Ref<Node>& node, bool locked)
 MStatus renameTo(const Ref<Node>& node, const std::string& name)
 {
     return plugStatus(Scene::current().rename(*node, name).outcome);
-}
-
-MStatus cannotTakeBack(const char* function)
-{
-    return notImplemented((std::string("Undoing ") + function).c_str());
 }
 
 } // namespace
@@ -193,13 +216,13 @@ MStatus MDGModifier::undoIt()
 MObject MDGModifier::createNode(const MTypeId& typeId, MStatus* ReturnStatus)
 {
     TVX_API_CALL_OR("MDGModifier::createNode", ReturnStatus, MObject());
-    return queueNewNode(*modifier, Scene::current().types().find(typeId.id()), ReturnStatus);
+    return queueNewNode(*modifier, typeOf(typeId), ReturnStatus);
 }
 
 MObject MDGModifier::createNode(const MString& type, MStatus* ReturnStatus)
 {
     TVX_API_CALL_OR("MDGModifier::createNode", ReturnStatus, MObject());
-    return queueNewNode(*modifier, Scene::current().types().find(tvxAccess::text(type)), ReturnStatus);
+    return queueNewNode(*modifier, typeOf(type), ReturnStatus);
 }
 
 MStatus MDGModifier::deleteNode(const MObject& node)
@@ -278,25 +301,13 @@ MStatus MDGModifier::disconnect(const MObject& sourceNode, const MObject& source
 MStatus MDGModifier::addAttribute(const MObject& node, const MObject& attribute)
 {
     TVX_API_CALL("MDGModifier::addAttribute");
-    const Ref<Node> target(nodeOf(node));
-    const Ref<Attribute> added(attributeOf(attribute));
-    if (!target || !added)
-        return wrongKind(target ? attribute : node);
-    modifier->queue.push_back({[=] { return plugStatus(target->addDynamicAttribute(added)); },
-                               [=] { return plugStatus(target->removeDynamicAttribute(*added)); }});
-    return MS::kSuccess;
+    return queueChangeOf(*modifier, node, attribute, addOperation);
 }
 
 MStatus MDGModifier::removeAttribute(const MObject& node, const MObject& attribute)
 {
     TVX_API_CALL("MDGModifier::removeAttribute");
-    const Ref<Node> target(nodeOf(node));
-    const Ref<Attribute> removed(attributeOf(attribute));
-    if (!target || !removed)
-        return wrongKind(target ? attribute : node);
-    modifier->queue.push_back({[=] { return plugStatus(target->removeDynamicAttribute(*removed)); },
-                               [] { return cannotTakeBack("MDGModifier::removeAttribute"); }});
-    return MS::kSuccess;
+    return queueChangeOf(*modifier, node, attribute, removeOperation);
 }
 
 MStatus MDGModifier::addAttribute(const MObject& node, const MObject& attribute,

@@ -44,14 +44,12 @@ const char* MDagModifier::className()
 
 MObject MDagModifier::createNode(const MTypeId& typeId, const MObject& parent, MStatus* ReturnStatus)
 {
-    return create(tvxAccess::modifier(*this), Scene::current().types().find(typeId.id()), parent,
-                  ReturnStatus);
+    return create(tvxAccess::modifier(*this), typeOf(typeId), parent, ReturnStatus);
 }
 
 MObject MDagModifier::createNode(const MString& type, const MObject& parent, MStatus* ReturnStatus)
 {
-    return create(tvxAccess::modifier(*this), Scene::current().types().find(tvxAccess::text(type)), parent,
-                  ReturnStatus);
+    return create(tvxAccess::modifier(*this), typeOf(type), parent, ReturnStatus);
 }
 
 MStatus MDagModifier::reparentNode(const MObject& node, const MObject& newParent)

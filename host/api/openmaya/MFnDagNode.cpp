@@ -88,16 +88,6 @@ MObject create(MFnDagNode& set, NodeType* type, const std::string& name, const M
     return tvxAccess::handle(made.value);
 }
 
-NodeType* typeOf(const MTypeId& id)
-{
-    return Scene::current().types().find(id.id());
-}
-
-NodeType* typeOf(const MString& name)
-{
-    return Scene::current().types().find(tvxAccess::text(name));
-}
-
 template <class Query>
 bool ask(const MFnDagNode& set, const char* name, MStatus* returnStatus, Query query)
 {

@@ -34,16 +34,6 @@ MObject create(MFnDependencyNode& set, NodeType* type, const std::string& name, 
     return tvxAccess::handle(made.value);
 }
 
-NodeType* typeOf(const MTypeId& id)
-{
-    return Scene::current().types().find(id.id());
-}
-
-NodeType* typeOf(const MString& name)
-{
-    return Scene::current().types().find(tvxAccess::text(name));
-}
-
 void appendWithChildren(Attribute* attribute, std::vector<Attribute*>& all)
 {
     all.push_back(attribute);
@@ -90,11 +80,6 @@ std::string aliasOf(const MFnDependencyNode& set, const MPlug& plug, MStatus* re
     return node->aliasOf(tvxAccess::plug(plug));
 }
 
-void append(MObjectArray& array, const Attribute& attribute)
-{
-    tvxAccess::elements(array).push_back(tvxAccess::handle(&attribute));
-}
-
 /// The attribute of a handle when the node has it; else what is wrong.
 const Attribute* ownAttribute(const Node& node, const MObject& handle, MStatus* returnStatus)
 {
@@ -104,6 +89,49 @@ const Attribute* ownAttribute(const Node& node, const MObject& handle, MStatus* 
                        : handle.isNull() ? failure(StatusText::nullArgument)
                                          : failure(StatusText::itemNotFound));
     return isOwn ? attribute : nullptr;
+}
+
+/// The attributes from which an output is computed.
+std::vector<Attribute*> inputsBehind(const Node& node, const Attribute& output)
+{
+    std::vector<Attribute*> inputs;
+    for (const NodeType* type = &node.type(); type; type = type->parent)
+        for (const auto& [input, affected] : type->affects())
+            if (output.isAtOrBelow(*affected))
+                inputs.push_back(input);
+    return inputs;
+}
+
+/// Fills `found` with what `list` gives for an attribute of the attached node.
+template <class List>
+MStatus listFor(const MFnDependencyNode& set, const char* name, const MObject& attr, MObjectArray& found,
+                List list)
+{
+    TVX_API_CALL(name);
+    const Node* node = nodeOf(set);
+    if (!node)
+        return notAttached();
+    MStatus status;
+    const Attribute* attribute = ownAttribute(*node, attr, &status);
+    if (!attribute)
+        return status;
+    found.clear();
+    for (const Attribute* each : list(*node, *attribute))
+        tvxAccess::elements(found).push_back(tvxAccess::handle(each));
+    return status;
+}
+
+template <class Change>
+MStatus changeAttribute(MFnDependencyNode& set, const char* name, const MObject& attr, Change change)
+{
+    TVX_API_CALL(name);
+    Node* node = nodeOf(set);
+    if (!node)
+        return notAttached();
+    Attribute* attribute = attributeOf(attr);
+    if (!attribute)
+        return failure(attr.isNull() ? StatusText::nullArgument : StatusText::objectIsIncompatible);
+    return plugStatus(change(*node, *attribute));
 }
 
 } // namespace
@@ -282,57 +310,30 @@ bool MFnDependencyNode::isNewAttribute(const MObject& attr, MStatus* ReturnStatu
 
 MStatus MFnDependencyNode::getAffectedAttributes(const MObject& attr, MObjectArray& affectedAttributes) const
 {
-    TVX_API_CALL("MFnDependencyNode::getAffectedAttributes");
-    const Node* node = nodeOf(*this);
-    MStatus status;
-    const Attribute* attribute = node ? ownAttribute(*node, attr, &status) : nullptr;
-    if (!attribute)
-        return node ? status : notAttached();
-    affectedAttributes.clear();
-    for (const Attribute* affected : node->type().affectedBy(*attribute))
-        append(affectedAttributes, *affected);
-    return status;
+    return listFor(
+        *this, "MFnDependencyNode::getAffectedAttributes", attr, affectedAttributes,
+        [](const Node& node, const Attribute& attribute) { return node.type().affectedBy(attribute); });
 }
 
 MStatus MFnDependencyNode::getAffectedByAttributes(const MObject& attr,
                                                    MObjectArray& affectedByAttributes) const
 {
-    TVX_API_CALL("MFnDependencyNode::getAffectedByAttributes");
-    const Node* node = nodeOf(*this);
-    MStatus status;
-    const Attribute* attribute = node ? ownAttribute(*node, attr, &status) : nullptr;
-    if (!attribute)
-        return node ? status : notAttached();
-    affectedByAttributes.clear();
-    for (const NodeType* type = &node->type(); type; type = type->parent)
-        for (const auto& [input, output] : type->affects())
-            if (attribute->isAtOrBelow(*output))
-                append(affectedByAttributes, *input);
-    return status;
+    return listFor(*this, "MFnDependencyNode::getAffectedByAttributes", attr, affectedByAttributes,
+                   inputsBehind);
 }
 
 MStatus MFnDependencyNode::addAttribute(const MObject& attr)
 {
-    TVX_API_CALL("MFnDependencyNode::addAttribute");
-    Node* node = nodeOf(*this);
-    if (!node)
-        return notAttached();
-    Attribute* attribute = attributeOf(attr);
-    if (!attribute)
-        return failure(attr.isNull() ? StatusText::nullArgument : StatusText::objectIsIncompatible);
-    return plugStatus(node->addDynamicAttribute(attribute));
+    return changeAttribute(
+        *this, "MFnDependencyNode::addAttribute", attr,
+        [](Node& node, Attribute& attribute) { return node.addDynamicAttribute(&attribute); });
 }
 
 MStatus MFnDependencyNode::removeAttribute(const MObject& attr)
 {
-    TVX_API_CALL("MFnDependencyNode::removeAttribute");
-    Node* node = nodeOf(*this);
-    if (!node)
-        return notAttached();
-    Attribute* attribute = attributeOf(attr);
-    if (!attribute)
-        return failure(attr.isNull() ? StatusText::nullArgument : StatusText::objectIsIncompatible);
-    return plugStatus(node->removeDynamicAttribute(*attribute));
+    return changeAttribute(
+        *this, "MFnDependencyNode::removeAttribute", attr,
+        [](Node& node, Attribute& attribute) { return node.removeDynamicAttribute(attribute); });
 }
 
 MStatus MFnDependencyNode::addAttribute(const MObject& attr, MAttrClass type)

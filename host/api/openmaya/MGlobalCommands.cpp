@@ -80,45 +80,22 @@ MStatus MGlobal::executeCommand(const MString& command, MCommandResult& result, 
     return status;
 }
 
-MStatus MGlobal::executeCommand(const MString& command, int& result, bool displayEnabled, bool undoEnabled)
-{
-    TVX_API_CALL("MGlobal::executeCommand");
-    return runFor(result, command, displayEnabled, undoEnabled);
-}
+#define TVX_EXECUTE_FOR(Type)                                                                                \
+    MStatus MGlobal::executeCommand(const MString& command, Type& result, bool displayEnabled,               \
+                                    bool undoEnabled)                                                        \
+    {                                                                                                        \
+        TVX_API_CALL("MGlobal::executeCommand");                                                             \
+        return runFor(result, command, displayEnabled, undoEnabled);                                         \
+    }
 
-MStatus MGlobal::executeCommand(const MString& command, MIntArray& result, bool displayEnabled,
-                                bool undoEnabled)
-{
-    TVX_API_CALL("MGlobal::executeCommand");
-    return runFor(result, command, displayEnabled, undoEnabled);
-}
+TVX_EXECUTE_FOR(int)
+TVX_EXECUTE_FOR(MIntArray)
+TVX_EXECUTE_FOR(double)
+TVX_EXECUTE_FOR(MDoubleArray)
+TVX_EXECUTE_FOR(MStringArray)
+TVX_EXECUTE_FOR(MString)
 
-MStatus MGlobal::executeCommand(const MString& command, double& result, bool displayEnabled, bool undoEnabled)
-{
-    TVX_API_CALL("MGlobal::executeCommand");
-    return runFor(result, command, displayEnabled, undoEnabled);
-}
-
-MStatus MGlobal::executeCommand(const MString& command, MDoubleArray& result, bool displayEnabled,
-                                bool undoEnabled)
-{
-    TVX_API_CALL("MGlobal::executeCommand");
-    return runFor(result, command, displayEnabled, undoEnabled);
-}
-
-MStatus MGlobal::executeCommand(const MString& command, MStringArray& result, bool displayEnabled,
-                                bool undoEnabled)
-{
-    TVX_API_CALL("MGlobal::executeCommand");
-    return runFor(result, command, displayEnabled, undoEnabled);
-}
-
-MStatus MGlobal::executeCommand(const MString& command, MString& result, bool displayEnabled,
-                                bool undoEnabled)
-{
-    TVX_API_CALL("MGlobal::executeCommand");
-    return runFor(result, command, displayEnabled, undoEnabled);
-}
+#undef TVX_EXECUTE_FOR
 
 MString MGlobal::executeCommandStringResult(const MString& command, bool displayEnabled, bool undoEnabled,
                                             MStatus* ResultStatus)

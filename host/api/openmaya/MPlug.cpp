@@ -64,6 +64,25 @@ unsigned int elementCount(const Plug& array)
     return static_cast<unsigned int>(tvxhost::engine::existingElements(array).size());
 }
 
+/// True for a usable array; else what is wrong is written.
+bool requireArray(const Plug& plug, MStatus* returnStatus)
+{
+    if (!requirePlug(plug, returnStatus))
+        return false;
+    if (!plug.isArray())
+        give(returnStatus, failure(StatusText::unexpectedFailure));
+    return plug.isArray();
+}
+
+/// What `find` finds for a usable plug; a null plug and the failure `otherwise` when that is nothing.
+template <class Find>
+MPlug relative(const MPlug& plug, const char* name, StatusText otherwise, MStatus* returnStatus, Find find)
+{
+    TVX_API_CALL_OR(name, returnStatus, MPlug());
+    const Plug& p = tvxAccess::plug(plug);
+    return requirePlug(p, returnStatus) ? plugOr(find(p), otherwise, returnStatus) : MPlug();
+}
+
 /// The nearest array at or above an attribute.
 const Attribute* arrayAbove(const Attribute* attribute)
 {
@@ -300,12 +319,8 @@ unsigned int MPlug::getExistingArrayAttributeIndices(MIntArray& indices, MStatus
 {
     TVX_API_CALL_OR("MPlug::getExistingArrayAttributeIndices", ReturnStatus, 0);
     const Plug& p = tvxAccess::plug(*this);
-    if (!requirePlug(p, ReturnStatus))
+    if (!requireArray(p, ReturnStatus))
         return 0;
-    if (!p.isArray()) {
-        give(ReturnStatus, failure(StatusText::unexpectedFailure));
-        return 0;
-    }
     auto& elements = tvxAccess::elements(indices);
     elements = tvxhost::engine::existingElements(p);
     return static_cast<unsigned int>(elements.size());
@@ -315,25 +330,15 @@ unsigned int MPlug::numElements(MStatus* ReturnStatus) const
 {
     TVX_API_CALL_OR("MPlug::numElements", ReturnStatus, 0);
     const Plug& p = tvxAccess::plug(*this);
-    if (!requirePlug(p, ReturnStatus))
-        return 0;
-    if (!p.isArray()) {
-        give(ReturnStatus, failure(StatusText::unexpectedFailure));
-        return 0;
-    }
-    return elementCount(p);
+    return requireArray(p, ReturnStatus) ? elementCount(p) : 0;
 }
 
 unsigned int MPlug::evaluateNumElements(MStatus* ReturnStatus)
 {
     TVX_API_CALL_OR("MPlug::evaluateNumElements", ReturnStatus, 0);
     const Plug& p = tvxAccess::plug(*this);
-    if (!requirePlug(p, ReturnStatus))
+    if (!requireArray(p, ReturnStatus))
         return 0;
-    if (!p.isArray()) {
-        give(ReturnStatus, failure(StatusText::unexpectedFailure));
-        return 0;
-    }
     if (const auto evaluated = tvxhost::engine::evaluate(p); !evaluated) {
         give(ReturnStatus, plugStatus(evaluated));
         return 0;
@@ -369,60 +374,44 @@ unsigned int MPlug::numChildren(MStatus* ReturnStatus) const
 
 MPlug MPlug::child(unsigned int index, MStatus* ReturnStatus) const
 {
-    TVX_API_CALL_OR("MPlug::child", ReturnStatus, MPlug());
-    const Plug& p = tvxAccess::plug(*this);
-    if (!requirePlug(p, ReturnStatus))
-        return MPlug();
-    return plugOr(index < p.childCount() ? p.child(index) : Plug(), StatusText::noElementAtIndex,
-                  ReturnStatus);
+    return relative(*this, "MPlug::child", StatusText::noElementAtIndex, ReturnStatus,
+                    [&](const Plug& p) { return index < p.childCount() ? p.child(index) : Plug(); });
 }
 
 MPlug MPlug::child(MObject& attr, MStatus* ReturnStatus) const
 {
-    TVX_API_CALL_OR("MPlug::child", ReturnStatus, MPlug());
-    const Plug& p = tvxAccess::plug(*this);
-    if (!requirePlug(p, ReturnStatus))
-        return MPlug();
-    const Attribute* a = attributeOf(attr);
-    return plugOr(a ? p.child(*a) : Plug(), StatusText::itemNotFound, ReturnStatus);
+    return relative(*this, "MPlug::child", StatusText::itemNotFound, ReturnStatus, [&](const Plug& p) {
+        const Attribute* a = attributeOf(attr);
+        return a ? p.child(*a) : Plug();
+    });
 }
 
 MPlug MPlug::parent(MStatus* ReturnStatus) const
 {
-    TVX_API_CALL_OR("MPlug::parent", ReturnStatus, MPlug());
-    const Plug& p = tvxAccess::plug(*this);
-    if (!requirePlug(p, ReturnStatus))
-        return MPlug();
-    return plugOr(p.isChild() ? p.parent() : Plug(), StatusText::unexpectedFailure, ReturnStatus);
+    return relative(*this, "MPlug::parent", StatusText::unexpectedFailure, ReturnStatus,
+                    [](const Plug& p) { return p.isChild() ? p.parent() : Plug(); });
 }
 
 MPlug MPlug::array(MStatus* ReturnStatus) const
 {
-    TVX_API_CALL_OR("MPlug::array", ReturnStatus, MPlug());
-    const Plug& p = tvxAccess::plug(*this);
-    if (!requirePlug(p, ReturnStatus))
-        return MPlug();
-    return plugOr(p.isElement() ? p.array() : Plug(), StatusText::unexpectedFailure, ReturnStatus);
+    return relative(*this, "MPlug::array", StatusText::unexpectedFailure, ReturnStatus,
+                    [](const Plug& p) { return p.isElement() ? p.array() : Plug(); });
 }
 
 MPlug MPlug::elementByLogicalIndex(unsigned int logicalIndex, MStatus* ReturnStatus) const
 {
-    TVX_API_CALL_OR("MPlug::elementByLogicalIndex", ReturnStatus, MPlug());
-    const Plug& p = tvxAccess::plug(*this);
-    if (!requirePlug(p, ReturnStatus))
-        return MPlug();
-    return plugOr(elementOf(p, logicalIndex), StatusText::unexpectedFailure, ReturnStatus);
+    return relative(*this, "MPlug::elementByLogicalIndex", StatusText::unexpectedFailure, ReturnStatus,
+                    [&](const Plug& p) { return elementOf(p, logicalIndex); });
 }
 
 MPlug MPlug::elementByPhysicalIndex(unsigned int physicalIndex, MStatus* ReturnStatus) const
 {
-    TVX_API_CALL_OR("MPlug::elementByPhysicalIndex", ReturnStatus, MPlug());
-    const Plug& p = tvxAccess::plug(*this);
-    if (!requirePlug(p, ReturnStatus))
-        return MPlug();
-    const auto existing = p.isArray() ? tvxhost::engine::existingElements(p) : std::vector<int>();
-    return plugOr(physicalIndex < existing.size() ? p.element(existing[physicalIndex]) : Plug(),
-                  StatusText::noElementAtIndex, ReturnStatus);
+    return relative(*this, "MPlug::elementByPhysicalIndex", StatusText::noElementAtIndex, ReturnStatus,
+                    [&](const Plug& p) {
+                        const auto existing =
+                            p.isArray() ? tvxhost::engine::existingElements(p) : std::vector<int>();
+                        return physicalIndex < existing.size() ? p.element(existing[physicalIndex]) : Plug();
+                    });
 }
 
 MPlug MPlug::operator[](unsigned int physicalIndex) const

@@ -191,6 +191,17 @@ inline unsigned int incrementOf(const void* word)
         return #Class;                                                                                       \
     }
 
+/// The size increment, kept in the spare word `reserved`.
+#define TVX_ARRAY_INCREMENT_MEMBERS(Class)                                                                   \
+    void Class::setSizeIncrement(unsigned int newIncrement)                                                  \
+    {                                                                                                        \
+        tvxhost::api::array::setIncrement(reserved, newIncrement);                                           \
+    }                                                                                                        \
+    unsigned int Class::sizeIncrement() const                                                                \
+    {                                                                                                        \
+        return tvxhost::api::array::incrementOf(reserved);                                                   \
+    }
+
 /// The same with construction, destruction and size increment, which need the spare word `reserved`.
 #define TVX_ARRAY_MEMBERS(Class, Element, Parameter, Result)                                                 \
     Class::Class() : elements(nullptr), reserved(nullptr) {}                                                 \
@@ -202,14 +213,7 @@ inline unsigned int incrementOf(const void* word)
     {                                                                                                        \
         delete elements;                                                                                     \
     }                                                                                                        \
-    void Class::setSizeIncrement(unsigned int newIncrement)                                                  \
-    {                                                                                                        \
-        tvxhost::api::array::setIncrement(reserved, newIncrement);                                           \
-    }                                                                                                        \
-    unsigned int Class::sizeIncrement() const                                                                \
-    {                                                                                                        \
-        return tvxhost::api::array::incrementOf(reserved);                                                   \
-    }                                                                                                        \
+    TVX_ARRAY_INCREMENT_MEMBERS(Class)                                                                       \
     TVX_ARRAY_ELEMENT_MEMBERS(Class, Element, Parameter, Result)
 
 /// The same for an array that can be lent the elements of a data object.
@@ -223,14 +227,7 @@ inline unsigned int incrementOf(const void* word)
     {                                                                                                        \
         tvxhost::api::array::release(elements, lender);                                                      \
     }                                                                                                        \
-    void Class::setSizeIncrement(unsigned int newIncrement)                                                  \
-    {                                                                                                        \
-        tvxhost::api::array::setIncrement(reserved, newIncrement);                                           \
-    }                                                                                                        \
-    unsigned int Class::sizeIncrement() const                                                                \
-    {                                                                                                        \
-        return tvxhost::api::array::incrementOf(reserved);                                                   \
-    }                                                                                                        \
+    TVX_ARRAY_INCREMENT_MEMBERS(Class)                                                                       \
     TVX_ARRAY_ELEMENT_MEMBERS(Class, Element, Parameter, Result)
 
 /// `copy`, for the classes that have it.

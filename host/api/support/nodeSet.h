@@ -16,6 +16,10 @@ bool askNode(const MFnBase& set, const char* name, MStatus* returnStatus, Query 
     return requireAttached(node, returnStatus) && query(*node);
 }
 
+/// The type of an id or a name; null when there is none.
+engine::NodeType* typeOf(const MTypeId& id);
+engine::NodeType* typeOf(const MString& name);
+
 /// Makes a node of a type, which is null when there is none of the name or id that was asked for. For a shape
 /// without a parent the result is the transform that is made above it.
 engine::Expected<engine::Node*> createNode(engine::NodeType* type, const std::string& name,

@@ -107,25 +107,7 @@ void MPxLocatorNode::draw(M3dView& view, const MDagPath&, M3dView::DisplayStyle,
 
 MColor MPxLocatorNode::colorRGB(M3dView::DisplayStatus displayStatus)
 {
-    namespace colors = tvxhost::api::colors;
-    switch (displayStatus) {
-    case M3dView::kLead:
-        return colors::lead();
-    case M3dView::kActive:
-        return colors::active();
-    case M3dView::kActiveAffected:
-        return colors::activeAffected();
-    case M3dView::kLive:
-        return colors::live();
-    case M3dView::kHilite:
-        return colors::hilite();
-    case M3dView::kTemplate:
-        return colors::templated();
-    case M3dView::kActiveTemplate:
-        return colors::activeTemplate();
-    default:
-        return colors::dormant();
-    }
+    return tvxhost::api::colors::of(displayStatus);
 }
 
 // Colours by index need the user's palette, which the host does not have.

@@ -1,6 +1,7 @@
 // The colours of the user interface that the API names: Maya's defaults.
 #pragma once
 
+#include <maya/M3dView.h>
 #include <maya/MColor.h>
 
 namespace tvxhost::api::colors {
@@ -52,6 +53,29 @@ inline MColor reference()
 inline MColor dormant()
 {
     return MColor(0.0f, 0.016f, 0.376f);
+}
+
+/// The colour of what Maya draws itself in a display status.
+inline MColor of(M3dView::DisplayStatus status)
+{
+    switch (status) {
+    case M3dView::kLead:
+        return lead();
+    case M3dView::kActive:
+        return active();
+    case M3dView::kActiveAffected:
+        return activeAffected();
+    case M3dView::kLive:
+        return live();
+    case M3dView::kHilite:
+        return hilite();
+    case M3dView::kTemplate:
+        return templated();
+    case M3dView::kActiveTemplate:
+        return activeTemplate();
+    default:
+        return dormant();
+    }
 }
 
 } // namespace tvxhost::api::colors
