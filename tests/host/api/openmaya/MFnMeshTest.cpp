@@ -228,7 +228,6 @@ TEST_F(MFnMeshTest, MovedPointsChangeTheNormals)
 
 TEST_F(MFnMeshTest, VertexNormalsAreMeansOfTheFaces)
 {
-    // A roof: a square facing up, and one as wide facing +x, split into two triangles at the shared edge.
     addMesh("cube", engine::makeCube({}));
     MFnMesh mesh(path("cubeShape"), nullptr);
     const double diagonal = 0.57735026918962573;
