@@ -46,6 +46,17 @@ std::string defaultTransformNameOf(const NodeType& type)
     return type.baseName.empty() ? "transform1" : type.baseName + "1";
 }
 
+/// A new shape is shown and hidden by its transform: its own visibility is not offered for keys.
+void makeVisibilityNonKeyable(Node& shape)
+{
+    Attribute* visibility = shape.type().find("visibility");
+    if (!visibility)
+        return;
+    PlugState state;
+    state.keyable = false;
+    setState(Plug(shape, *visibility), state);
+}
+
 } // namespace
 
 Scene::Scene(bool batch)
@@ -159,6 +170,8 @@ Expected<Node*> Scene::makeNode(NodeType& type, const std::string& name, DagNode
 
     Ref<Node> node(type.isDag ? new DagNode(*this, type) : new Node(*this, type));
     adopt(*node, fixedName);
+    if (type.isShape)
+        makeVisibilityNonKeyable(*node);
     const NodeType* coded = &type;
     while (coded && !coded->behaviour)
         coded = coded->parent;
@@ -253,7 +266,6 @@ void Scene::makeUnknown(NodeType& type)
 }
 
 // Names
-// --------------------------------------------------------------------------------------------------------
 
 std::string Scene::absoluteName(const std::string& name) const
 {
@@ -336,7 +348,6 @@ Expected<std::string> Scene::rename(Node& node, const std::string& name, bool cr
 }
 
 // Namespaces
-// ---------------------------------------------------------------------------------------------------
 
 void Scene::addNamespaceOf(const std::string& name)
 {
@@ -375,7 +386,6 @@ std::vector<std::string> Scene::namespaces() const
 }
 
 // Selection, time, files
-// ---------------------------------------------------------------------------------------
 
 void Scene::setSelection(SelectionList selection)
 {

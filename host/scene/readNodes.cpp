@@ -40,6 +40,18 @@ const std::string& typeNameOf(const Node& node)
     return node.unknownType.empty() ? node.type().name : node.unknownType;
 }
 
+/// What a new shape says of its visibility, a file says itself.
+void forgetKeyableState(Node& node)
+{
+    engine::Attribute* visibility = node.type().isShape ? node.type().find("visibility") : nullptr;
+    if (!visibility)
+        return;
+    const engine::Plug plug(node, *visibility);
+    engine::PlugState state = engine::stateOf(plug);
+    state.keyable.reset();
+    engine::setState(plug, state);
+}
+
 } // namespace
 
 void SceneReader::createNode(const SceneStatement& statement)
@@ -67,6 +79,7 @@ void SceneReader::createNode(const SceneStatement& statement)
         }
         node = made.value;
         node->isShared = request.isShared;
+        forgetKeyableState(*node);
     }
     ++m_summary.nodes[request.type];
     m_created.insert(node);

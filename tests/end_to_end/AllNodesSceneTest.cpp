@@ -116,11 +116,8 @@ std::string script()
 {
     std::string mel;
     for (const Type& type : types()) {
-        for (const char* role : kRoles) {
+        for (const char* role : kRoles)
             mel += creation(type, role);
-            if (type.isLocator)
-                mel += "setAttr -keyable false \"" + nodeOf(type, role) + ".visibility\";\n";
-        }
         for (const Setting& setting : type.settings) {
             const auto plug = [&](const char* role) { return nodeOf(type, role) + "." + setting.longName; };
             for (const char* role : {"changed", "locked"})

@@ -26,6 +26,13 @@ TEST_F(NodeCommandsTest, createNodePutsShapesUnderANewOrANamedTransform)
     EXPECT_THAT(strings("ls -l \"ballShape\""), ElementsAre("|ball|ballShape"));
 }
 
+TEST_F(NodeCommandsTest, createNodeMakesShapesWhoseVisibilityIsNotKeyable)
+{
+    run("createNode mesh -n \"ballShape\"");
+    EXPECT_EQ(run("getAttr -keyable \"ballShape.visibility\""), "0");
+    EXPECT_EQ(run("getAttr -keyable \"ball.visibility\""), "1");
+}
+
 TEST_F(NodeCommandsTest, createNodeRefusesTypesThatNobodyKnows)
 {
     EXPECT_EQ(failure("createNode frobnicator"), "Unknown object type: frobnicator");

@@ -71,6 +71,19 @@ TEST_F(SceneTest, ShapesWithoutAParentGetATransform)
     EXPECT_EQ(transformOf(make("camera", "view")), "camera1");
 }
 
+TEST_F(SceneTest, NewShapesDoNotOfferTheirVisibilityForKeys)
+{
+    for (const char* type : {"mesh", "locator", "camera", "directionalLight", "particle"}) {
+        const PlugState state = stateOf(plug(make(type).name() + ".visibility"));
+        EXPECT_EQ(state.keyable, false) << type;
+        EXPECT_FALSE(state.locked) << type;
+        EXPECT_FALSE(state.channelBox) << type;
+    }
+    EXPECT_EQ(stateOf(plug("perspShape.visibility")).keyable, false);
+    EXPECT_FALSE(stateOf(plug("persp.visibility")).keyable);
+    EXPECT_FALSE(stateOf(plug(make("transform").name() + ".visibility")).keyable);
+}
+
 TEST_F(SceneTest, AbstractAndUnknownTypesCannotBeCreated)
 {
     EXPECT_EQ(scene.createNode("shape").outcome.reason, Reason::wrongKind);

@@ -97,6 +97,23 @@ TEST_F(WriterTest, writesStatesBesideTheValueOrAlone)
                                                                  "\tsetAttr -l on -k off \".tx\";\n");
 }
 
+TEST_F(WriterTest, writesThatTheVisibilityOfANewShapeIsNotKeyable)
+{
+    make("transform", "a");
+    make("locator", "s", "a");
+    EXPECT_EQ(savedSection("createNode locator"),
+              std::string("createNode locator -n \"s\" -p \"a\";\n") + kUid + "\tsetAttr -k off \".v\";\n");
+}
+
+TEST_F(WriterTest, keepsWhatAFileSaysOfTheVisibilityOfAShape)
+{
+    const std::string silent = std::string("createNode locator -n \"s\" -p \"a\";\n") + kUid;
+    for (const char* said : {"", "\tsetAttr -k off \".v\";\n", "\tsetAttr -k off \".v\" no;\n"}) {
+        read("createNode transform -n \"a\";\n" + silent + said);
+        EXPECT_EQ(savedSection("createNode locator"), silent + said);
+    }
+}
+
 TEST_F(WriterTest, writesChildrenOneByOneWhenOneIsFed)
 {
     make("transform", "a");

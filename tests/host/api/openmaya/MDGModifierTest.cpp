@@ -195,6 +195,18 @@ TEST_F(Modifiers, ACommandWithoutALanguageFails)
     EXPECT_EQ(kRefused, text(modifier.doIt()));
 }
 
+TEST_F(Modifiers, ShapesAreMadeWithAVisibilityThatIsNotKeyable)
+{
+    MDagModifier dag;
+    const MFnDagNode made(dag.createNode("locator", a));
+    EXPECT_FALSE(made.findPlug("visibility").isKeyable());
+    MFnDagNode set;
+    MObject above = a;
+    set.create("mesh", above);
+    EXPECT_FALSE(set.findPlug("visibility").isKeyable());
+    EXPECT_TRUE(MFnDagNode(a).findPlug("visibility").isKeyable());
+}
+
 TEST_F(Modifiers, DagNodesAreMadeAndMoved)
 {
     MDagModifier dag;
