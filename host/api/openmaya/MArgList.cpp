@@ -185,6 +185,33 @@ MStatus add(Arguments& arguments, Argument argument)
     return MS::kSuccess;
 }
 
+Argument toArgument(bool value)
+{
+    return static_cast<int>(value);
+}
+
+Argument toArgument(int value)
+{
+    return value;
+}
+
+Argument toArgument(double value)
+{
+    return value;
+}
+
+Argument toArgument(const MString& value)
+{
+    return tvxAccess::text(value);
+}
+
+/// A distance, an angle or a time goes as a plain number in the user's units.
+template <class Quantity>
+Argument toArgument(const Quantity& value)
+{
+    return value.as(Quantity::uiUnit());
+}
+
 bool isFlag(const Argument& argument, const char* flag)
 {
     const auto* text = std::get_if<std::string>(&argument);
@@ -219,47 +246,27 @@ unsigned int MArgList::length(MStatus* ReturnStatus) const
     return static_cast<unsigned int>(arguments->items.size());
 }
 
-bool MArgList::asBool(unsigned int index, MStatus* ret) const
-{
-    TVX_API_CALL_OR("MArgList::asBool", ret, false);
-    return valueOf<bool>(ret, [&](bool& value) { return read(*arguments, index, value); });
-}
+#define TVX_SINGLE_VALUE(Type, function)                                                                     \
+    Type MArgList::function(unsigned int index, MStatus* ret) const                                          \
+    {                                                                                                        \
+        TVX_API_CALL_OR("MArgList::" #function, ret, Type());                                                \
+        return valueOf<Type>(ret, [&](Type& value) { return read(*arguments, index, value); });              \
+    }                                                                                                        \
+    MStatus MArgList::get(unsigned int index, Type& ret) const                                               \
+    {                                                                                                        \
+        TVX_API_CALL("MArgList::get");                                                                       \
+        return read(*arguments, index, ret);                                                                 \
+    }
 
-int MArgList::asInt(unsigned int index, MStatus* ret) const
-{
-    TVX_API_CALL_OR("MArgList::asInt", ret, 0);
-    return valueOf<int>(ret, [&](int& value) { return read(*arguments, index, value); });
-}
+TVX_SINGLE_VALUE(bool, asBool)
+TVX_SINGLE_VALUE(int, asInt)
+TVX_SINGLE_VALUE(double, asDouble)
+TVX_SINGLE_VALUE(MString, asString)
+TVX_SINGLE_VALUE(MDistance, asDistance)
+TVX_SINGLE_VALUE(MAngle, asAngle)
+TVX_SINGLE_VALUE(MTime, asTime)
 
-double MArgList::asDouble(unsigned int index, MStatus* ret) const
-{
-    TVX_API_CALL_OR("MArgList::asDouble", ret, 0.0);
-    return valueOf<double>(ret, [&](double& value) { return read(*arguments, index, value); });
-}
-
-MString MArgList::asString(unsigned int index, MStatus* ret) const
-{
-    TVX_API_CALL_OR("MArgList::asString", ret, MString());
-    return valueOf<MString>(ret, [&](MString& value) { return read(*arguments, index, value); });
-}
-
-MDistance MArgList::asDistance(unsigned int index, MStatus* ret) const
-{
-    TVX_API_CALL_OR("MArgList::asDistance", ret, MDistance());
-    return valueOf<MDistance>(ret, [&](MDistance& value) { return read(*arguments, index, value); });
-}
-
-MAngle MArgList::asAngle(unsigned int index, MStatus* ret) const
-{
-    TVX_API_CALL_OR("MArgList::asAngle", ret, MAngle());
-    return valueOf<MAngle>(ret, [&](MAngle& value) { return read(*arguments, index, value); });
-}
-
-MTime MArgList::asTime(unsigned int index, MStatus* ret) const
-{
-    TVX_API_CALL_OR("MArgList::asTime", ret, MTime());
-    return valueOf<MTime>(ret, [&](MTime& value) { return read(*arguments, index, value); });
-}
+#undef TVX_SINGLE_VALUE
 
 MVector MArgList::asVector(unsigned int& index, unsigned int numElements, MStatus* ReturnStatus) const
 {
@@ -281,26 +288,24 @@ MMatrix MArgList::asMatrix(unsigned int& index, MStatus* ret) const
     return valueOf<MMatrix>(ret, [&](MMatrix& value) { return readMatrix(*arguments, index, value); });
 }
 
-MIntArray MArgList::asIntArray(unsigned int& index, MStatus* ReturnStatus) const
-{
-    TVX_API_CALL_OR("MArgList::asIntArray", ReturnStatus, MIntArray());
-    return valueOf<MIntArray>(ReturnStatus,
-                              [&](MIntArray& value) { return readArray<int>(*arguments, index, value); });
-}
+#define TVX_ARRAY_VALUE(Result, Array, Element, function)                                                    \
+    Result MArgList::function(unsigned int& index, MStatus* ReturnStatus) const                              \
+    {                                                                                                        \
+        TVX_API_CALL_OR("MArgList::" #function, ReturnStatus, Array());                                      \
+        return valueOf<Array>(ReturnStatus,                                                                  \
+                              [&](Array& value) { return readArray<Element>(*arguments, index, value); });   \
+    }                                                                                                        \
+    MStatus MArgList::get(unsigned int& index, Array& ret) const                                             \
+    {                                                                                                        \
+        TVX_API_CALL("MArgList::get");                                                                       \
+        return readArray<Element>(*arguments, index, ret);                                                   \
+    }
 
-MDoubleArray MArgList::asDoubleArray(unsigned int& index, MStatus* ReturnStatus) const
-{
-    TVX_API_CALL_OR("MArgList::asDoubleArray", ReturnStatus, MDoubleArray());
-    return valueOf<MDoubleArray>(
-        ReturnStatus, [&](MDoubleArray& value) { return readArray<double>(*arguments, index, value); });
-}
+TVX_ARRAY_VALUE(MIntArray, MIntArray, int, asIntArray)
+TVX_ARRAY_VALUE(MDoubleArray, MDoubleArray, double, asDoubleArray)
+TVX_ARRAY_VALUE(const MStringArray, MStringArray, MString, asStringArray)
 
-const MStringArray MArgList::asStringArray(unsigned int& index, MStatus* ReturnStatus) const
-{
-    TVX_API_CALL_OR("MArgList::asStringArray", ReturnStatus, MStringArray());
-    return valueOf<MStringArray>(
-        ReturnStatus, [&](MStringArray& value) { return readArray<MString>(*arguments, index, value); });
-}
+#undef TVX_ARRAY_VALUE
 
 unsigned int MArgList::flagIndex(const char* shortFlag, const char* longFlag) const
 {
@@ -311,47 +316,22 @@ unsigned int MArgList::flagIndex(const char* shortFlag, const char* longFlag) co
     return found == items.end() ? kInvalidArgIndex : static_cast<unsigned int>(found - items.begin());
 }
 
-MStatus MArgList::addArg(bool arg)
-{
-    TVX_API_CALL("MArgList::addArg");
-    return add(*arguments, static_cast<int>(arg));
-}
+#define TVX_ADD_VALUE(Parameter)                                                                             \
+    MStatus MArgList::addArg(Parameter arg)                                                                  \
+    {                                                                                                        \
+        TVX_API_CALL("MArgList::addArg");                                                                    \
+        return add(*arguments, toArgument(arg));                                                             \
+    }
 
-MStatus MArgList::addArg(int arg)
-{
-    TVX_API_CALL("MArgList::addArg");
-    return add(*arguments, arg);
-}
+TVX_ADD_VALUE(bool)
+TVX_ADD_VALUE(int)
+TVX_ADD_VALUE(double)
+TVX_ADD_VALUE(const MString&)
+TVX_ADD_VALUE(const MDistance&)
+TVX_ADD_VALUE(const MAngle&)
+TVX_ADD_VALUE(const MTime&)
 
-MStatus MArgList::addArg(double arg)
-{
-    TVX_API_CALL("MArgList::addArg");
-    return add(*arguments, arg);
-}
-
-MStatus MArgList::addArg(const MString& arg)
-{
-    TVX_API_CALL("MArgList::addArg");
-    return add(*arguments, tvxAccess::text(arg));
-}
-
-MStatus MArgList::addArg(const MDistance& arg)
-{
-    TVX_API_CALL("MArgList::addArg");
-    return add(*arguments, arg.as(MDistance::uiUnit()));
-}
-
-MStatus MArgList::addArg(const MAngle& arg)
-{
-    TVX_API_CALL("MArgList::addArg");
-    return add(*arguments, arg.as(MAngle::uiUnit()));
-}
-
-MStatus MArgList::addArg(const MTime& arg)
-{
-    TVX_API_CALL("MArgList::addArg");
-    return add(*arguments, arg.as(MTime::uiUnit()));
-}
+#undef TVX_ADD_VALUE
 
 MStatus MArgList::addArg(const MVector& arg)
 {
@@ -367,48 +347,6 @@ MStatus MArgList::addArg(const MPoint& arg)
     for (const double component : {arg.x, arg.y, arg.z, arg.w})
         add(*arguments, component);
     return MS::kSuccess;
-}
-
-MStatus MArgList::get(unsigned int index, bool& ret) const
-{
-    TVX_API_CALL("MArgList::get");
-    return read(*arguments, index, ret);
-}
-
-MStatus MArgList::get(unsigned int index, int& ret) const
-{
-    TVX_API_CALL("MArgList::get");
-    return read(*arguments, index, ret);
-}
-
-MStatus MArgList::get(unsigned int index, double& ret) const
-{
-    TVX_API_CALL("MArgList::get");
-    return read(*arguments, index, ret);
-}
-
-MStatus MArgList::get(unsigned int index, MString& ret) const
-{
-    TVX_API_CALL("MArgList::get");
-    return read(*arguments, index, ret);
-}
-
-MStatus MArgList::get(unsigned int index, MDistance& ret) const
-{
-    TVX_API_CALL("MArgList::get");
-    return read(*arguments, index, ret);
-}
-
-MStatus MArgList::get(unsigned int index, MAngle& ret) const
-{
-    TVX_API_CALL("MArgList::get");
-    return read(*arguments, index, ret);
-}
-
-MStatus MArgList::get(unsigned int index, MTime& ret) const
-{
-    TVX_API_CALL("MArgList::get");
-    return read(*arguments, index, ret);
 }
 
 MStatus MArgList::get(unsigned int& index, MVector& ret, unsigned int numElements) const
@@ -427,24 +365,6 @@ MStatus MArgList::get(unsigned int& index, MMatrix& ret) const
 {
     TVX_API_CALL("MArgList::get");
     return readMatrix(*arguments, index, ret);
-}
-
-MStatus MArgList::get(unsigned int& index, MIntArray& ret) const
-{
-    TVX_API_CALL("MArgList::get");
-    return readArray<int>(*arguments, index, ret);
-}
-
-MStatus MArgList::get(unsigned int& index, MDoubleArray& ret) const
-{
-    TVX_API_CALL("MArgList::get");
-    return readArray<double>(*arguments, index, ret);
-}
-
-MStatus MArgList::get(unsigned int& index, MStringArray& ret) const
-{
-    TVX_API_CALL("MArgList::get");
-    return readArray<MString>(*arguments, index, ret);
 }
 
 const char* MArgList::className()

@@ -78,15 +78,7 @@ unsigned int MFnCompoundAttribute::numChildren(MStatus* ReturnStatus) const
 
 MObject MFnCompoundAttribute::child(unsigned int index, MStatus* ReturnStatus) const
 {
-    TVX_API_CALL_OR("MFnCompoundAttribute::child", ReturnStatus, MObject());
-    const Attribute* attribute = attributeOf(*this);
-    if (!requireAttached(attribute, ReturnStatus))
-        return MObject();
-    if (index >= attribute->children.size()) {
-        give(ReturnStatus, failure(StatusText::noElementAtIndex));
-        return MObject();
-    }
-    return tvxAccess::handle(attribute->children[index].get());
+    return childAt(*this, "MFnCompoundAttribute::child", index, ReturnStatus);
 }
 
 MStatus MFnCompoundAttribute::getAddAttrCmds(MStringArray& cmds, bool useLongNames) const

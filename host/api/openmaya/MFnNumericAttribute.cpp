@@ -152,15 +152,7 @@ MFnNumericData::Type MFnNumericAttribute::unitType(MStatus* ReturnStatus) const
 
 MObject MFnNumericAttribute::child(unsigned int index, MStatus* ReturnStatus) const
 {
-    TVX_API_CALL_OR("MFnNumericAttribute::child", ReturnStatus, MObject());
-    const Attribute* attribute = attributeOf(*this);
-    if (!requireAttached(attribute, ReturnStatus))
-        return MObject();
-    if (index >= attribute->children.size()) {
-        give(ReturnStatus, failure(StatusText::noElementAtIndex));
-        return MObject();
-    }
-    return tvxAccess::handle(attribute->children[index].get());
+    return childAt(*this, "MFnNumericAttribute::child", index, ReturnStatus);
 }
 
 #define TVX_HAS_LIMIT(function, limit)                                                                       \

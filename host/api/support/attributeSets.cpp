@@ -27,6 +27,21 @@ MStatus findNumbers(const MFnBase& set, std::size_t count, std::vector<Attribute
     return numbers.size() == count ? MStatus() : failure(StatusText::objectIsIncompatible);
 }
 
+/// Gives a member of each number its value.
+template <class Member>
+MStatus setMembers(MFnBase& set, const char* name, Member Attribute::*member,
+                   std::initializer_list<double> values)
+{
+    TVX_API_CALL(name);
+    std::vector<Attribute*> numbers;
+    if (const MStatus found = findNumbers(set, values.size(), numbers); !found)
+        return found;
+    auto value = values.begin();
+    for (Attribute* number : numbers)
+        number->*member = *value++;
+    return MS::kSuccess;
+}
+
 } // namespace
 
 MObject adoptAttribute(MFnBase& set, const engine::Ref<Attribute>& made, MStatus* returnStatus)
@@ -55,6 +70,17 @@ std::vector<Attribute*> numbersOf(Attribute& attribute)
     return numbers;
 }
 
+MObject childAt(const MFnBase& set, const char* name, unsigned int index, MStatus* returnStatus)
+{
+    TVX_API_CALL_OR(name, returnStatus, MObject());
+    const Attribute* attribute = attributeOf(set);
+    if (!requireAttached(attribute, returnStatus))
+        return MObject();
+    const bool exists = index < attribute->children.size();
+    give(returnStatus, exists ? MStatus() : failure(StatusText::noElementAtIndex));
+    return exists ? tvxAccess::handle(attribute->children[index].get()) : MObject();
+}
+
 bool hasLimit(const MFnBase& set, const char* name, Limit limit, MStatus* returnStatus)
 {
     TVX_API_CALL_OR(name, returnStatus, false);
@@ -81,14 +107,7 @@ MStatus getLimits(const MFnBase& set, const char* name, Limit limit, std::initia
 
 MStatus setLimits(MFnBase& set, const char* name, Limit limit, std::initializer_list<double> values)
 {
-    TVX_API_CALL(name);
-    std::vector<Attribute*> numbers;
-    if (const MStatus found = findNumbers(set, values.size(), numbers); !found)
-        return found;
-    auto value = values.begin();
-    for (Attribute* number : numbers)
-        number->*limit = *value++;
-    return MS::kSuccess;
+    return setMembers(set, name, limit, values);
 }
 
 MStatus getDefaults(const MFnBase& set, const char* name, std::initializer_list<double*> values)
@@ -105,14 +124,7 @@ MStatus getDefaults(const MFnBase& set, const char* name, std::initializer_list<
 
 MStatus setDefaults(MFnBase& set, const char* name, std::initializer_list<double> values)
 {
-    TVX_API_CALL(name);
-    std::vector<Attribute*> numbers;
-    if (const MStatus found = findNumbers(set, values.size(), numbers); !found)
-        return found;
-    auto value = values.begin();
-    for (Attribute* number : numbers)
-        number->defaultNumber = *value++;
-    return MS::kSuccess;
+    return setMembers(set, name, &Attribute::defaultNumber, values);
 }
 
 } // namespace tvxhost::api

@@ -21,10 +21,13 @@ bool isFree(const engine::Attribute& attribute);
 /// The attributes that hold the numbers: the children of a number group, or the attribute itself.
 std::vector<engine::Attribute*> numbersOf(engine::Attribute& attribute);
 
+/// The child of the attached attribute at an index. `name` is the API function on whose behalf this is done
+/// ("Class::function"), for this and all below.
+MObject childAt(const MFnBase& set, const char* name, unsigned int index, MStatus* returnStatus);
+
 /// A limit of an attribute: &Attribute::minimum and alike.
 using Limit = std::optional<double> engine::Attribute::*;
 
-/// `name` is the API function on whose behalf this is done ("Class::function"), for all of these.
 bool hasLimit(const MFnBase& set, const char* name, Limit limit, MStatus* returnStatus);
 MStatus getLimits(const MFnBase& set, const char* name, Limit limit, std::initializer_list<double*> values);
 MStatus setLimits(MFnBase& set, const char* name, Limit limit, std::initializer_list<double> values);
