@@ -1,11 +1,9 @@
 // DagNode: its kind, its local matrix and its own display state.
 #include "builtinTypes.h"
 #include "cell.h"
+#include "matrixParts.h"
 #include "scene.h"
 #include "values.h"
-
-#include <array>
-#include <cmath>
 
 namespace tvxhost::engine {
 
@@ -41,52 +39,6 @@ public:
 private:
     DagNode& m_node;
 };
-
-Matrix translation(const Vec3d& v)
-{
-    Matrix m;
-    m.setTranslation(v);
-    return m;
-}
-
-Matrix scaling(const Vec3d& v)
-{
-    Matrix m;
-    m.setScale(v);
-    return m;
-}
-
-/// For row vectors: x takes part of y and z, y takes part of z.
-Matrix shearing(const Vec3d& v)
-{
-    Matrix m;
-    m[1][0] = v.x;
-    m[2][0] = v.y;
-    m[2][1] = v.z;
-    return m;
-}
-
-Matrix rotationAbout(int axis, double angle)
-{
-    const int j = (axis + 1) % 3;
-    const int k = (axis + 2) % 3;
-    Matrix m;
-    m[j][j] = m[k][k] = std::cos(angle);
-    m[j][k] = std::sin(angle);
-    m[k][j] = -m[j][k];
-    return m;
-}
-
-/// `order` as in the attribute rotateOrder: xyz yzx zxy xzy yxz zyx, first axis first.
-Matrix rotation(const Vec3d& angles, int order)
-{
-    constexpr std::array<std::array<int, 3>, 6> kOrders = {
-        {{0, 1, 2}, {1, 2, 0}, {2, 0, 1}, {0, 2, 1}, {1, 0, 2}, {2, 1, 0}}};
-    Matrix m;
-    for (const int axis : kOrders[static_cast<std::size_t>(order) % kOrders.size()])
-        m *= rotationAbout(axis, angles[axis]);
-    return m;
-}
 
 constexpr int kTemplateDisplay = 1;
 

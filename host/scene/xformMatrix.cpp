@@ -1,20 +1,20 @@
 // Matrices written as the parts of a transform; see xformMatrix.h.
 #include "xformMatrix.h"
 
-#include <Imath/ImathEuler.h>
-#include <Imath/ImathQuat.h>
+#include "engine/matrixParts.h"
 
-#include <array>
+#include <Imath/ImathQuat.h>
 
 namespace tvxhost::scene {
 
 using engine::Matrix;
+using engine::rotation;
+using engine::scaling;
+using engine::shearing;
+using engine::translation;
 using engine::Vec3d;
 
 namespace {
-
-constexpr std::array kOrders = {Imath::Eulerd::XYZ, Imath::Eulerd::YZX, Imath::Eulerd::ZXY,
-                                Imath::Eulerd::XZY, Imath::Eulerd::YXZ, Imath::Eulerd::ZYX};
 
 Vec3d takeVector(Words& words)
 {
@@ -29,38 +29,6 @@ Matrix takeQuaternion(Words& words)
     const Vec3d axis = takeVector(words);
     const double w = words.number();
     return Imath::Quatd(w, axis).normalized().toMatrix44();
-}
-
-Matrix translation(const Vec3d& by)
-{
-    Matrix matrix;
-    matrix.translate(by);
-    return matrix;
-}
-
-Matrix scaling(const Vec3d& by)
-{
-    Matrix matrix;
-    matrix.scale(by);
-    return matrix;
-}
-
-Matrix rotation(const Vec3d& angles, int order)
-{
-    const std::size_t place = order >= 0 && order < static_cast<int>(kOrders.size())
-                                  ? static_cast<std::size_t>(order)
-                                  : std::size_t{0};
-    Imath::Eulerd euler(angles, kOrders[place], Imath::Eulerd::XYZLayout);
-    return euler.toMatrix44();
-}
-
-Matrix shearing(const Vec3d& shear)
-{
-    Matrix matrix;
-    matrix[1][0] = shear.x;
-    matrix[2][0] = shear.y;
-    matrix[2][1] = shear.z;
-    return matrix;
 }
 
 } // namespace
