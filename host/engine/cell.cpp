@@ -140,6 +140,30 @@ void Cell::removeElement(int logicalIndex)
         m_packed->remove(logicalIndex);
 }
 
+int Cell::elementIndex(std::size_t n) const
+{
+    static const std::vector<int> none;
+    const std::vector<int>& packed = m_packed ? m_packed->indices() : none;
+    if (packed.empty() && m_goneElements == 0)
+        return m_indices[n];
+    if (m_below.size() == m_goneElements)
+        return packed[n];
+    // An element is in one of the two only: as many packed ones stand before a cell as have smaller indices.
+    std::size_t passed = 0;
+    for (std::size_t i = 0; i < m_below.size(); ++i) {
+        if (!m_below[i])
+            continue;
+        const auto before = static_cast<std::size_t>(
+            std::lower_bound(packed.begin(), packed.end(), m_indices[i]) - packed.begin());
+        if (n < passed + before)
+            break;
+        if (n == passed + before)
+            return m_indices[i];
+        ++passed;
+    }
+    return packed[n - passed];
+}
+
 void Cell::compactElements()
 {
     // Taking each out at once would move all that follow, again and again.

@@ -73,6 +73,14 @@ public:
     Cell& makeElement(int logicalIndex);
     /// Forgets an element that has no connections.
     void removeElement(int logicalIndex);
+    /// How many elements an array has, with cells or packed.
+    std::size_t elementCount() const
+    {
+        return m_below.size() - m_goneElements + (m_packed ? m_packed->indices().size() : 0);
+    }
+    /// The logical index of the n-th element in ascending order, n below elementCount(). In constant time
+    /// unless some have gone, or some have cells and others are packed.
+    int elementIndex(std::size_t n) const;
 
     // Packed elements of an array of numbers or data; null when there are none.
     const PackedElements* packed() const { return m_packed.get(); }

@@ -6,12 +6,14 @@
 #include "support/notImplemented.h"
 #include "support/plugCall.h"
 
+#include "engine/cell.h"
 #include "engine/dataBlock.h"
 
 #include <limits>
 
 using namespace tvxhost::api;
 using tvxhost::engine::Attribute;
+using tvxhost::engine::Cell;
 using tvxhost::engine::Node;
 using tvxhost::engine::Plug;
 using tvxhost::engine::PlugNameStyle;
@@ -61,7 +63,8 @@ Plug elementOf(const Plug& plug, unsigned int index)
 
 unsigned int elementCount(const Plug& array)
 {
-    return static_cast<unsigned int>(tvxhost::engine::existingElements(array).size());
+    const Cell* cell = array.node()->cells().find(array);
+    return cell ? static_cast<unsigned int>(cell->elementCount()) : 0;
 }
 
 /// True for a usable array; else what is wrong is written.
@@ -408,9 +411,9 @@ MPlug MPlug::elementByPhysicalIndex(unsigned int physicalIndex, MStatus* ReturnS
 {
     return relative(*this, "MPlug::elementByPhysicalIndex", StatusText::noElementAtIndex, ReturnStatus,
                     [&](const Plug& p) {
-                        const auto existing =
-                            p.isArray() ? tvxhost::engine::existingElements(p) : std::vector<int>();
-                        return physicalIndex < existing.size() ? p.element(existing[physicalIndex]) : Plug();
+                        if (!p.isArray() || physicalIndex >= elementCount(p))
+                            return Plug();
+                        return p.element(p.node()->cells().find(p)->elementIndex(physicalIndex));
                     });
 }
 

@@ -121,6 +121,43 @@ TEST_F(Plugs, ChildrenAreReachedByIndexAndAttribute)
     EXPECT_FALSE(status);
 }
 
+TEST_F(Plugs, ElementsAreFoundByPlaceHoweverTheyAreKept)
+{
+    MPlug list = plug("list");
+    const auto expectAllFound = [&](std::vector<unsigned int> expected) {
+        EXPECT_EQ(expected.size(), list.numElements());
+        std::vector<unsigned int> found;
+        for (unsigned int i = 0; i < list.numElements(); ++i)
+            found.push_back(list.elementByPhysicalIndex(i).logicalIndex());
+        EXPECT_EQ(expected, found);
+        EXPECT_TRUE(list.elementByPhysicalIndex(list.numElements()).isNull());
+    };
+    const auto remove = [&](int index) {
+        EXPECT_TRUE(tvxhost::engine::removeElement(tvxAccess::plug(list), index));
+    };
+    for (const unsigned int index : {1u, 4u, 9u, 12u})
+        EXPECT_TRUE(list.elementByLogicalIndex(index).setValue(1.0));
+    expectAllFound({1, 4, 9, 12});
+    // Connected elements are kept in another way than those that are set.
+    for (const unsigned int index : {0u, 5u, 6u, 20u})
+        connect(plug("ratio"), list.elementByLogicalIndex(index));
+    expectAllFound({0, 1, 4, 5, 6, 9, 12, 20});
+    remove(5);
+    expectAllFound({0, 1, 4, 6, 9, 12, 20});
+    for (const int index : {1, 4, 9, 12})
+        remove(index);
+    expectAllFound({0, 6, 20});
+    remove(6);
+    remove(0);
+    expectAllFound({20});
+    EXPECT_TRUE(list.elementByLogicalIndex(3).setValue(1.0));
+    expectAllFound({3, 20});
+    remove(20);
+    expectAllFound({3});
+    remove(3);
+    expectAllFound({});
+}
+
 TEST_F(Plugs, ElementsAreCountedOnceSetAndComeInAscendingOrder)
 {
     MPlug list = plug("list");
