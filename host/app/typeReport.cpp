@@ -52,7 +52,7 @@ constexpr Limit kLimits[] = {
     {"softMaximum", &Attribute::softMaximum},
 };
 
-// ---- What a type declares
+// What a type declares
 
 std::vector<std::string> ancestorsOf(const NodeType& type)
 {
@@ -87,7 +87,7 @@ std::vector<std::string> affectedNames(const NodeType& type, const Attribute& at
     return names;
 }
 
-// ---- Values
+// Values
 
 /// A number of an attribute in the user's units, without the noise of its last digits.
 std::string numberText(const Attribute& attribute, double internal, const engine::Units& units)
@@ -127,7 +127,7 @@ std::string joined(const std::vector<std::string>& words, const char* separator)
     return text;
 }
 
-// ---- Text
+// Text
 
 using Row = std::array<std::string, 7>;
 
@@ -212,7 +212,7 @@ std::string legend()
     return text + "\n";
 }
 
-// ---- JSON
+// JSON
 
 ordered_json numberJson(const std::string& text)
 {

@@ -68,7 +68,6 @@ Plug topPlug(const Plug& plug)
 }
 
 // DAG nodes
-// ------------------------------------------------------------------------------------------------------
 
 using PathMatrix = Matrix (*)(DagNode& node, std::size_t instance);
 
@@ -178,7 +177,6 @@ Computed computeMesh(Node& base, const Plug& plug)
 }
 
 // Conversions
-// --------------------------------------------------------------------------------------------------
 
 /// Numbers, one or a few, times a factor.
 Computed computeConversion(Node& node, const Plug& plug, double ticksFactor)

@@ -165,7 +165,6 @@ Ref<Data> numericDataOf(const Plug& plug)
 } // namespace
 
 // Reading
-// -------------------------------------------------------------------------------------------------------
 
 Expected<Number> readNumber(const Plug& plug)
 {
@@ -235,7 +234,6 @@ Expected<Ref<Data>> readData(const Plug& plug)
 }
 
 // Writing
-// -------------------------------------------------------------------------------------------------------
 
 void storeInternal(const Plug& plug, const Number& value)
 {
@@ -360,7 +358,6 @@ Outcome writeData(const Plug& plug, const Data& data)
 }
 
 // Elements
-// ------------------------------------------------------------------------------------------------------
 
 std::vector<int> existingElements(const Plug& arrayPlug)
 {
@@ -412,7 +409,6 @@ Outcome removeElement(const Plug& arrayPlug, int logicalIndex)
 }
 
 // States
-// --------------------------------------------------------------------------------------------------------
 
 PlugState stateOf(const Plug& plug)
 {

@@ -25,7 +25,7 @@ struct Position
     int column = 1;
 };
 
-// ---- Expressions
+// Expressions
 
 enum class Operator
 {
@@ -164,7 +164,7 @@ struct Expression
         node;
 };
 
-// ---- Statements
+// Statements
 
 struct ExpressionStatement
 {

@@ -109,7 +109,7 @@ void AstBuilder::requireVariable(const Expression& target, const SyntaxNode& whe
     }
 }
 
-// ---- Expressions
+// Expressions
 
 /// Groups a flat list of operands and operators by precedence.
 class AstBuilder::OperatorChain
@@ -338,7 +338,7 @@ CommandArgument AstBuilder::argument(const SyntaxNode& node) const
     }
 }
 
-// ---- Statements
+// Statements
 
 Statements AstBuilder::statements(const SyntaxNode& parent) const
 {

@@ -8,7 +8,7 @@ namespace tvxhost::mel::grammar {
 
 using namespace tao::pegtl;
 
-// ---- White space and comments
+// White space and comments
 
 struct comment_end : string<'*', '/'>
 {
@@ -29,7 +29,7 @@ struct byte_order_mark : string<'\xef', '\xbb', '\xbf'>
 {
 };
 
-// ---- Words
+// Words
 
 struct type_word : sor<TAO_PEGTL_KEYWORD("int"), TAO_PEGTL_KEYWORD("float"), TAO_PEGTL_KEYWORD("string"),
                        TAO_PEGTL_KEYWORD("vector"), TAO_PEGTL_KEYWORD("matrix")>
@@ -105,7 +105,7 @@ struct variable_name : seq<one<'$'>, identifier>
 {
 };
 
-// ---- Literals
+// Literals
 
 struct exponent : seq<one<'e', 'E'>, opt<one<'+', '-'>>, plus<digit>>
 {
@@ -137,7 +137,7 @@ struct string_literal : seq<one<'"'>, string_text, must<string_end>>
 {
 };
 
-// ---- Expressions
+// Expressions
 
 struct expression;
 struct operand;
@@ -231,7 +231,7 @@ struct expression : seq<operand, star<ws, binary_operator, must<ws, operand>>,
 {
 };
 
-// ---- Commands
+// Commands
 
 struct sign : opt<one<'+', '-'>>
 {
@@ -279,7 +279,7 @@ struct captured_invocation : invocation_of<plain_or_enclosed>
 {
 };
 
-// ---- Statements
+// Statements
 
 struct statement;
 struct statement_end : seq<ws, sor<one<';'>, eof>>
@@ -415,7 +415,7 @@ struct next_statement : seq<ws, sor<eof, must<statement>>>
 {
 };
 
-// ---- The light path: statements of tokens only
+// The light path: statements of tokens only
 
 struct plain_string : seq<one<'"'>, string_text, string_end>
 {

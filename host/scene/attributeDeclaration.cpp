@@ -74,7 +74,7 @@ Outcome failed(std::string text)
     return {Reason::failed, std::move(text)};
 }
 
-// ---- Flags to an attribute
+// Flags to an attribute
 
 /// "red:green=5:blue": names with or without their value, each one more than the one before.
 Expected<std::vector<engine::EnumField>> parseFields(const std::string& text)
@@ -171,7 +171,7 @@ void applySwitches(const mel::ParsedCommand& flags, Attribute& attribute)
         attribute.flags.readable = false;
 }
 
-// ---- An attribute to its line
+// An attribute to its line
 
 const char* truth(bool value)
 {

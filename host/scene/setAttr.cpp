@@ -21,7 +21,7 @@ using engine::Reason;
 
 namespace {
 
-// ---- Taking a statement apart
+// Taking a statement apart
 
 using FlagTarget = std::optional<bool> SetAttrRequest::*;
 
@@ -92,7 +92,7 @@ const mel::Argument* takeFlag(const mel::Argument* flag, const mel::Argument* en
     return flag + 2;
 }
 
-// ---- Storing numbers
+// Storing numbers
 
 /// The numbers of a statement in internal units, one group per element after the other.
 class NumberStream
@@ -223,7 +223,7 @@ bool isSparse(const PlugTarget& target)
     return first && first.value.isArray() && numberLeaves(*first.value.attribute()).size() == 1;
 }
 
-// ---- Storing data
+// Storing data
 
 /// Whether a statement gives faces: it says so, or it goes on with a list whose first statement did.
 bool givesFaces(const PlugTarget& target, const SetAttrRequest& request)
@@ -278,7 +278,7 @@ Outcome storeValues(const PlugTarget& target, const SetAttrRequest& request, con
     return {stored.reason, stored ? std::string() : refusedWriteMessage(target.plug, stored, rules.units)};
 }
 
-// ---- State
+// State
 
 void changeState(const Plug& plug, const SetAttrRequest& request)
 {

@@ -16,7 +16,7 @@ using engine::SelectionItem;
 
 namespace {
 
-// ---- addAttr, deleteAttr
+// addAttr, deleteAttr
 
 /// `addAttr -q`: what a declaration says.
 Value queryDeclaration(CommandContext& context, const ParsedCommand& call)
@@ -133,7 +133,7 @@ Value deleteAttr(CommandContext& context, const ParsedCommand& call)
     return {};
 }
 
-// ---- attributeQuery
+// attributeQuery
 
 Value::Strings childNames(const Attribute& attribute)
 {
@@ -289,7 +289,7 @@ CommandSpec attributeQueryCommand()
                        attributeQuery);
 }
 
-// ---- listAttr, aliasAttr
+// listAttr, aliasAttr
 
 bool isListed(const engine::Plug& plug, const ParsedCommand& call)
 {

@@ -20,7 +20,7 @@ using engine::Plug;
 
 namespace {
 
-// ---- setAttr
+// setAttr
 
 Value setAttr(CommandContext& context, const ArgumentList& arguments)
 {
@@ -78,7 +78,7 @@ CommandSpec setAttrSpec()
     return spec;
 }
 
-// ---- getAttr
+// getAttr
 
 bool isWhole(NumberKind kind)
 {

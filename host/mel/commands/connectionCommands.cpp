@@ -104,7 +104,7 @@ Value connectionInfo(CommandContext& context, const ParsedCommand& call)
     return Value(std::move(list));
 }
 
-// ---- listConnections
+// listConnections
 
 bool isOfType(const Node& node, const ParsedCommand& call)
 {

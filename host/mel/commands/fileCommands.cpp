@@ -16,7 +16,7 @@ namespace {
 
 constexpr const char* kUnsaved = "Unsaved changes";
 
-// ---- file
+// file
 
 void checkRead(CommandContext& context, const scene::ReadResult& result)
 {
@@ -176,7 +176,7 @@ CommandSpec fileCommand()
                        names(0, 1), file, kQuery);
 }
 
-// ---- requires, fileInfo
+// requires, fileInfo
 
 Value requiresPlugin(CommandContext& context, const ParsedCommand& call)
 {

@@ -268,7 +268,7 @@ CommandSpec elementCommand(const ElementKind& kind)
         kAllModes);
 }
 
-// ---- setParent, showWindow, deleteUI
+// setParent, showWindow, deleteUI
 
 Value setParent(CommandContext& context, const ParsedCommand& call)
 {

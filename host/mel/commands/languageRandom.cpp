@@ -89,7 +89,7 @@ Value sphrand(Generator& generator, const Arguments& arguments)
     return generator.onUnitSphere() * std::cbrt(generator.uniform()) * axes;
 }
 
-// ---- Gradient noise
+// Gradient noise
 
 constexpr int kTableSize = 256;
 

@@ -18,7 +18,7 @@ namespace {
 
 using A = ArgumentType;
 
-// ---- making them
+// making them
 
 Vec3d pointOf(const CommandContext& context, const FlagUse& use)
 {
@@ -126,7 +126,7 @@ Value create(CommandContext& context, const ParsedCommand& call)
     return Value(Value::Strings{scene.shortestName(above), scene.shortestName(shape)});
 }
 
-// ---- asking about them and changing them
+// asking about them and changing them
 
 /// The particle shape of a name, or below the transform of that name; of what is selected without one.
 DagNode& shapeOf(CommandContext& context, const ParsedCommand& call)

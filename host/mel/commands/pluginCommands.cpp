@@ -51,7 +51,7 @@ Value unloadPlugin(CommandContext& context, const ParsedCommand& call)
     return Value(std::move(unloaded));
 }
 
-// ---- pluginInfo
+// pluginInfo
 
 struct PluginQuestion
 {

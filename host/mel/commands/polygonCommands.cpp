@@ -284,7 +284,7 @@ CommandSpec specOf(const Primitive& primitive)
         kAllModes);
 }
 
-// ---- polyEvaluate
+// polyEvaluate
 
 /// What is counted of a mesh.
 struct Measure

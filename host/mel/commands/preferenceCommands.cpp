@@ -13,7 +13,7 @@ using engine::OptionVars;
 
 namespace {
 
-// ---- optionVar
+// optionVar
 
 Value toValue(const OptionValue& value)
 {
@@ -180,7 +180,7 @@ Value savePrefs(CommandContext& context, const ParsedCommand&)
     return Value(1);
 }
 
-// ---- about, internalVar
+// about, internalVar
 
 struct Fact
 {

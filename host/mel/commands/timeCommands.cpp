@@ -52,7 +52,7 @@ Value currentUnit(CommandContext& context, const ParsedCommand& call)
     return {};
 }
 
-// ---- playbackOptions
+// playbackOptions
 
 using engine::Playback;
 

@@ -71,7 +71,7 @@ MVector rowOf(const MMatrix& matrix, unsigned row)
     return MVector(matrix.matrix[row]);
 }
 
-// ---- move
+// move
 
 /// The point that an absolute move puts in its place, in the world.
 MVector movedPoint(const ParsedCommand& call, const Transformation& parts, const Parents& parents)
@@ -124,7 +124,7 @@ Value move(CommandContext& context, const ParsedCommand& call)
     return {};
 }
 
-// ---- rotate, scale
+// rotate, scale
 
 /// Has the parts changed in such a way that the point of -pivot stays where it is in the world.
 void changeAboutPivot(const CommandContext& context, const ParsedCommand& call, const DagPath& path,

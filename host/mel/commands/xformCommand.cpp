@@ -330,7 +330,7 @@ CommandSpec xformCommand()
                        kQuery);
 }
 
-// ---- makeIdentity
+// makeIdentity
 
 Value makeIdentity(CommandContext& context, const ParsedCommand& call)
 {
