@@ -232,23 +232,23 @@ void freeIndex(benchmark::State& state)
             benchmark::DoNotOptimize(MayaUtils::findFreeIndex(MObject::kNullObj, attribute, first.typeId()));
 }
 
+/// Two arrays, each element of the one connected to that of the other.
 template <int count>
 void fillConnected(BenchScene& scene)
 {
-    scene.make("transform", "source");
-    engine::Node& sum = scene.make("plusMinusAverage", "sum");
+    scene.make("plusMinusAverage", "first");
+    scene.make("plusMinusAverage", "second");
     engine::Scene& current = scene.use();
-    const auto source = current.findPlug("source.translateX");
-    const auto array = current.findPlug("sum.input1D");
-    static_cast<void>(sum);
+    const auto from = current.findPlug("first.input1D");
+    const auto to = current.findPlug("second.input1D");
     for (int i = 0; i < count; ++i)
-        scene.require(current.connect(source.value, array.value.element(i)));
+        scene.require(current.connect(from.value.element(i), to.value.element(i)));
 }
 
 template <int count, int times>
 void disconnectAll(benchmark::State& state)
 {
-    const MObject node = sceneOf<fillConnected<count>>().object("sum");
+    const MObject node = sceneOf<fillConnected<count>>().object("second");
     for (auto _ : state)
         for (int i = 0; i < times; ++i) {
             MDGModifier modifier;
@@ -260,7 +260,7 @@ void disconnectAll(benchmark::State& state)
 template <int count, int times>
 void collectSources(benchmark::State& state)
 {
-    const MObject node = sceneOf<fillConnected<count>>().object("sum");
+    const MObject node = sceneOf<fillConnected<count>>().object("second");
     const MObject attribute = MFnDependencyNode(node, nullptr).attribute("input1D");
     for (auto _ : state)
         for (int i = 0; i < times; ++i) {
@@ -273,8 +273,8 @@ void collectSources(benchmark::State& state)
 template <int count, int times>
 void collectDestinations(benchmark::State& state)
 {
-    const MObject node = sceneOf<fillConnected<count>>().object("source");
-    const MObject attribute = MFnDependencyNode(node, nullptr).attribute("translateX");
+    const MObject node = sceneOf<fillConnected<count>>().object("first");
+    const MObject attribute = MFnDependencyNode(node, nullptr).attribute("input1D");
     for (auto _ : state)
         for (int i = 0; i < times; ++i) {
             std::vector<MObject> nodes;
@@ -325,10 +325,10 @@ std::vector<Row> utilsRows()
             freeIndex<kSmall, kTimes>, true),
         row("disconnecting", "disconnecting, a million connections", small, 1.6, disconnectAll<kLarge, 1>,
             disconnectAll<kSmall, kTimes>, true),
-        row("sources", "connected sources, a million", small, 1.6, collectSources<kLarge, 1>,
+        row("sources", "connected sources of a million elements", small, 1.6, collectSources<kLarge, 1>,
             collectSources<kSmall, kTimes>, true),
-        row("destinations", "connected destinations, a million", small, 1.6, collectDestinations<kLarge, 1>,
-            collectDestinations<kSmall, kTimes>, true),
+        row("destinations", "connected destinations of a million elements", small, 1.6,
+            collectDestinations<kLarge, 1>, collectDestinations<kSmall, kTimes>, true),
     };
 }
 

@@ -7,6 +7,7 @@
 #include <maya/MPlug.h>
 #include <maya/MPlugArray.h>
 
+#include <algorithm>
 #include <ostream>
 
 namespace tarvox::crowd {
@@ -56,6 +57,10 @@ void collectPartners(const MPlug& plug, Side side, std::vector<MObject>& nodes)
 {
     MPlugArray partners;
     plug.connectedTo(partners, side == Side::sources, side == Side::destinations);
+    // Room for all at once, and never less than a vector takes by itself.
+    const std::size_t needed = nodes.size() + partners.length();
+    if (needed > nodes.capacity())
+        nodes.reserve(std::max(needed, 2 * nodes.capacity()));
     for (unsigned int i = 0; i < partners.length(); ++i)
         nodes.push_back(partners[i].node());
 }
