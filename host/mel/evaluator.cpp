@@ -230,9 +230,10 @@ Flow Evaluator::operator()(const ast::Continue&)
 Flow Evaluator::operator()(const ast::Return& node)
 {
     if (node.value) {
-        m_returned = evaluate(*node.value);
-        if (m_procedure != nullptr && m_procedure->result != Type::none) {
-            m_returned = m_returned.to(m_procedure->result);
+        const Type type = m_procedure != nullptr ? m_procedure->result : Type::none;
+        m_returned = valueFor(type, *node.value);
+        if (type != Type::none) {
+            m_returned = m_returned.to(type);
         }
     }
     return Flow::leaveProcedure;
@@ -244,7 +245,7 @@ Flow Evaluator::operator()(const ast::ProcedureDefinition& node)
     return Flow::next;
 }
 
-// ---- Declarations
+// Declarations
 
 std::shared_ptr<Variable> Evaluator::find(std::string_view name)
 {
@@ -300,7 +301,7 @@ void Evaluator::declareOne(const ast::Declaration& declaration,
     const bool isMatrix = declaration.type == Type::matrix;
     const Type type = declarator.isArray && !isMatrix ? arrayOf(declaration.type) : declaration.type;
     // The initial value is evaluated first: it may name an outer variable that the new one will hide.
-    Value initial = declarator.initial ? evaluate(*declarator.initial) : Value();
+    Value initial = declarator.initial ? valueFor(type, *declarator.initial) : Value();
     bool isNew = false;
     const std::shared_ptr<Variable> variable = declared(declarator.name, type, declaration.isGlobal, isNew);
     if (isNew && declarator.isArray) {

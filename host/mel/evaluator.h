@@ -80,6 +80,12 @@ private:
 
     Place place(ast::Position at) const { return {m_file, at.line}; }
     bool condition(const ast::ExpressionPtr& expression);
+    /// The value of an expression for a variable or a result of a type: the type's neutral value when a
+    /// command had nothing to give.
+    Value valueFor(Type type, const ast::Expression& expression);
+    /// Whether `value` is the missing result of a command. That of a procedure without a type is a mistake of
+    /// the script instead.
+    bool isMissing(const Value& value, const ast::Expression& expression) const;
     Flow runBlock(const ast::Statements& statements);
     /// One round of a loop; false when the loop ends. `flow` becomes what the loop as a whole does.
     bool round(const ast::Statement& body, Flow& flow);

@@ -85,6 +85,28 @@ Value Evaluator::evaluate(const ast::Expression& expression)
     }
 }
 
+Value Evaluator::valueFor(Type type, const ast::Expression& expression)
+{
+    Value value = evaluate(expression);
+    return isMissing(value, expression) ? Value::neutral(type) : value;
+}
+
+bool Evaluator::isMissing(const Value& value, const ast::Expression& expression) const
+{
+    if (!value.isNone()) {
+        return false;
+    }
+    const auto* capture = std::get_if<ast::Capture>(&expression.node);
+    const ast::Expression& call = capture != nullptr ? *capture->call : expression;
+    const auto* function = std::get_if<ast::FunctionCall>(&call.node);
+    const auto* command = std::get_if<ast::Command>(&call.node);
+    if (function == nullptr && command == nullptr) {
+        return false;
+    }
+    const std::string& name = function != nullptr ? function->name : command->name;
+    return m_interpreter.definedProcedure(name, m_locals) == nullptr;
+}
+
 Value Evaluator::operator()(const ast::Literal& node)
 {
     return node.value;
@@ -146,6 +168,8 @@ Value Evaluator::operator()(const ast::Assignment& node)
     Value value = evaluate(*node.value);
     if (node.op) {
         value = applied(*node.op, read(target), value);
+    } else if (isMissing(value, *node.value)) {
+        value = Value::neutral(read(target).type());
     }
     write(target, value);
     return read(target);
@@ -256,7 +280,7 @@ Value Evaluator::operator()(const ast::Catch& node)
     }
 }
 
-// ---- Variables
+// Variables
 
 std::size_t Evaluator::index(const ast::ExpressionPtr& expression)
 {

@@ -11,14 +11,14 @@ using namespace tvxhost::test;
 
 const char* const kContract = R"(CrowdRenderManagerNode: crowdRenderManagerNodeShape
 CrowdProxyVRay: crowdProxyVRayShape
-  sceneName (scn, string): (none) -> "plaza"
-  vrsceneFileDir (vfd, string): (none) -> "/shots/plaza/vrscene"
-  pythonCallback (pyc, string): (none) -> "crowd.onTranslate"
+  sceneName (scn, string): "" -> "plaza"
+  vrsceneFileDir (vfd, string): "" -> "/shots/plaza/vrscene"
+  pythonCallback (pyc, string): "" -> "crowd.onTranslate"
 CrowdProxyRendermanStudio: crowdProxyRMSShape
-  sceneName (scn, string): (none) -> "plaza"
+  sceneName (scn, string): "" -> "plaza"
   frame (cfr, long): 0 -> -101
   frameRate (fr, double): 0 -> 23.976
-  ribFileDir (rfd, string): (none) -> "C:\\shots\\plaza\\rib"
+  ribFileDir (rfd, string): "" -> "C:\\shots\\plaza\\rib"
 CrowdSwitchShaderVRay: CrowdSwitchShaderVRay1
   output (op, float3): 1 0.45 0
   output (op, float3): 1 0.45 0, set to 0 0 0: refused
@@ -55,11 +55,11 @@ CrowdGetUserDataVRay: CrowdGetUserDataVRay1
   default (df, double): 0 -> 12.5
   output (op, double): 0
 CrowdSwitchShader3Delight: CrowdSwitchShader3Delight1
-  shadingParameters (sp, string): (none) -> "float fallback = 0;"
-  shadingCode (sc, string): (none) -> "float clothes = fallback;\nattribute(\"user:clothes\", clothes);"
+  shadingParameters (sp, string): "" -> "float fallback = 0;"
+  shadingCode (sc, string): "" -> "float clothes = fallback;\nattribute(\"user:clothes\", clothes);"
 CrowdGetUserData3Delight: CrowdGetUserData3Delight1
-  shadingParameters (sp, string): (none) -> "float fallback = 0;"
-  shadingCode (sc, string): (none) -> "float clothes = fallback;\nattribute(\"user:clothes\", clothes);"
+  shadingParameters (sp, string): "" -> "float fallback = 0;"
+  shadingCode (sc, string): "" -> "float clothes = fallback;\nattribute(\"user:clothes\", clothes);"
 )";
 
 TEST(ContractExample, SetsAndReadsEveryAttributeOfEveryType)
@@ -146,7 +146,8 @@ TEST(ContractExample, IsSavedAsMayaWouldSaveIt)
 
     using testing::ElementsAre;
     EXPECT_THAT(savedLines(saved, "crowdProxyVRayShape"),
-                ElementsAre("\tsetAttr -l on \".scn\" -type \"string\" \"plaza\";",
+                ElementsAre("\tsetAttr -k off \".v\";",
+                            "\tsetAttr -l on \".scn\" -type \"string\" \"plaza\";",
                             "\tsetAttr \".vfd\" -type \"string\" \"/shots/plaza/vrscene\";",
                             "\tsetAttr \".pyc\" -type \"string\" \"crowd.onTranslate\";"));
     EXPECT_THAT(savedLines(saved, "CrowdHSLShaderVRay1"),

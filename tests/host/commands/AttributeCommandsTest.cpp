@@ -123,6 +123,16 @@ TEST_F(AttributeCommandsTest, stringsAndArraysHaveTheirTypes)
     EXPECT_EQ(run("getAttr -type n.v"), "bool");
 }
 
+TEST_F(AttributeCommandsTest, aStringThatWasNeverSetLeavesAVariableEmpty)
+{
+    run("addAttr -ln \"note\" -dt \"string\" n");
+    EXPECT_EQ(run("string $s = `getAttr n.note`; size($s)"), "0");
+    EXPECT_EQ(run("string $s = \"old\"; $s = `getAttr n.note`; \"<\" + $s + \">\""), "<>");
+    EXPECT_EQ(run("string $list[] = {\"old\"}; $list[0] = getAttr(\"n.note\"); \"<\" + $list[0] + \">\""),
+              "<>");
+    EXPECT_EQ(run("proc string note() { return `getAttr n.note`; } \"<\" + note() + \">\""), "<>");
+}
+
 TEST_F(AttributeCommandsTest, enumsAnswerNumbersAndFields)
 {
     run("addAttr -ln \"mode\" -at \"enum\" -en \"off:on low=5:high\" n; setAttr n.mode 5");
