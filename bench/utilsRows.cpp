@@ -176,14 +176,13 @@ void fillInstances(BenchScene& scene)
 }
 
 /// Gathers the meshes below the group again and again; to forget them is not measured.
-template <void (*fill)(BenchScene&), void (*collect)(const MDagPath&, std::list<MDagPath>&), int times = 1>
+template <void (*fill)(BenchScene&), void (*collect)(const MDagPath&, std::list<MDagPath>&)>
 void meshPathsBy(benchmark::State& state)
 {
     const MDagPath group = sceneOf<fill>().path("group");
     for (auto _ : state) {
         std::list<MDagPath> meshes;
-        for (int i = 0; i < times; ++i)
-            collect(group, meshes);
+        collect(group, meshes);
         benchmark::DoNotOptimize(meshes.size());
         state.PauseTiming();
         meshes.clear();
@@ -191,10 +190,10 @@ void meshPathsBy(benchmark::State& state)
     }
 }
 
-template <void (*fill)(BenchScene&), int times = 1>
+template <void (*fill)(BenchScene&)>
 void meshPaths(benchmark::State& state)
 {
-    meshPathsBy<fill, MayaUtils::collectMeshPaths, times>(state);
+    meshPathsBy<fill, MayaUtils::collectMeshPaths>(state);
 }
 
 template <void (*fill)(BenchScene&)>
@@ -203,33 +202,82 @@ void meshPathsByTheRule(benchmark::State& state)
     meshPathsBy<fill, tarvox::crowd::test::collectLiterally>(state);
 }
 
-// What is done to a small scene as often as the large one is larger.
+// One large scene, and as many small ones as together hold as much: what differs is the size of a scene, and
+// not how much of it is in the processor's caches.
 constexpr int kSmall = 1000;
 constexpr int kLarge = 1'000'000;
-constexpr int kTimes = kLarge / kSmall;
+constexpr int kSmallScenes = kLarge / kSmall;
 
-template <int count, int times>
-void nodesByType(benchmark::State& state)
+using Scenes = std::vector<std::unique_ptr<BenchScene>>;
+
+/// So many scenes that a function fills, made when they are first asked for; they live as long as the
+/// process.
+template <void (*fill)(BenchScene&), int count>
+Scenes& scenesOf()
 {
-    BenchScene& scene = sceneOf<fillWide<count>>();
-    const MTypeId type = MFnDependencyNode(scene.object("m0"), nullptr).typeId();
+    static Scenes* const scenes = [] {
+        auto made = std::make_unique<Scenes>();
+        for (int i = 0; i < count; ++i) {
+            made->push_back(std::make_unique<BenchScene>());
+            made->back()->use();
+            fill(*made->back());
+        }
+        return made.release();
+    }();
+    return *scenes;
+}
+
+/// Times `run` on every scene, with what `prepare` made of it.
+template <void (*fill)(BenchScene&), int count, class Prepare, class Run>
+void onScenes(benchmark::State& state, Prepare prepare, Run run)
+{
+    Scenes& scenes = scenesOf<fill, count>();
+    std::vector<decltype(prepare(*scenes.front()))> inputs;
+    for (const auto& scene : scenes) {
+        scene->use();
+        inputs.push_back(prepare(*scene));
+    }
     for (auto _ : state)
-        for (int i = 0; i < times; ++i) {
-            std::vector<MObject> nodes;
-            MayaUtils::findNodesByTypeId(nodes, type, MFn::kTransform);
-            benchmark::DoNotOptimize(nodes.data());
+        for (std::size_t i = 0; i < scenes.size(); ++i) {
+            scenes[i]->use();
+            run(inputs[i]);
         }
 }
 
-template <int count, int times>
+template <int nodes, int scenes>
+void meshPathsOf(benchmark::State& state)
+{
+    std::list<MDagPath> meshes;
+    onScenes<fillWide<nodes>, scenes>(
+        state, [](BenchScene& scene) { return scene.path("group"); },
+        [&](const MDagPath& group) {
+            meshes.clear();
+            MayaUtils::collectMeshPaths(group, meshes);
+        });
+}
+
+template <int nodes, int scenes>
+void nodesByType(benchmark::State& state)
+{
+    onScenes<fillWide<nodes>, scenes>(
+        state, [](BenchScene& scene) { return MFnDependencyNode(scene.object("m0"), nullptr).typeId(); },
+        [](const MTypeId& type) {
+            std::vector<MObject> found;
+            MayaUtils::findNodesByTypeId(found, type, MFn::kTransform);
+            benchmark::DoNotOptimize(found.data());
+        });
+}
+
+template <int nodes, int scenes>
 void freeIndex(benchmark::State& state)
 {
-    BenchScene& scene = sceneOf<fillWide<count>>();
-    const MFnDependencyNode first(scene.object("m0"), nullptr);
-    const MObject attribute = first.attribute("rotateOrder");
-    for (auto _ : state)
-        for (int i = 0; i < times; ++i)
-            benchmark::DoNotOptimize(MayaUtils::findFreeIndex(MObject::kNullObj, attribute, first.typeId()));
+    onScenes<fillWide<nodes>, scenes>(
+        state, [](BenchScene& scene) { return scene.object("m0"); },
+        [](const MObject& node) {
+            const MFnDependencyNode function(node, nullptr);
+            benchmark::DoNotOptimize(MayaUtils::findFreeIndex(
+                MObject::kNullObj, function.attribute("rotateOrder"), function.typeId()));
+        });
 }
 
 /// Two arrays, each element of the one connected to that of the other.
@@ -245,42 +293,42 @@ void fillConnected(BenchScene& scene)
         scene.require(current.connect(from.value.element(i), to.value.element(i)));
 }
 
-template <int count, int times>
+template <int connections, int scenes>
 void disconnectAll(benchmark::State& state)
 {
-    const MObject node = sceneOf<fillConnected<count>>().object("second");
-    for (auto _ : state)
-        for (int i = 0; i < times; ++i) {
+    onScenes<fillConnected<connections>, scenes>(
+        state, [](BenchScene& scene) { return scene.object("second"); },
+        [&](const MObject& node) {
             MDGModifier modifier;
             if (!MayaUtils::disconnectAllConnections(node, modifier))
                 state.SkipWithError("a connection could not be queued");
-        }
+        });
 }
 
-template <int count, int times>
+using Collector = void (*)(const MObject&, const MObject&, std::vector<MObject>&, MStatus*);
+
+template <int connections, int scenes>
+void collectBy(benchmark::State& state, const char* array, Collector collector)
+{
+    onScenes<fillConnected<connections>, scenes>(
+        state, [&](BenchScene& scene) { return scene.object(array); },
+        [&](const MObject& node) {
+            std::vector<MObject> found;
+            collector(node, MFnDependencyNode(node, nullptr).attribute("input1D"), found, nullptr);
+            benchmark::DoNotOptimize(found.data());
+        });
+}
+
+template <int connections, int scenes>
 void collectSources(benchmark::State& state)
 {
-    const MObject node = sceneOf<fillConnected<count>>().object("second");
-    const MObject attribute = MFnDependencyNode(node, nullptr).attribute("input1D");
-    for (auto _ : state)
-        for (int i = 0; i < times; ++i) {
-            std::vector<MObject> nodes;
-            MayaUtils::collectConnectedSources(node, attribute, nodes, nullptr);
-            benchmark::DoNotOptimize(nodes.data());
-        }
+    collectBy<connections, scenes>(state, "second", &MayaUtils::collectConnectedSources);
 }
 
-template <int count, int times>
+template <int connections, int scenes>
 void collectDestinations(benchmark::State& state)
 {
-    const MObject node = sceneOf<fillConnected<count>>().object("first");
-    const MObject attribute = MFnDependencyNode(node, nullptr).attribute("input1D");
-    for (auto _ : state)
-        for (int i = 0; i < times; ++i) {
-            std::vector<MObject> nodes;
-            MayaUtils::collectConnectedDestinations(node, attribute, nodes, nullptr);
-            benchmark::DoNotOptimize(nodes.data());
-        }
+    collectBy<connections, scenes>(state, "first", &MayaUtils::collectConnectedDestinations);
 }
 
 using Benchmark = void (*)(benchmark::State&);
@@ -305,7 +353,7 @@ Row row(const std::string& name, const std::string& what, const std::string& bes
 std::vector<Row> utilsRows()
 {
     const std::string rule = "the rule as written";
-    const std::string small = "the same for a thousand, a thousand times";
+    const std::string small = "a thousand scenes of a thousand";
     return {
         row("accessor", "an accessor without a look-up (64 of them)", "the bare plug", 1.05, accessor,
             barePlug, false),
@@ -317,18 +365,18 @@ std::vector<Row> utilsRows()
             meshPathsByTheRule<fillChain>, false),
         row("mesh_paths_shared", "mesh paths, one shape under 1,000 transforms", rule, 0.006,
             meshPaths<fillInstances>, meshPathsByTheRule<fillInstances>, true),
-        row("mesh_paths_large", "mesh paths, a million", small, 1.6, meshPaths<fillWide<kLarge>>,
-            meshPaths<fillWide<kSmall>, kTimes>, true),
+        row("mesh_paths_large", "mesh paths, a million", small, 1.6, meshPathsOf<kLarge, 1>,
+            meshPathsOf<kSmall, kSmallScenes>, true),
         row("nodes_by_type", "nodes by type, a million", small, 1.6, nodesByType<kLarge, 1>,
-            nodesByType<kSmall, kTimes>, true),
+            nodesByType<kSmall, kSmallScenes>, true),
         row("free_index", "free index, a million nodes", small, 1.6, freeIndex<kLarge, 1>,
-            freeIndex<kSmall, kTimes>, true),
+            freeIndex<kSmall, kSmallScenes>, true),
         row("disconnecting", "disconnecting, a million connections", small, 1.6, disconnectAll<kLarge, 1>,
-            disconnectAll<kSmall, kTimes>, true),
+            disconnectAll<kSmall, kSmallScenes>, true),
         row("sources", "connected sources of a million elements", small, 1.6, collectSources<kLarge, 1>,
-            collectSources<kSmall, kTimes>, true),
+            collectSources<kSmall, kSmallScenes>, true),
         row("destinations", "connected destinations of a million elements", small, 1.6,
-            collectDestinations<kLarge, 1>, collectDestinations<kSmall, kTimes>, true),
+            collectDestinations<kLarge, 1>, collectDestinations<kSmall, kSmallScenes>, true),
     };
 }
 
