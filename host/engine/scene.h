@@ -86,7 +86,7 @@ public:
     Units& units() { return m_units; }
 
     // Nodes
-    // ----------------------------------------------------------------------------------------------------
+
     /// Makes a node. DAG types: `parent` null for a shape makes a transform above it (named by Maya's rule),
     /// for a transform puts it under the world. A wish for a name is made unique; empty: the type's name with
     /// a number. Returns the node of the type asked for. The name is fixed before postConstructor runs when
@@ -115,7 +115,7 @@ public:
     std::size_t nodeCount() const { return m_nodes.size(); }
 
     // Names
-    // ----------------------------------------------------------------------------------------------------
+
     /// By name, partial or full path ("|a|b", "a|b", "ns:a", ":time1"). doesNotExist or ambiguous otherwise.
     Expected<Node*> findNode(const std::string& name) const;
     /// The same as a selection item, with plugs ("a.tx", "b.vtx[0:3]") and the path that was named.
@@ -129,7 +129,7 @@ public:
     std::size_t countPathsEndingIn(const std::vector<DagNode*>& ending) const;
 
     // Namespaces
-    // -----------------------------------------------------------------------------------------------
+
     const std::string& currentNamespace() const { return m_namespace; }
     Outcome setCurrentNamespace(const std::string& name);
     Outcome addNamespace(const std::string& name);
@@ -137,7 +137,7 @@ public:
     std::vector<std::string> namespaces() const;
 
     // Connections
-    // ----------------------------------------------------------------------------------------------
+
     /// Connects; conversion between numeric kinds is done when values flow. Angle, distance or time meeting a
     /// plain number is converted to UI units by a unitConversion node that is made in between.
     Outcome connect(const Plug& source, const Plug& destination, bool force = false);
@@ -146,7 +146,7 @@ public:
     Plug nextAvailable(const Plug& arrayPlug) const;
 
     // DAG
-    // ------------------------------------------------------------------------------------------------------
+
     DagNode& world() { return *m_world; }
     /// Adds `child` under `parent` as a further instance.
     Outcome addParent(DagNode& child, DagNode& parent);
@@ -156,7 +156,7 @@ public:
     Outcome reparent(DagNode& child, DagNode* from, DagNode* to);
 
     // Selection, time
-    // --------------------------------------------------------------------------------------------
+
     const SelectionList& selection() const { return m_selection; }
     void setSelection(SelectionList selection);
     /// Objects under component selection (hilited), by node.
@@ -171,7 +171,7 @@ public:
     void breakConnection(const Plug& source, const Plug& destination);
 
     // Files
-    // ----------------------------------------------------------------------------------------------------
+
     /// Empties the scene: default nodes, cameras, units; preferences, types and plug-ins stay.
     void newScene();
     std::string fileName; ///< full path; empty for an untitled scene
@@ -192,7 +192,7 @@ public:
     std::vector<std::string> keptConnections;
 
     // Bridges upwards
-    // ------------------------------------------------------------------------------------------
+
     ScriptRunner* scriptRunner = nullptr;
     std::unordered_map<std::string, PluginCommand> pluginCommands;
     /// Called for each node right before it is deleted and right after it was made.
