@@ -41,6 +41,16 @@ function(tvx_plugin target)
   endif()
 endfunction()
 
+# tvx_headers_alone(TARGET source...): sources that include one header each, to see that it needs no other. That
+# they compile is the whole test, to which a sanitizer adds nothing.
+function(tvx_headers_alone target)
+  add_library(${target} OBJECT ${ARGN})
+  tvx_warnings(${target})
+  if(TVX_SANITIZE)
+    set_property(TARGET ${target} PROPERTY EXCLUDE_FROM_ALL ON)
+  endif()
+endfunction()
+
 # tvx_test(NAME source... [LIBRARIES lib...]): a GoogleTest program whose cases CTest lists one by one.
 # GTest::gtest_main is linked; put fixtures' data under tests/ and find it through TVX_SOURCE_DIR.
 function(tvx_test name)

@@ -31,6 +31,8 @@ protected:
     }
 
     std::string file() const { return folder.read("tvxCrowd.log"); }
+
+    core::Log log; ///< outlives its registration, which ends with the test
 };
 
 TEST_F(LoggerOutput, SendsEverySeverityToItsPlaceInTheScriptEditorWithoutALineEnd)
@@ -300,7 +302,6 @@ TEST_F(LoggerOutput, ANestedMessageLeavesTheOuterOneAlone)
 
 TEST_F(LoggerOutput, ANestedTraceOfTheSameLogLeavesTheOuterOneAlone)
 {
-    core::Log log;
     registerLog(log, "Mine", core::kInfo);
     logger.start();
     logger.setOutputStream(&console);
