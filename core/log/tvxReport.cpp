@@ -8,17 +8,25 @@
 
 namespace tarvox::crowd {
 
-void report(int severity, const char* file, int line, const char* function,
-            const std::function<void(std::ostream&)>& buildText)
+void trace(int severity, const char* file, int line, const char* function,
+           const std::function<void(std::ostream&)>& buildText)
 {
     try {
         std::ostringstream text;
-        text << "At line " << line << " in file " << file << ": ";
         buildText(text);
         coreLog().trace(severity, file, line, function, text.str().c_str());
     } catch (core::Exception& exception) {
         reportException(severity, file, line, function, exception.what());
     }
+}
+
+void report(int severity, const char* file, int line, const char* function,
+            const std::function<void(std::ostream&)>& buildText)
+{
+    trace(severity, file, line, function, [&](std::ostream& text) {
+        text << "At line " << line << " in file " << file << ": ";
+        buildText(text);
+    });
 }
 
 void reportException(int severity, const char* file, int line, const char* function, const char* text)

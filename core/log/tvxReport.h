@@ -31,6 +31,11 @@
 
 namespace tarvox::crowd {
 
+/// Traces the text as it stands. A core exception raised on the way is logged in its place; none leaves.
+/// @param buildText  writes the text; may throw
+TVX_COLD void trace(int severity, const char* file, int line, const char* function,
+                    const std::function<void(std::ostream&)>& buildText);
+
 /// What TVX_REPORT does once the filter has let it through: traces "At line <line> in file <file>: <text>".
 /// @param buildText  writes the text; may throw
 TVX_COLD void report(int severity, const char* file, int line, const char* function,

@@ -3,7 +3,6 @@
 
 #include "core/log/tvxReport.h"
 
-#include <functional>
 #include <iosfwd>
 
 /// Traces `text`, a chain of stream insertions, through the core log at `severity` in the name of `function`,
@@ -30,12 +29,3 @@
 
 /// The qualified name of a member of MayaUtils; `name` is a literal.
 #define TVX_UTILS_MEMBER(name) "tarvox::crowd::MayaUtils::" name
-
-namespace tarvox::crowd {
-
-/// What TVX_TRACE does once the filter has let it through.
-/// @param buildText  writes the text; may throw
-TVX_COLD void trace(int severity, const char* file, int line, const char* function,
-                    const std::function<void(std::ostream&)>& buildText);
-
-} // namespace tarvox::crowd
