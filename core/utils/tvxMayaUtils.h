@@ -401,9 +401,8 @@ public:
     /// @name Arguments of commands
     ///
     /// Each reads the value that follows a flag.
-    /// - `index`: in, the flag's place in the list; out, that of the value, of its last element for a point
-    /// or
-    ///   an array. Arrays begin with the number of their elements.
+    /// - `index`: in, the flag's place in the list; out, that of the value, for a point or an array that of
+    ///   its last element. Arrays begin with the number of their elements.
     /// - `value`: what Maya reads there, also when that fails.
     ///
     /// False when there is no such value. Nothing changes when the index is not one of the list.

@@ -1,6 +1,8 @@
 // The values that follow a command's flags.
 #include "core/utils/tvxMayaUtils.h"
 
+#include "api/support/faults.h"
+
 #include <maya/MArgList.h>
 
 #include <gmock/gmock.h>
@@ -147,6 +149,48 @@ TEST(Arguments, AnIndexBehindTheListChangesNothing)
         EXPECT_EQ(point, MPoint(1, 2, 3));
         EXPECT_EQ(index, behind);
     }
+}
+
+/// A call that fails makes the reader say so, with the index on the value.
+template <class Value>
+void expectFailureOf(const char* call)
+{
+    namespace faults = tvxhost::api::faults;
+    SCOPED_TRACE(call);
+    const MArgList arguments = flagAndArray({1, 2, 3});
+    unsigned int index = 0;
+    Value value{};
+    faults::failCall(call, 1, MStatus(MStatus::kFailure));
+    EXPECT_FALSE(MayaUtils::readArgument(arguments, index, value));
+    EXPECT_EQ(index, 1u);
+    faults::clear();
+    index = 0;
+    EXPECT_TRUE(MayaUtils::readArgument(arguments, index, value));
+}
+
+TEST(Arguments, AReadingThatFailsIsNoValue)
+{
+    expectFailureOf<MString>("MArgList::asString");
+    expectFailureOf<double>("MArgList::asDouble");
+    expectFailureOf<float>("MArgList::asDouble");
+    expectFailureOf<int>("MArgList::asInt");
+    expectFailureOf<bool>("MArgList::asBool");
+    expectFailureOf<MPoint>("MArgList::asPoint");
+    expectFailureOf<MIntArray>("MArgList::asIntArray");
+    expectFailureOf<MStringArray>("MArgList::asStringArray");
+    expectFailureOf<MVectorArray>("MArgList::asDoubleArray");
+}
+
+TEST(Arguments, AListWithoutALengthHasNoValues)
+{
+    namespace faults = tvxhost::api::faults;
+    unsigned int index = 0;
+    int value = 7;
+    faults::failCall("MArgList::length", 1, MStatus(MStatus::kFailure));
+    EXPECT_FALSE(MayaUtils::readArgument(flagAnd({1}), index, value));
+    EXPECT_EQ(value, 7);
+    EXPECT_EQ(index, 0u);
+    faults::clear();
 }
 
 TEST(Arguments, AValueOfAnotherKindIsNone)

@@ -251,6 +251,22 @@ TYPED_TEST(ArrayAttributes, AnArrayThatCannotBeReadStaysAsItWas)
 class OtherAttributes : public HolderFixture
 {
 protected:
+    void setDoubles(std::initializer_list<double> values)
+    {
+        MFnDoubleArrayData data;
+        MObject object = data.create(arrayOf<MDoubleArray>(values));
+        EXPECT_TRUE(plug("doubleArray").setValue(object));
+    }
+    /// Of an element of the array of matrices: what it moves by along x.
+    void setMatrix(unsigned int element, double x)
+    {
+        MMatrix value;
+        value[3][0] = x;
+        MFnMatrixData data;
+        MObject object = data.create(value);
+        EXPECT_TRUE(plug("matrices").elementByLogicalIndex(element).setValue(object));
+    }
+
     std::vector<Step> lookUp(const std::string& node, const std::string& plug,
                              const std::string& plugWithoutNode) const
     {
@@ -261,13 +277,7 @@ protected:
 
 TEST_F(OtherAttributes, DoublesAreAppendedAsFloats)
 {
-    MFnDoubleArrayData data;
-    MDoubleArray values;
-    for (const double value : {0.1, 2.0, -3.5})
-        values.append(value);
-    MObject object = data.create(values);
-    plug("doubleArray").setValue(object);
-
+    setDoubles({0.1, 2.0, -3.5});
     std::vector<float> result;
     MayaUtils::getDoubleArrayAttributeAsFloats(holder, attribute("doubleArray"), result, true);
     EXPECT_THAT(result, ElementsAre(0.1f, 2.0f, -3.5f));
@@ -280,17 +290,23 @@ TEST_F(OtherAttributes, DoublesAreAppendedAsFloats)
 
 TEST_F(OtherAttributes, DoublesAsFloatsReportAsTheDoublesDo)
 {
+    const std::string member = "getDoubleArrayAttribute";
+    const std::vector<Step> reading = {
+        {"MPlug::asMObject", member + ":asMObject : ", member + ":asMObject : " + errorOfNullPlug()},
+        {"MFnDoubleArrayData::MFnDoubleArrayData",
+         member + ":MFnDoubleArrayData : ", member + ":MFnDoubleArrayData : " + errorOfNullObject()}};
+    std::vector<Step> steps = lookUp(member + ":depFn : ", member + ":findPlug : ", member + ":findPlug : ");
+    steps.insert(steps.end(), reading.begin(), reading.end());
+    setDoubles({0.5});
+    const MObject doubles = attribute("doubleArray");
     std::vector<float> result;
-    faults::failCall("MFnDependencyNode::findPlug", 1, MStatus(MStatus::kFailure));
-    MayaUtils::getDoubleArrayAttributeAsFloats(holder, "doubleArray", result);
-    const std::string error = MStatus(MStatus::kFailure).errorString().asChar();
-    EXPECT_THAT(recorder.take(),
-                ElementsAre(report("getDoubleArrayAttribute", "getDoubleArrayAttribute:findPlug : " + error),
-                            report("getDoubleArrayAttribute",
-                                   "getDoubleArrayAttribute:asMObject : " + errorOfNullPlug()),
-                            report("getDoubleArrayAttribute",
-                                   "getDoubleArrayAttribute:MFnDoubleArrayData : " + errorOfNullObject())));
-    EXPECT_THAT(result, IsEmpty());
+    expectReports(member, steps,
+                  [&] { MayaUtils::getDoubleArrayAttributeAsFloats(holder, "doubleArray", result); });
+    expectReports(member, steps,
+                  [&] { MayaUtils::getDoubleArrayAttributeAsFloats(holder, doubles, result, true); });
+    expectReports(member, reading,
+                  [&] { MayaUtils::getDoubleArrayAttributeAsFloats(holder, doubles, result, false); });
+    EXPECT_THAT(result, ElementsAre(0.5f, 0.5f, 0.5f)); // what went well only
 }
 
 TEST_F(OtherAttributes, APointIsTheThreeChildren)
@@ -348,14 +364,8 @@ TEST_F(OtherAttributes, ObjectsReportTheirLookUp)
 
 TEST_F(OtherAttributes, AMatrixIsTheFirstElementOfTheArray)
 {
-    MMatrix value;
-    value[3][0] = 7;
-    MFnMatrixData data;
-    MObject object = data.create(value);
-    plug("matrices").elementByLogicalIndex(0).setValue(object);
-    value[3][0] = 8;
-    object = data.create(value);
-    plug("matrices").elementByLogicalIndex(1).setValue(object);
+    setMatrix(0, 7);
+    setMatrix(1, 8);
     MMatrix result;
     MayaUtils::getMatrixAttribute(holder, "matrices", result);
     EXPECT_EQ(result[3][0], 7);
@@ -381,23 +391,27 @@ TEST_F(OtherAttributes, AWorldMatrixIsThatOfTheFirstInstance)
 
 TEST_F(OtherAttributes, AMatrixIsReadInTheContextThatIsGiven)
 {
-    MMatrix value;
-    value[3][0] = 7;
-    MFnMatrixData data;
-    MObject object = data.create(value);
-    plug("matrices").elementByLogicalIndex(0).setValue(object);
+    setMatrix(0, 7);
     MDGContext now(MTime(scene.time(), MTime::kSeconds));
     MMatrix result;
     MayaUtils::getMatrixAttribute(holder, "matrices", result, now);
     EXPECT_EQ(result[3][0], 7);
     EXPECT_THAT(recorder.take(), IsEmpty());
+
+    // The host keeps values for the current time only, and says so of any other.
+    MDGContext later(MTime(scene.time() + 1.0, MTime::kSeconds));
+    MObject none;
+    const MStatus refused = plug("matrices").elementByLogicalIndex(0).getValue(none, later);
+    ASSERT_FALSE(refused);
+    MayaUtils::getMatrixAttribute(holder, "matrices", result, later);
+    const std::vector<std::string> reports = recorder.take();
+    ASSERT_FALSE(reports.empty());
+    EXPECT_EQ(reports[0], report("getMatrixAttribute", refused.errorString().asChar()));
 }
 
 TEST_F(OtherAttributes, MatricesReportFourSteps)
 {
-    MFnMatrixData data;
-    MObject object = data.create(MMatrix());
-    plug("matrices").elementByLogicalIndex(0).setValue(object);
+    setMatrix(0, 7);
     MStatus unattached;
     MFnMatrixData().matrix(&unattached);
     const std::vector<Step> steps = {

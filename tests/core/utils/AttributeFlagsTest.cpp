@@ -1,6 +1,7 @@
 // The standard flags of a new attribute.
 #include "core/utils/tvxMayaUtils.h"
 
+#include "LogRecorder.h"
 #include "api/support/faults.h"
 
 #include <maya/MFnNumericAttribute.h>
@@ -65,9 +66,28 @@ TEST_F(SetAttributeFlags, SetsThemInOrder)
 
 TEST_F(SetAttributeFlags, IgnoresAFlagThatMayaRefusesAndSetsTheOthers)
 {
+    const test::LogRecorder recorder;
+    coreLog().setSeverityFilter(core::kDebug);
+    const struct
+    {
+        const char* call;
+        const char* flags; ///< as a new attribute has it, the others as they are set
+    } rows[] = {
+        {"MFnAttribute::setKeyable", "-RWHAI"},  {"MFnAttribute::setReadable", "KRWHAI"},
+        {"MFnAttribute::setWritable", "KRWHAI"}, {"MFnAttribute::setHidden", "KRW-AI"},
+        {"MFnAttribute::setArray", "KRWH-I"},    {"MFnAttribute::setIndexMatters", "KRWHAI"},
+    };
+    for (const auto& row : rows) {
+        attribute.create("attribute", "a", MFnNumericData::kInt);
+        faults::failCall(row.call, 1, MStatus(MStatus::kFailure));
+        MayaUtils::setAttributeFlags(attribute, true, true, true, true, true, true);
+        EXPECT_EQ(flags(), row.flags) << row.call;
+    }
+    attribute.create("attribute", "a", MFnNumericData::kInt);
     faults::failCall("MFnAttribute::setWritable", 1, MStatus(MStatus::kFailure));
     MayaUtils::setAttributeFlags(attribute, true, false, false, true, true, false);
     EXPECT_EQ(flags(), "K-WHA-");
+    EXPECT_THAT(recorder.events, testing::IsEmpty());
 }
 
 } // namespace

@@ -221,6 +221,23 @@ TEST_F(Connections, CollectorsThatCannotLookUpLeaveTheListAsItWas)
     EXPECT_THAT(recorder.take(), IsEmpty());
 }
 
+TEST_F(Connections, ElementsThatCannotBeListedAreLeftOut)
+{
+    connect("a.tx", "sum.input1D[0]");
+    connect("b.tx", "sum.input1D[1]");
+    const MObject input = attribute("sum", "input1D");
+    for (const char* call : {"MPlug::connectedTo", "MPlug::elementByPhysicalIndex"}) {
+        std::vector<MObject> nodes;
+        MStatus status(MStatus::kFailure);
+        faults::failCall(call, 1, failure());
+        MayaUtils::collectConnectedSources(object("sum"), input, nodes, &status);
+        faults::clear();
+        EXPECT_THAT(names(nodes), ElementsAre("b")) << call;
+        EXPECT_EQ(status, MStatus::kSuccess) << call;
+    }
+    EXPECT_THAT(recorder.take(), IsEmpty());
+}
+
 TEST_F(Connections, FindingByNameReportsTheStepThatFails)
 {
     std::vector<MObject> nodes;

@@ -50,6 +50,8 @@ TEST_F(Files, ACommandThatCannotRunGivesItsOwnStatus)
     testing::internal::CaptureStderr();
     faults::failCall("MGlobal::executeCommand", 1, failure());
     EXPECT_EQ(MayaUtils::createDirectory("/p", false), failure());
+    runner.failing = {"sysFile -makeDir \"/p\""};
+    EXPECT_EQ(MayaUtils::createDirectory("/p", false), MStatus::kFailure);
     EXPECT_EQ(testing::internal::GetCapturedStderr(), "");
 }
 
@@ -211,17 +213,25 @@ TEST_F(Windows, WithoutAPreferenceTheCallersDefaultsStay)
 
 TEST_F(Windows, WhatCannotBeReadStaysAsItWasAndIsNotTold)
 {
+    const std::vector<std::string> queries = {"windowPref -q -topEdge w;", "windowPref -q -leftEdge w;",
+                                              "windowPref -q -width w;", "windowPref -q -height w;"};
     runner.answer("windowPref -exists w;", 1);
-    runner.answer("windowPref -q -leftEdge w;", 20);
-    runner.failing = {"windowPref -q -topEdge w;"};
-    int top = 1, left = 2, width = 3, height = 4;
-    MayaUtils::getWindowPreference("w", top, left, width, height);
-    EXPECT_THAT((std::vector<int>{top, left, width, height}), ElementsAre(1, 20, 3, 4));
+    for (std::size_t i = 0; i < queries.size(); ++i)
+        runner.answer(queries[i], 10 * (static_cast<int>(i) + 1));
+    for (std::size_t failing = 0; failing < queries.size(); ++failing) {
+        runner.failing = {queries[failing]};
+        std::vector<int> edges = {1, 2, 3, 4};
+        MayaUtils::getWindowPreference("w", edges[0], edges[1], edges[2], edges[3]);
+        std::vector<int> expected = {10, 20, 30, 40};
+        expected[failing] = static_cast<int>(failing) + 1;
+        EXPECT_EQ(edges, expected) << queries[failing];
+    }
     faults::failCall("MGlobal::executeCommand", 0, failure());
+    int top = 1, left = 2, width = 3, height = 4;
     MayaUtils::restoreWindowPreference("w", 1, 2, 3, 4);
     MayaUtils::saveAllWindowPreferences();
     MayaUtils::getWindowPreference("w", top, left, width, height);
-    EXPECT_THAT((std::vector<int>{top, left, width, height}), ElementsAre(1, 20, 3, 4));
+    EXPECT_THAT((std::vector<int>{top, left, width, height}), ElementsAre(1, 2, 3, 4));
     EXPECT_THAT(recorder.take(), IsEmpty());
 }
 

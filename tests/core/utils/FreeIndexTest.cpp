@@ -54,6 +54,14 @@ TEST_F(FreeIndex, CountsAllWhenNoneIsExcluded)
     plug("intValue").setInt(4);
     EXPECT_EQ(MayaUtils::findFreeIndex(MObject::kNullObj, attribute("intValue"), MTypeId(0x70001)), 3);
 }
+TEST_F(FreeIndex, GoesByTheNodesThatCouldBeListed)
+{
+    beside({4, 2});
+    const MObject intValue = attribute("intValue");
+    faults::failCall("MItDependencyNodes::MItDependencyNodes", 1, MStatus(MStatus::kFailure));
+    EXPECT_EQ(MayaUtils::findFreeIndex(holder, intValue, MTypeId(0x70001)), 1);
+    EXPECT_THAT(recorder.take(), testing::IsEmpty());
+}
 TEST_F(FreeIndex, ReadsWithoutALookUp)
 {
     const MObject intValue = attribute("intValue");

@@ -163,9 +163,12 @@ TEST_F(NodeQueries, TheNameIsLeftAsItIsOnFailure)
     EXPECT_EQ(MayaUtils::getShapeName(body, name), failure());
     EXPECT_EQ(name, MString("unchanged"));
     faults::clear();
-    faults::failCall("MFnDagNode::getPath", 1, failure());
-    EXPECT_NE(MayaUtils::getShapeName(body, name), MStatus::kSuccess);
-    EXPECT_EQ(name, MString("unchanged"));
+    for (const char* call : {"MFnDagNode::MFnDagNode", "MFnDagNode::getPath", "MDagPath::node"}) {
+        faults::failCall(call, 1, failure());
+        EXPECT_NE(MayaUtils::getShapeName(body, name), MStatus::kSuccess) << call;
+        EXPECT_EQ(name, MString("unchanged")) << call;
+        faults::clear();
+    }
     EXPECT_THAT(recorder.take(), IsEmpty());
 }
 
@@ -185,7 +188,8 @@ TEST_F(NodeQueries, ConnectedElementsAreNoneOnFailure)
     const MObject sum = object("sum");
     const MObject input = MFnDependencyNode(sum, nullptr).attribute("input1D");
     connect("body.tx", "sum.input1D[0]");
-    for (const char* call : {"MFnDependencyNode::MFnDependencyNode", "MFnDependencyNode::findPlug"}) {
+    for (const char* call : {"MFnDependencyNode::MFnDependencyNode", "MFnDependencyNode::findPlug",
+                             "MPlug::numConnectedElements"}) {
         faults::failCall(call, 1, failure());
         EXPECT_EQ(MayaUtils::countConnectedElements(sum, input), 0u) << call;
         faults::clear();

@@ -63,6 +63,9 @@ TEST_F(Nodes, TheSearchStopsAtTheFirstFailure)
     make("joint", "e");
     faults::failCall("MFnDependencyNode::MFnDependencyNode", 2, failure());
     EXPECT_THAT(found(joint, MFn::kJoint, failure()), ElementsAre("d"));
+    faults::clear();
+    faults::failCall("MItDependencyNodes::MItDependencyNodes", 1, failure());
+    EXPECT_THAT(found(joint, MFn::kJoint, failure()), IsEmpty());
     EXPECT_THAT(recorder.take(), IsEmpty());
 }
 
@@ -101,6 +104,16 @@ TEST_F(StringAttributeByCommand, FailuresAreIgnored)
     MayaUtils::setStringAttributeByCommand("n", "a", "A", "v");
     EXPECT_EQ(runner.commands.size(), 3u);
     EXPECT_THAT(recorder.take(), IsEmpty());
+}
+
+TEST_F(StringAttributeByCommand, WithoutAnAnswerItIsTakenForMissing)
+{
+    runner.answer("objExists \"n.a\"", 1);
+    faults::failCall("MCommandResult::getResult", 1, failure());
+    MayaUtils::setStringAttributeByCommand("n", "a", "A", "v");
+    EXPECT_THAT(runner.commands,
+                ElementsAre("|objExists \"n.a\"", "|addAttr -ln \"a\" -nn \"A\" -dt \"string\" n",
+                            "|setAttr -type \"string\" \"n.a\" \"v\" "));
 }
 
 } // namespace

@@ -303,12 +303,19 @@ TEST_F(MetInScenes, DoublesAreNarrowedToFloats)
 
 TEST_F(MetInScenes, NarrowedDoublesReportAsTheDoublesDo)
 {
-    faults::failCall("MFnDependencyNode::findPlug", 1, MStatus(MStatus::kFailure));
-    MayaUtils::getDoubleAttributeAsFloat(holder, "doubleValue");
-    EXPECT_THAT(recorder.take(),
-                ElementsAre(report("getDoubleAttribute",
-                                   "getDoubleAttribute:findPlug : " +
-                                       std::string(MStatus(MStatus::kFailure).errorString().asChar()))));
+    const MObject attribute = this->attribute("doubleValue");
+    MDataBlock data = block();
+    expectReports("getDoubleAttribute",
+                  {{"MFnDependencyNode::MFnDependencyNode", ""},
+                   {"MFnDependencyNode::findPlug", "", errorOfUnattachedSet()}},
+                  [&] { MayaUtils::getDoubleAttributeAsFloat(holder, attribute, true); });
+    expectReports("getDoubleAttribute",
+                  {{"MFnDependencyNode::MFnDependencyNode", "getDoubleAttribute:depFn : "},
+                   {"MFnDependencyNode::findPlug", "getDoubleAttribute:findPlug : ",
+                    "getDoubleAttribute:findPlug : " + errorOfUnattachedSet()}},
+                  [&] { MayaUtils::getDoubleAttributeAsFloat(holder, "doubleValue"); });
+    expectReports("getDoubleAttribute", {{"MDataBlock::inputValue", "getDoubleAttribute:inputValue : "}},
+                  [&] { MayaUtils::getDoubleAttributeAsFloat(data, attribute); });
 }
 
 TEST_F(MetInScenes, ReportsTellALineOfTheSource)

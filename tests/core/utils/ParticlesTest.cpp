@@ -71,6 +71,9 @@ TEST_F(Particles, ADoubleIsNarrowedToAFloat)
     EXPECT_EQ(MayaUtils::getDoubleAttributePPAsFloat(object("crowdShape"), "mass", 3, &status),
               static_cast<float>(3.1));
     EXPECT_EQ(status, MStatus::kSuccess);
+    EXPECT_EQ(MayaUtils::getDoubleAttributePPAsFloat(object("crowdShape"), "mass", 10, nullptr), 0.0f);
+    EXPECT_EQ(MayaUtils::getDoubleAttributePPAsFloat(object("other"), "mass", 0, &status), 0.0f);
+    EXPECT_EQ(status, MStatus::kInvalidParameter);
 }
 
 TEST_F(Particles, AnUnknownAttributeIsToldAndZero)
@@ -142,8 +145,9 @@ TEST_F(Particles, AVectorOfAnAttributeOfAnotherKindIsAnInvalidParameter)
 
 TEST_F(Particles, AVectorThatCannotBeReadIsAnInvalidParameter)
 {
-    for (const char* call : {"MFnDependencyNode::findPlug", "MPlug::asMObject",
-                             "MFnVectorArrayData::MFnVectorArrayData", "MFnVectorArrayData::length"}) {
+    for (const char* call :
+         {"MFnParticleSystem::isPerParticleVectorAttribute", "MFnDependencyNode::findPlug",
+          "MPlug::asMObject", "MFnVectorArrayData::MFnVectorArrayData", "MFnVectorArrayData::length"}) {
         const MObject shape = object("crowdShape");
         faults::failCall(call, 1, failure());
         MStatus status;

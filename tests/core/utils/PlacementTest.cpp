@@ -341,6 +341,9 @@ TEST_F(Visibility, WithAParentThatCannotBeReachedANodeIsNotVisible)
     MStatus status;
     EXPECT_FALSE(MayaUtils::isVisible(shape, &status));
     EXPECT_EQ(status, MStatus::kNotFound);
+    faults::clear();
+    faults::failCall("MFnDagNode::parent", 1, failure());
+    EXPECT_FALSE(MayaUtils::isVisible(shape, nullptr));
     EXPECT_THAT(recorder.take(), IsEmpty());
 }
 
@@ -373,6 +376,17 @@ TEST_F(Parents, AreSearchedDepthFirstInTheirOrder)
     make("transform", "shared", "leftBelow");
     instance("shared", "right");
     EXPECT_EQ(parentOfType("shared", MFn::kJoint), "left");
+}
+
+TEST_F(Parents, ThatCannotBeReachedAreNone)
+{
+    const MFnDagNode shape(object("shape"), nullptr);
+    for (const char* call : {"MFnDagNode::parent", "MFnDagNode::parentCount"}) {
+        faults::failCall(call, 1, failure());
+        EXPECT_TRUE(MayaUtils::findParentOfType(shape, MFn::kTransform).isNull()) << call;
+        faults::clear();
+    }
+    EXPECT_THAT(recorder.take(), IsEmpty());
 }
 
 class TransformValues : public Placement
