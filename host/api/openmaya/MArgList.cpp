@@ -6,108 +6,18 @@
 
 #include "support/access.h"
 #include "support/apiCall.h"
-#include "support/arguments.h"
-#include "support/numberText.h"
+#include "support/argumentValue.h"
 
 #include <algorithm>
-#include <cmath>
-#include <limits>
-#include <optional>
 
 using namespace tvxhost;
 using api::Argument;
 using api::Arguments;
 using api::failure;
+using api::readArgument;
 using api::StatusText;
 
 namespace {
-
-std::optional<double> numberOf(const Argument& argument)
-{
-    if (const int* whole = std::get_if<int>(&argument))
-        return *whole;
-    if (const double* real = std::get_if<double>(&argument))
-        return *real;
-    return std::nullopt;
-}
-
-/// Towards zero; what does not fit is clamped.
-int truncated(double number)
-{
-    constexpr double kLowest = std::numeric_limits<int>::lowest();
-    constexpr double kHighest = std::numeric_limits<int>::max();
-    return std::isnan(number) ? 0 : static_cast<int>(std::clamp(number, kLowest, kHighest));
-}
-
-// One overload per type that an argument is read as; false when it is of another kind.
-bool take(const Argument& argument, double& value)
-{
-    const auto number = numberOf(argument);
-    value = number.value_or(0.0);
-    return number.has_value();
-}
-
-bool take(const Argument& argument, int& value)
-{
-    const auto number = numberOf(argument);
-    value = truncated(number.value_or(0.0));
-    return number.has_value();
-}
-
-bool take(const Argument& argument, bool& value)
-{
-    const auto number = numberOf(argument);
-    value = number.value_or(0.0) != 0.0;
-    return number.has_value();
-}
-
-bool take(const Argument& argument, MString& value)
-{
-    if (const auto* text = std::get_if<std::string>(&argument))
-        value = tvxAccess::string(*text);
-    else if (const int* whole = std::get_if<int>(&argument))
-        value = tvxAccess::string(std::to_string(*whole));
-    else
-        value = tvxAccess::string(api::numberText(std::get<double>(argument)));
-    return true;
-}
-
-// Lengths, angles and times are written in the units of the user interface.
-template <class Value>
-bool takeInUnits(const Argument& argument, Value& value)
-{
-    const auto number = numberOf(argument);
-    value = Value(number.value_or(0.0), Value::uiUnit());
-    return number.has_value();
-}
-
-bool take(const Argument& argument, MDistance& value)
-{
-    return takeInUnits(argument, value);
-}
-
-bool take(const Argument& argument, MAngle& value)
-{
-    return takeInUnits(argument, value);
-}
-
-bool take(const Argument& argument, MTime& value)
-{
-    return takeInUnits(argument, value);
-}
-
-/// Reads the argument at an index; what it cannot be read as leaves the value as it was.
-template <class Value>
-MStatus read(const Arguments& arguments, unsigned int index, Value& target)
-{
-    if (index >= arguments.items.size())
-        return failure(StatusText::noElementAtIndex);
-    Value value{};
-    if (!take(arguments.items[index], value))
-        return failure(MS::kInvalidParameter, StatusText::objectIsIncompatible);
-    target = value;
-    return MS::kSuccess;
-}
 
 /// Reads so many arguments; the index ends on the last one, or on the one at fault.
 template <class Value>
@@ -116,7 +26,7 @@ MStatus readMany(const Arguments& arguments, unsigned int& index, unsigned int c
 {
     for (unsigned int i = 0; i < count; ++i) {
         Value value{};
-        if (const MStatus status = read(arguments, index + i, value); !status) {
+        if (const MStatus status = readArgument(arguments.items, index + i, value); !status) {
             index += i;
             return status;
         }
@@ -157,7 +67,7 @@ template <class Element, class Array>
 MStatus readArray(const Arguments& arguments, unsigned int& index, Array& target)
 {
     int count = 0;
-    if (const MStatus status = read(arguments, index, count); !status)
+    if (const MStatus status = readArgument(arguments.items, index, count); !status)
         return status;
     if (count < 0)
         return failure(MS::kInvalidParameter, StatusText::unexpectedFailure);
@@ -250,12 +160,13 @@ unsigned int MArgList::length(MStatus* ReturnStatus) const
     Type MArgList::function(unsigned int index, MStatus* ret) const                                          \
     {                                                                                                        \
         TVX_API_CALL_OR("MArgList::" #function, ret, Type());                                                \
-        return valueOf<Type>(ret, [&](Type& value) { return read(*arguments, index, value); });              \
+        return valueOf<Type>(ret,                                                                            \
+                             [&](Type& value) { return readArgument(arguments->items, index, value); });     \
     }                                                                                                        \
     MStatus MArgList::get(unsigned int index, Type& ret) const                                               \
     {                                                                                                        \
         TVX_API_CALL("MArgList::get");                                                                       \
-        return read(*arguments, index, ret);                                                                 \
+        return readArgument(arguments->items, index, ret);                                                   \
     }
 
 TVX_SINGLE_VALUE(bool, asBool)

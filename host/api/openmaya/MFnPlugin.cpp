@@ -106,7 +106,7 @@ bool CommandFactory::run(const std::vector<ScriptRunner::Result>& arguments,
         state.syntax = createSyntax();
     MArgList list;
     tvxAccess::arguments(list) = argumentsOf(arguments);
-    const RunningCommands running;
+    const RunningCommands running(name);
     const int errorsBefore = editor.errors();
     const MStatus status = command->doIt(list);
     if (!status && editor.errors() == errorsBefore)

@@ -95,14 +95,19 @@ namespace tvxhost::api {
 RunningCommands::Result& RunningCommands::current()
 {
     static Result ofNoOne;
-    if (results().empty())
+    if (running().empty())
         return ofNoOne = Result();
-    return results().back();
+    return running().back().result;
 }
 
-std::vector<RunningCommands::Result>& RunningCommands::results()
+std::string RunningCommands::currentName()
 {
-    static std::vector<Result> all;
+    return running().empty() ? std::string() : running().back().name;
+}
+
+std::vector<RunningCommands::Running>& RunningCommands::running()
+{
+    static std::vector<Running> all;
     return all;
 }
 

@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <limits>
+#include <utility>
 
 using tvxhost::api::failure;
 using tvxhost::api::StatusText;
@@ -25,7 +26,7 @@ template <class Change>
 MStatus changeFlag(SyntaxTable& syntax, const char* name, const char* flag, Change change)
 {
     TVX_API_CALL(name);
-    SyntaxTable::Flag* found = syntax.find(nameOf(flag));
+    SyntaxTable::Flag* found = flag ? syntax.find(flag) : nullptr;
     if (!found)
         return failure(StatusText::itemNotFound);
     change(*found);
@@ -36,12 +37,18 @@ MStatus changeFlag(SyntaxTable& syntax, const char* name, const char* flag, Chan
 
 namespace tvxhost::api {
 
-SyntaxTable::Flag* SyntaxTable::find(const std::string& name)
+const SyntaxTable::Flag* SyntaxTable::find(const std::string& name) const
 {
-    const auto found = std::find_if(flags.begin(), flags.end(), [&](const Flag& flag) {
-        return flag.shortName == name || flag.longName == name;
+    const std::string bare = nameOf(name.c_str());
+    const auto found = std::find_if(flags.begin(), flags.end(), [&bare](const Flag& flag) {
+        return flag.shortName == bare || flag.longName == bare;
     });
     return found == flags.end() ? nullptr : &*found;
+}
+
+SyntaxTable::Flag* SyntaxTable::find(const std::string& name)
+{
+    return const_cast<Flag*>(std::as_const(*this).find(name));
 }
 
 } // namespace tvxhost::api

@@ -9,6 +9,7 @@
 #include "engine/text.h"
 
 #include <maya/MArgList.h>
+#include <maya/MArgParser.h>
 #include <maya/MCommandResult.h>
 #include <maya/MDGContext.h>
 #include <maya/MDGModifier.h>
@@ -23,6 +24,7 @@
 #include <maya/MSelectionList.h>
 #include <maya/MStatus.h>
 #include <maya/MString.h>
+#include <maya/MSyntax.h>
 #include <maya/MTransformationMatrix.h>
 
 #include <memory>
@@ -139,6 +141,9 @@ public:
     }
     static tvxhost::api::CommandState*& commandState(MPxCommand& command) { return command.state; }
     static tvxhost::api::Arguments& arguments(MArgList& list) { return *list.arguments; }
+    static const tvxhost::api::Arguments& arguments(const MArgList& list) { return *list.arguments; }
+    static const tvxhost::api::SyntaxTable& syntax(const MSyntax& syntax) { return *syntax.syntax; }
+    static const tvxhost::api::ParsedArguments& parsed(const MArgParser& parser) { return *parser.parsed; }
 
     // Arrays: the vector that holds the elements
     template <class Array>

@@ -8,6 +8,7 @@
 
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace tvxhost::api {
@@ -27,6 +28,7 @@ struct SyntaxTable
 
     /// By short or long name, with or without its dash; null when there is none.
     Flag* find(const std::string& name);
+    const Flag* find(const std::string& name) const;
 
     std::vector<Flag> flags;
     std::vector<MSyntax::MArgType> arguments;
@@ -53,16 +55,23 @@ class RunningCommands
 public:
     using Result = engine::ScriptRunner::Result;
 
-    RunningCommands() { results().emplace_back(); }
-    ~RunningCommands() { results().pop_back(); }
+    explicit RunningCommands(std::string name) { running().push_back({std::move(name), {}}); }
+    ~RunningCommands() { running().pop_back(); }
     RunningCommands(const RunningCommands&) = delete;
     RunningCommands& operator=(const RunningCommands&) = delete;
 
     /// Of the innermost command; of no one, when none runs.
     static Result& current();
+    /// The name of the innermost command; empty when none runs.
+    static std::string currentName();
 
 private:
-    static std::vector<Result>& results();
+    struct Running
+    {
+        std::string name;
+        Result result;
+    };
+    static std::vector<Running>& running();
 };
 
 } // namespace tvxhost::api

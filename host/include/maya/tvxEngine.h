@@ -26,6 +26,11 @@ struct CommandValue;   ///< MCommandResult
 struct SyntaxTable;    ///< MSyntax
 struct Transformation; ///< MTransformationMatrix
 struct View;           ///< M3dView
+
+struct FileObject;         ///< MFileObject
+struct GraphIteration;     ///< MItDependencyGraph
+struct ParsedArguments;    ///< MArgParser, MArgDatabase
+struct SelectionIteration; ///< MItSelectionList
 } // namespace api
 
 } // namespace tvxhost
