@@ -6,6 +6,7 @@
 #include "defaultNodes.h"
 #include "glob.h"
 #include "nameTable.h"
+#include "observers.h"
 #include "uuid.h"
 
 #include <algorithm>
@@ -60,7 +61,7 @@ void makeVisibilityNonKeyable(Node& shape)
 } // namespace
 
 Scene::Scene(bool batch)
-    : m_batch(batch), m_types(std::make_unique<TypeTable>()), m_names(std::make_unique<NameTable>())
+    : m_batch(batch), m_observers(std::make_unique<Observers>()), m_types(std::make_unique<TypeTable>()), m_names(std::make_unique<NameTable>())
 {
     if (!g_current)
         g_current = this;
@@ -72,6 +73,7 @@ Scene::Scene(bool batch)
 Scene::~Scene()
 {
     // Those who listened may be gone before the scene is.
+    m_observers = std::make_unique<Observers>();
     onDeleted.clear();
     emptyScene();
     retireNode(*m_world);

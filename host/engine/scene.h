@@ -24,6 +24,7 @@
 namespace tvxhost::engine {
 
 class NameTable;
+class Observers;
 
 /// Runs a script: implemented by the language, called by the API. `result` is the value of the last statement
 /// as the language's own type, opaque here.
@@ -84,6 +85,8 @@ public:
     ScriptEditor& scriptEditor() { return m_scriptEditor; }
     OptionVars& optionVars() { return m_optionVars; }
     Units& units() { return m_units; }
+    /// Who is told what happens here.
+    Observers& observers() { return *m_observers; }
 
     // Nodes
 
@@ -224,6 +227,7 @@ private:
     void disconnectAll(Node& node);
 
     bool m_batch;
+    std::unique_ptr<Observers> m_observers;
     std::unique_ptr<TypeTable> m_types;
     ScriptEditor m_scriptEditor;
     OptionVars m_optionVars;
