@@ -19,6 +19,7 @@ void rejectedReport(benchmark::State& state)
 {
     tarvox::crowd::coreLog().setSeverityFilter(tarvox::core::kCritical);
     for (auto _ : state) {
+#pragma GCC unroll 64
         for (int i = 0; i < kReports; ++i) {
             TVX_REPORT(tarvox::core::kWarning, "tvxbench::rejectedReport", "literal");
             benchmark::ClobberMemory();
@@ -31,6 +32,7 @@ void spdlogDisabled(benchmark::State& state)
     spdlog::logger logger("bench", std::make_shared<spdlog::sinks::null_sink_st>());
     logger.set_level(spdlog::level::critical);
     for (auto _ : state) {
+#pragma GCC unroll 64
         for (int i = 0; i < kReports; ++i) {
             logger.warn("literal");
             benchmark::ClobberMemory();
@@ -42,6 +44,7 @@ void glogVlogOff(benchmark::State& state)
 {
     FLAGS_v = 0;
     for (auto _ : state) {
+#pragma GCC unroll 64
         for (int i = 0; i < kReports; ++i) {
             VLOG(1) << "literal";
             benchmark::ClobberMemory();
