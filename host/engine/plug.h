@@ -139,6 +139,8 @@ Outcome writeElements(const Plug& arrayPlug, int first, const double* values, st
 Outcome writeString(const Plug& plug, const std::string& value);
 /// Stores a copy.
 Outcome writeData(const Plug& plug, const Data& data);
+/// Stores the object itself, which nobody else may change from then on.
+Outcome giveData(const Plug& plug, Ref<Data> data);
 
 /// Elements that exist (set or connected), ascending. Does not evaluate.
 std::vector<int> existingElements(const Plug& arrayPlug);

@@ -335,25 +335,49 @@ Outcome writeString(const Plug& plug, const std::string& value)
     return writeData(plug, StringData(value));
 }
 
-Outcome writeData(const Plug& plug, const Data& data)
+namespace {
+
+Outcome checkTakesData(const Plug& plug, const Data& data)
 {
     if (Outcome outcome = checkSettable(plug); !outcome)
         return outcome;
-    const Attribute& attribute = *plug.attribute();
     if (plug.isArray())
         return {Reason::typeMismatch, "'" + plug.name() + "' is an array"};
-    if (attribute.isNumberGroup() && data.type() == DataType::numeric) {
-        const auto& numeric = static_cast<const NumericData&>(data);
-        const auto kind = static_cast<NumberKind>(numeric.kind);
-        std::vector<double> values;
-        for (int i = 0; i < numeric.size; ++i)
-            values.push_back(
-                loadNumber(kind, numeric.bytes + static_cast<std::size_t>(i) * sizeOf(kind)).asReal());
-        return writeNumbers(plug, values);
-    }
-    if (!isDataOf(attribute, data))
+    const bool isGroup = plug.attribute()->isNumberGroup() && data.type() == DataType::numeric;
+    if (!isGroup && !isDataOf(*plug.attribute(), data))
         return {Reason::typeMismatch, "'" + plug.name() + "' does not take data of this type"};
+    return {};
+}
+
+Outcome writeNumericData(const Plug& plug, const NumericData& numeric)
+{
+    const auto kind = static_cast<NumberKind>(numeric.kind);
+    std::vector<double> values;
+    for (int i = 0; i < numeric.size; ++i)
+        values.push_back(
+            loadNumber(kind, numeric.bytes + static_cast<std::size_t>(i) * sizeOf(kind)).asReal());
+    return writeNumbers(plug, values);
+}
+
+} // namespace
+
+Outcome writeData(const Plug& plug, const Data& data)
+{
+    if (Outcome outcome = checkTakesData(plug, data); !outcome)
+        return outcome;
+    if (plug.attribute()->isNumberGroup())
+        return writeNumericData(plug, static_cast<const NumericData&>(data));
     storeInternal(plug, data.clone());
+    return {};
+}
+
+Outcome giveData(const Plug& plug, Ref<Data> data)
+{
+    if (Outcome outcome = checkTakesData(plug, *data); !outcome)
+        return outcome;
+    if (plug.attribute()->isNumberGroup())
+        return writeNumericData(plug, static_cast<const NumericData&>(*data));
+    storeInternal(plug, std::move(data));
     return {};
 }
 

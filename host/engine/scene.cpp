@@ -167,8 +167,9 @@ Expected<Node*> Scene::createNode(NodeType& type, const std::string& name, DagNo
 Expected<Node*> Scene::makeNode(NodeType& type, const std::string& name, DagNode* parent)
 {
     const DagNode* scope = parent ? parent : (type.isDag && !type.isShape) ? m_world : nullptr;
-    const std::string wish = name.empty() ? defaultNameOf(type) : legalName(name, true);
-    const std::string fixedName = uniqueName(absoluteName(wish), nullptr, name.empty() ? nullptr : scope);
+    const bool isNamed = !name.empty() && name.back() != ':';
+    const std::string wish = isNamed ? legalName(name, true) : defaultNameOf(type);
+    const std::string fixedName = uniqueName(absoluteName(wish), nullptr, isNamed ? scope : nullptr);
 
     Ref<Node> node(type.isDag ? new DagNode(*this, type) : new Node(*this, type));
     adopt(*node, fixedName);
@@ -184,7 +185,7 @@ Expected<Node*> Scene::makeNode(NodeType& type, const std::string& name, DagNode
             return {Reason::failed, "the code of '" + type.name + "' made no node"};
         }
         node->m_behaviour->postConstructor();
-        if (!name.empty() && node->name() != fixedName)
+        if (isNamed && node->name() != fixedName)
             setName(*node, fixedName);
     }
     isModified = true;

@@ -76,6 +76,20 @@ void ArgumentList::addQuoted(std::string_view escapedText)
     addToken(ArgumentKind::string, hasEscapes ? keep(unescaped(escapedText)) : escapedText);
 }
 
+void ArgumentList::addQuotedSum(std::string_view source)
+{
+    std::string sum;
+    sum.reserve(source.size());
+    for (std::size_t quote = source.find('"'); quote != std::string_view::npos;) {
+        std::size_t end = quote + 1;
+        while (source[end] != '"')
+            end += source[end] == '\\' ? 2 : 1;
+        appendUnescaped(sum, source.substr(quote + 1, end - quote - 1));
+        quote = source.find('"', end + 1);
+    }
+    addToken(ArgumentKind::string, keep(std::move(sum)));
+}
+
 void ArgumentList::addValue(const Value& value)
 {
     if (isArray(value.type())) {
@@ -116,6 +130,12 @@ std::string unescaped(std::string_view text)
 {
     std::string plain;
     plain.reserve(text.size());
+    appendUnescaped(plain, text);
+    return plain;
+}
+
+void appendUnescaped(std::string& plain, std::string_view text)
+{
     for (std::size_t i = 0; i < text.size(); ++i) {
         if (text[i] != '\\' || i + 1 == text.size()) {
             plain += text[i];
@@ -140,7 +160,6 @@ std::string unescaped(std::string_view text)
             plain += escaped;
         }
     }
-    return plain;
 }
 
 std::string quoted(std::string_view text)

@@ -54,6 +54,8 @@ public:
     void addToken(ArgumentKind kind, std::string_view text);
     /// A quoted string, quotes not included; escapes are resolved into storage of the list.
     void addQuoted(std::string_view escapedText);
+    /// Quoted strings that are to be joined, with their quotes; what stands between them is passed over.
+    void addQuotedSum(std::string_view source);
     /// An evaluated value; an array adds one argument per element.
     void addValue(const Value& value);
     /// Forgets the arguments and keeps the room.
@@ -76,6 +78,7 @@ private:
 /// The characters a quoted string stands for: `\n`, `\t`, `\r`, `\\`, `\"`; any other escaped character is
 /// itself, an escaped line end is nothing.
 std::string unescaped(std::string_view text);
+void appendUnescaped(std::string& plain, std::string_view text);
 /// The text as a quoted MEL string, quotes included.
 std::string quoted(std::string_view text);
 

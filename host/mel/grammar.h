@@ -420,7 +420,15 @@ struct next_statement : seq<ws, sor<eof, must<statement>>>
 struct plain_string : seq<one<'"'>, string_text, string_end>
 {
 };
-struct plain_argument : sor<plain_string, flag_token, float_token, integer_token, word_token>
+// Long strings stand in several pieces: ("one" + "two").
+struct sum_string : seq<one<'"'>, string_text, string_end>
+{
+};
+struct plain_sum : seq<one<'('>, opt<blank>, sum_string, plus<opt<blank>, one<'+'>, opt<blank>, sum_string>,
+                       opt<blank>, one<')'>>
+{
+};
+struct plain_argument : sor<plain_string, plain_sum, flag_token, float_token, integer_token, word_token>
 {
 };
 struct plain_statement : seq<command_name, star<ws, plain_argument>, ws, one<';'>>

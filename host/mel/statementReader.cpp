@@ -38,6 +38,15 @@ struct Collect<grammar::plain_string>
         command.arguments.addQuoted(quotedText.substr(1, quotedText.size() - 2));
     }
 };
+template <>
+struct Collect<grammar::plain_sum>
+{
+    template <class Matched>
+    static void apply(const Matched& in, PlainCommand& command)
+    {
+        command.arguments.addQuotedSum(in.string_view());
+    }
+};
 template <ArgumentKind Kind>
 struct CollectToken
 {

@@ -23,7 +23,14 @@ struct PlugTarget
     int last = 0;     ///< included
     std::string tail; ///< what follows the range below each element, without the dot
 
-    /// The plug of one element of the range.
+    /// The elements of the range.
+    std::size_t count() const { return static_cast<std::size_t>(last) - static_cast<std::size_t>(first) + 1; }
+    /// The plug of the element at that place of the range, counted from 0.
+    engine::Expected<engine::Plug> nth(std::size_t place) const
+    {
+        return at(first + static_cast<int>(place));
+    }
+    /// The plug of the element with that index.
     engine::Expected<engine::Plug> at(int index) const;
 };
 

@@ -60,18 +60,18 @@ bool takeFace(Words& words, std::string& text)
 
 Outcome storePolyFaces(const PlugTarget& target, Words words)
 {
-    const int first = target.isRange ? target.first : 0;
-    const int last = target.isRange ? target.last : 0;
+    const std::size_t count = target.isRange ? target.count() : 1;
     std::string text;
-    for (int i = first; i <= last; ++i) {
-        const auto plug = target.isRange ? target.at(i) : engine::Expected<engine::Plug>(target.plug);
+    for (std::size_t i = 0; i < count; ++i) {
+        const auto plug = target.isRange ? target.nth(i) : engine::Expected<engine::Plug>(target.plug);
         if (!plug)
             return plug.outcome;
         if (!takeFace(words, text))
-            return {Reason::typeMismatch,
-                    "Error reading face " + std::to_string(i) + " of '" + target.plug.name() + "'"};
-        const engine::Ref<engine::Data> face(new engine::KeptData(std::string(kPolyFacesType), text));
-        if (const Outcome stored = engine::writeData(plug.value, *face); !stored)
+            return {Reason::typeMismatch, "Error reading face " +
+                                              std::to_string(static_cast<std::size_t>(target.first) + i) +
+                                              " of '" + target.plug.name() + "'"};
+        engine::Ref<engine::Data> face(new engine::KeptData(std::string(kPolyFacesType), text));
+        if (const Outcome stored = engine::giveData(plug.value, std::move(face)); !stored)
             return stored;
     }
     if (!words.atEnd())

@@ -15,26 +15,6 @@ using engine::Reason;
 
 namespace {
 
-/// The values of a statement as they stand in it: from behind `-type "T"` to before the semicolon.
-std::string rawValues(std::string_view source, std::string_view typeName)
-{
-    const std::size_t flag = source.find(" -type");
-    const std::size_t type = flag == std::string_view::npos ? flag : source.find(typeName, flag + 6);
-    if (type == std::string_view::npos)
-        return {};
-    std::size_t begin = type + typeName.size();
-    if (begin < source.size() && source[begin] == '"')
-        ++begin;
-    const std::size_t end = source.rfind(';');
-    if (end == std::string_view::npos || end < begin)
-        return {};
-    std::string raw;
-    for (const char character : source.substr(begin, end - begin))
-        if (character != '\r')
-            raw += character;
-    return raw;
-}
-
 bool isDeclaredByType(const Node& node, const engine::Attribute& attribute)
 {
     const engine::Attribute* own = node.type().find(attribute.longName);
@@ -57,7 +37,7 @@ bool SceneReader::keepForSection(const SceneStatement& statement)
         return true;
     }
     if (m_section.isMissingDefault) {
-        m_scene.keptConnections.back() += "\n\t" + keptStatement(statement.source);
+        m_scene.keptConnections.back() += "\n\t" + keptText(statement.source);
         ++m_summary.keptStatements;
         return true;
     }
@@ -70,6 +50,7 @@ void SceneReader::addAttr(const SceneStatement& statement)
     Node* node = m_section.node;
     if (!node)
         return;
+    m_lastDeclaration = statement.line;
     try {
         const mel::ParsedCommand flags = mel::parseArguments(m_addAttr, statement.arguments);
         const auto declaration = declarationFrom(flags, m_scene.units());
@@ -113,11 +94,7 @@ void SceneReader::setAttr(const SceneStatement& statement)
             error(target.outcome.text, statement.line);
         return;
     }
-    std::string raw;
-    if (!request.type.empty()) {
-        raw = rawValues(statement.source, request.type);
-        request.raw = raw;
-    }
+    request.source = statement.source;
     const Outcome set = applySetAttr(target.value, request, {m_scene.units(), engine::Limits::ignore});
     if (isKept)
         return;

@@ -51,7 +51,7 @@ void SceneReader::requires_(const SceneStatement& statement)
         else
             requirement.words += (requirement.words.empty() ? "" : " ") + sourceText(flags.argument());
     }
-    if (words.size() < 2) {
+    if (words.size() != 2) {
         error("'requires' needs a name and a version", statement.line);
         return;
     }

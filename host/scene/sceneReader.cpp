@@ -2,6 +2,7 @@
 #include "sceneReader.h"
 
 #include "constantArguments.h"
+#include "sceneText.h"
 
 #include "mel/scriptError.h"
 
@@ -12,6 +13,14 @@ namespace tvxhost::scene {
 namespace {
 
 constexpr std::size_t kProgressStep = 1 << 20;
+
+/// Only the end of the file ends a statement without a semicolon or a brace.
+bool isCutOff(const mel::StatementReader& reader)
+{
+    const std::string_view source = reader.source();
+    const std::size_t last = source.find_last_not_of(" \t\r\n");
+    return last != std::string_view::npos && source[last] != ';' && source[last] != '}';
+}
 
 } // namespace
 
@@ -49,6 +58,7 @@ SceneReader::SceneReader(engine::Scene& scene, const ReadOptions& options, std::
 
 void SceneReader::read(std::string_view text)
 {
+    m_textSize = text.size();
     mel::StatementReader reader(text, m_file);
     std::size_t told = 0;
     while (nextStatement(reader)) {
@@ -59,6 +69,8 @@ void SceneReader::read(std::string_view text)
         }
     }
     finish();
+    if (!m_isCutOff && lacksItsEnd(text))
+        error("The file ends before its last line, \"// End of ...\": it is not whole", reader.line());
     if (m_options.progress)
         m_options.progress(text.size(), text.size());
 }
@@ -71,6 +83,7 @@ bool SceneReader::nextStatement(mel::StatementReader& reader)
         } catch (const mel::SyntaxError& broken) {
             error(broken.what(), broken.place().line);
             reader.skipBroken();
+            m_isCutOff = reader.offset() == m_textSize;
         }
     }
 }
@@ -87,6 +100,11 @@ void SceneReader::readStatement(mel::StatementReader& reader)
         return;
     }
     ++m_summary.statements;
+    if (isCutOff(reader)) {
+        error("The file ends within this statement: it is not whole", reader.line());
+        m_isCutOff = true;
+        return;
+    }
     std::string name;
     mel::ArgumentList arguments;
     if (constantArguments(*reader.statement(), name, arguments) && handlerOf(name)) {
@@ -120,7 +138,7 @@ void SceneReader::dispatch(const SceneStatement& statement)
 void SceneReader::finish()
 {
     for (const std::string& name : m_compounds.abandon())
-        error("The compound attribute '" + name + "' lacks some of its children", 0);
+        error("The compound attribute '" + name + "' lacks some of its children", m_lastDeclaration);
 }
 
 void SceneReader::error(const std::string& text, int line)
@@ -137,31 +155,24 @@ void SceneReader::warning(const std::string& text, int line)
 
 void SceneReader::keep(std::vector<std::string>& lines, const SceneStatement& statement)
 {
-    lines.push_back(keptStatement(statement.source));
+    lines.push_back(keptText(statement.source));
     ++m_summary.keptStatements;
-}
-
-std::string keptStatement(std::string_view source)
-{
-    std::string text = keptText(source);
-    if (text.empty() || text.back() != ';')
-        text += ';';
-    return text;
 }
 
 std::string keptText(std::string_view source)
 {
+    constexpr const char* kBlanks = " \t\r\n";
+    const std::size_t begin = std::min(source.find_first_not_of(kBlanks), source.size());
+    const std::string_view bare = source.substr(begin, source.find_last_not_of(kBlanks) + 1 - begin);
     std::string text;
-    text.reserve(source.size());
-    for (std::size_t i = 0; i < source.size(); ++i) {
-        if (source[i] != '\r')
-            text += source[i];
-        else if (i + 1 == source.size() || source[i + 1] != '\n')
+    text.reserve(bare.size());
+    for (std::size_t i = 0; i < bare.size(); ++i) {
+        if (bare[i] != '\r')
+            text += bare[i];
+        else if (bare[i + 1] != '\n')
             text += '\n';
     }
-    const std::size_t begin = text.find_first_not_of(" \t\n");
-    const std::size_t end = text.find_last_not_of(" \t\n");
-    return begin == std::string::npos ? std::string() : text.substr(begin, end - begin + 1);
+    return text;
 }
 
 } // namespace tvxhost::scene

@@ -94,6 +94,9 @@ private:
     SceneSummary m_summary;
     Section m_section;
     PendingCompounds m_compounds;
+    int m_lastDeclaration = 0; ///< the line of the last addAttr
+    std::size_t m_textSize = 0;
+    bool m_isCutOff = false; ///< the end of the file came within a statement, and that has been told
     mel::CommandSpec m_addAttr;
     std::unordered_set<const engine::Node*> m_created; ///< by this file
     std::unordered_set<std::string> m_toldTypes;       ///< unknown types that were warned of
@@ -103,8 +106,5 @@ private:
 
 /// The text of a statement with LF line ends and no blanks around it.
 std::string keptText(std::string_view source);
-/// The same, ended by a semicolon also when the end of the file has cut it off: what is written behind it
-/// must not become part of it.
-std::string keptStatement(std::string_view source);
 
 } // namespace tvxhost::scene

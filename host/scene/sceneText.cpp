@@ -3,9 +3,11 @@
 
 #include <algorithm>
 #include <cerrno>
-#include <cstdio>
 #include <cstring>
-#include <memory>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
 
 namespace tvxhost::scene {
 
@@ -18,10 +20,51 @@ namespace {
 constexpr std::string_view kByteOrderMark = "\xef\xbb\xbf";
 constexpr std::string_view kHeader = "//Maya ASCII";
 
-struct CloseFile
+constexpr std::string_view kNameLine = "//Name:";
+constexpr std::string_view kEndLine = "// End of";
+
+/// A file that is open for reading as long as it lives.
+class OpenFile
 {
-    void operator()(std::FILE* file) const { std::fclose(file); }
+public:
+    explicit OpenFile(const std::filesystem::path& file) : m_file(::open(file.c_str(), O_RDONLY | O_CLOEXEC))
+    {
+    }
+    ~OpenFile()
+    {
+        if (m_file >= 0)
+            ::close(m_file);
+    }
+    OpenFile(const OpenFile&) = delete;
+    OpenFile& operator=(const OpenFile&) = delete;
+
+    bool isOpen() const { return m_file >= 0; }
+    struct stat state() const
+    {
+        struct stat now = {};
+        (void)::fstat(m_file, &now);
+        return now;
+    }
+    /// Bytes read, 0 at the end, less on failure.
+    ssize_t read(char* bytes, std::size_t size) const
+    {
+        ssize_t count = 0;
+        do
+            count = ::read(m_file, bytes, size);
+        while (count < 0 && errno == EINTR);
+        return count;
+    }
+
+private:
+    int m_file;
 };
+
+/// Whether another process has written to a file between two looks at it.
+bool isChanged(const struct stat& before, const struct stat& after)
+{
+    return before.st_size != after.st_size || before.st_mtim.tv_sec != after.st_mtim.tv_sec ||
+           before.st_mtim.tv_nsec != after.st_mtim.tv_nsec;
+}
 
 bool beginsWith(std::string_view text, std::string_view start)
 {
@@ -32,6 +75,15 @@ int lineAt(std::string_view text, std::size_t offset)
 {
     return 1 + static_cast<int>(
                    std::count(text.begin(), text.begin() + static_cast<std::ptrdiff_t>(offset), '\n'));
+}
+
+/// Whether a line of the text begins so.
+bool hasLine(std::string_view text, std::string_view start)
+{
+    std::size_t at = text.find(start);
+    while (at != std::string_view::npos && at != 0 && text[at - 1] != '\n' && text[at - 1] != '\r')
+        at = text.find(start, at + 1);
+    return at != std::string_view::npos;
 }
 
 Outcome systemFailure(const std::filesystem::path& file, int error)
@@ -48,17 +100,30 @@ Expected<std::string> readFile(const std::filesystem::path& file)
         return {Reason::doesNotExist, "File not found: \"" + file.string() + "\""};
     if (std::filesystem::is_directory(file, ignored))
         return systemFailure(file, EISDIR);
-    const std::unique_ptr<std::FILE, CloseFile> stream(std::fopen(file.c_str(), "rb"));
-    if (!stream)
+    const OpenFile opened(file);
+    if (!opened.isOpen())
         return systemFailure(file, errno);
+    const struct stat before = opened.state();
     std::string text;
-    text.reserve(static_cast<std::size_t>(std::filesystem::file_size(file, ignored)) + 1);
+    text.reserve(static_cast<std::size_t>(before.st_size) + 1);
     char block[1 << 16];
-    while (const std::size_t count = std::fread(block, 1, sizeof block, stream.get()))
-        text.append(block, count);
-    if (std::ferror(stream.get()))
+    ssize_t count = 0;
+    while ((count = opened.read(block, sizeof block)) > 0)
+        text.append(block, static_cast<std::size_t>(count));
+    if (count < 0)
         return systemFailure(file, errno);
+    // What was read before the change and after it need not belong together.
+    if (isChanged(before, opened.state()))
+        return {Reason::failed, "The file \"" + file.string() + "\" was changed while it was read"};
     return text;
+}
+
+bool lacksItsEnd(std::string_view text)
+{
+    constexpr std::size_t kHead = 500;
+    constexpr std::size_t kTail = 5000;
+    const std::size_t tail = text.size() - std::min(text.size(), kTail);
+    return hasLine(text.substr(0, kHead), kNameLine) && !hasLine(text.substr(tail), kEndLine);
 }
 
 SceneTextError checkSceneText(std::string_view text, const std::string& name)

@@ -17,10 +17,15 @@ struct SceneTextError
     int line = 0;            ///< 0: the file as a whole
 };
 
-/// Reads a whole file. doesNotExist for a missing file, failed with the system's reason for any other.
+/// Reads a whole file. doesNotExist for a missing file, failed with the system's reason for any other, and
+/// when the file was written to in the meantime.
 engine::Expected<std::string> readFile(const std::filesystem::path& file);
 
 /// Refuses what is empty, binary or does not begin as Maya ASCII does.
 SceneTextError checkSceneText(std::string_view text, const std::string& name);
+
+/// Whether the text is one that Maya wrote (its head has a `//Name:` line) but lacks the `// End of` line
+/// that Maya ends it with: the rest has been cut off. Scenes written by hand may do without both.
+bool lacksItsEnd(std::string_view text);
 
 } // namespace tvxhost::scene

@@ -174,16 +174,15 @@ Outcome storeNumbers(const PlugTarget& target, const SetAttrRequest& request, co
         const Outcome stored = numbers.storeNext(target.plug, limits);
         return stored && !numbers.atEnd() ? wrongValues(target.plug) : stored;
     }
-    const auto count = static_cast<std::size_t>(target.last) - static_cast<std::size_t>(target.first) + 1;
-    if (!numbers.canServe(count))
+    if (!numbers.canServe(target.count()))
         return wrongValues(target.plug);
     if (target.tail.empty() && limits != engine::Limits::clamp &&
         numbers.isUniform(*target.plug.attribute())) {
-        const Outcome stored = numbers.storeRun(target.plug, target.first, count);
+        const Outcome stored = numbers.storeRun(target.plug, target.first, target.count());
         return stored && !numbers.atEnd() ? wrongValues(target.plug) : stored;
     }
-    for (int i = target.first; i <= target.last; ++i) {
-        const Expected<Plug> plug = target.tail.empty() ? target.plug.element(i) : target.at(i);
+    for (std::size_t i = 0; i < target.count(); ++i) {
+        const Expected<Plug> plug = target.nth(i);
         if (!plug)
             return plug.outcome;
         if (const Outcome stored = numbers.storeNext(plug.value, limits); !stored)
@@ -197,8 +196,8 @@ Outcome storeNumbers(const PlugTarget& target, const SetAttrRequest& request, co
 Outcome storeSparse(const PlugTarget& target, const SetAttrRequest& request, const SetAttrRules& rules)
 {
     Words words(request.values, request.end);
-    for (int i = target.first; i <= target.last; ++i) {
-        const Expected<Plug> array = target.at(i);
+    for (std::size_t i = 0; i < target.count() && !words.failed(); ++i) {
+        const Expected<Plug> array = target.nth(i);
         if (!array)
             return array.outcome;
         const double factor = internalPerUi(*array.value.attribute(), rules.units);
@@ -234,6 +233,33 @@ bool givesFaces(const PlugTarget& target, const SetAttrRequest& request)
             attribute.dataType == engine::DataType::polyFaces);
 }
 
+/// The values of a statement as they stand in it: from behind `-type "T"` to before the semicolon.
+std::string rawValues(std::string_view source, std::string_view typeName)
+{
+    const std::size_t flag = source.find(" -type");
+    const std::size_t type = flag == std::string_view::npos ? flag : source.find(typeName, flag + 6);
+    if (type == std::string_view::npos)
+        return {};
+    std::size_t begin = type + typeName.size();
+    if (begin < source.size() && source[begin] == '"')
+        ++begin;
+    const std::size_t end = source.rfind(';');
+    if (end == std::string_view::npos || end < begin)
+        return {};
+    std::string raw(source.substr(begin, end - begin));
+    raw.erase(std::remove(raw.begin(), raw.end(), '\r'), raw.end());
+    return raw;
+}
+
+Expected<engine::Ref<engine::Data>> makeData(const SetAttrRequest& request)
+{
+    Words words(request.values, request.end);
+    if (!isKnownDataType(request.type))
+        if (std::string raw = rawValues(request.source, request.type); !raw.empty())
+            return engine::Ref<engine::Data>(new engine::KeptData(std::string(request.type), std::move(raw)));
+    return parseData(request.type, words);
+}
+
 Outcome storeData(const PlugTarget& target, const SetAttrRequest& request)
 {
     if (givesFaces(target, request))
@@ -244,14 +270,10 @@ Outcome storeData(const PlugTarget& target, const SetAttrRequest& request)
     const Expected<Plug> plug = target.isRange ? target.at(target.first) : target.plug;
     if (!plug)
         return plug.outcome;
-    Words words(request.values, request.end);
-    const auto data = parseData(request.type, words, request.raw);
+    const auto data = makeData(request);
     if (!data)
         return data.outcome;
-    if (request.type == "string" && plug.value.attribute()->kind == AttributeKind::typed &&
-        plug.value.attribute()->dataType == engine::DataType::string)
-        return engine::writeString(plug.value, static_cast<engine::StringData&>(*data.value).value.str());
-    engine::Outcome stored = engine::writeData(plug.value, *data.value);
+    engine::Outcome stored = engine::giveData(plug.value, data.value);
     // Data that nobody here understands may well belong there all the same.
     if (stored.reason == Reason::typeMismatch && data.value->type() == engine::DataType::plugin)
         stored.reason = Reason::notImplemented;
@@ -280,6 +302,9 @@ Outcome storeValues(const PlugTarget& target, const SetAttrRequest& request, con
 
 // State
 
+/// Elements whose state one statement changes at most: each gets a place of its own.
+constexpr std::size_t kMostStates = 1 << 20;
+
 void changeState(const Plug& plug, const SetAttrRequest& request)
 {
     engine::PlugState state = engine::stateOf(plug);
@@ -299,8 +324,10 @@ Outcome changeStates(const PlugTarget& target, const SetAttrRequest& request)
         changeState(target.plug, request);
         return {};
     }
-    for (int i = target.first; i <= target.last; ++i) {
-        const Expected<Plug> plug = target.at(i);
+    if (target.count() > kMostStates)
+        return {Reason::badIndex, "Illegal range of elements: '" + target.plug.name() + "'"};
+    for (std::size_t i = 0; i < target.count(); ++i) {
+        const Expected<Plug> plug = target.nth(i);
         if (!plug)
             return plug.outcome;
         changeState(plug.value, request);

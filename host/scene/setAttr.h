@@ -25,7 +25,7 @@ struct SetAttrRequest
     std::string_view type;                 ///< of -type; empty when it was not given
     const mel::Argument* end = nullptr;    ///< behind the last value
     const mel::Argument* values = nullptr; ///< the first value
-    std::string_view raw;                  ///< the values as the source has them; empty when not known
+    std::string_view source;               ///< the whole statement as it stands; empty when not known
 
     bool changesState() const { return keyable || locked || channelBox || caching; }
     bool hasValues() const { return values != end; }

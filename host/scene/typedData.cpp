@@ -180,6 +180,13 @@ constexpr TypeRow kTypes[] = {
     arrayRow<engine::MatrixArrayData, 16>("matrixArray", DataType::matrixArray),
 };
 
+const TypeRow* typeNamed(std::string_view name)
+{
+    const auto* row = std::find_if(std::begin(kTypes), std::end(kTypes),
+                                   [&](const TypeRow& candidate) { return candidate.name == name; });
+    return row == std::end(kTypes) ? nullptr : row;
+}
+
 std::string typeAsWritten(std::string_view name)
 {
     return " -type \"" + std::string(name) + '"';
@@ -192,15 +199,16 @@ bool isNumericTypeName(std::string_view typeName)
     return std::find(kNumericTypes.begin(), kNumericTypes.end(), typeName) != kNumericTypes.end();
 }
 
-Expected<Ref<Data>> parseData(std::string_view typeName, Words& words, std::string_view raw)
+bool isKnownDataType(std::string_view typeName)
 {
-    const auto* row = std::find_if(std::begin(kTypes), std::end(kTypes),
-                                   [&](const TypeRow& candidate) { return candidate.name == typeName; });
-    if (row == std::end(kTypes)) {
-        std::string joined = words.rest();
-        return Ref<Data>(
-            new engine::KeptData(std::string(typeName), raw.empty() ? " " + joined : std::string(raw)));
-    }
+    return typeNamed(typeName) != nullptr;
+}
+
+Expected<Ref<Data>> parseData(std::string_view typeName, Words& words)
+{
+    const TypeRow* row = typeNamed(typeName);
+    if (!row)
+        return Ref<Data>(new engine::KeptData(std::string(typeName), " " + words.rest()));
     Ref<Data> data = row->parse(words);
     if (words.failed() || !words.atEnd())
         return {Reason::typeMismatch, "Error reading the values of type '" + std::string(typeName) + "'"};

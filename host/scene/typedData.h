@@ -14,11 +14,12 @@ namespace tvxhost::scene {
 /// True for the types whose values are plain numbers ("float3", "double2", "long3" …).
 bool isNumericTypeName(std::string_view typeName);
 
-/// Makes the data object that the words describe. Types that the host only keeps give KeptData with `raw`
-/// (the words as they stood in the source), or the words joined when `raw` is empty. typeMismatch when the
-/// words do not fit the type.
-engine::Expected<engine::Ref<engine::Data>> parseData(std::string_view typeName, Words& words,
-                                                      std::string_view raw = {});
+/// False for types whose values the host only keeps.
+bool isKnownDataType(std::string_view typeName);
+
+/// Makes the data object that the words describe; of a type that the host only keeps KeptData with the words.
+/// typeMismatch when the words do not fit the type.
+engine::Expected<engine::Ref<engine::Data>> parseData(std::string_view typeName, Words& words);
 
 /// The ` -type "T" values` part of a `setAttr` for a data object, from the blank before -type up to but not
 /// including the semicolon.

@@ -130,7 +130,8 @@ TEST_F(ReaderTest, tellsOfCompoundsThatLackChildren)
     const ReadResult result = read("createNode transform -n \"a\";\n\taddAttr -ci true -sn \"o\" -ln "
                                    "\"options\" -at \"compound\" -nc 2;\n");
     EXPECT_EQ(result.summary.errors, 1u);
-    EXPECT_EQ(messages().front(), "Error: The compound attribute 'a.options' lacks some of its children\n");
+    EXPECT_EQ(messages().front(), "Error: file: /scenes/test.ma line 3: The compound attribute 'a.options' "
+                                  "lacks some of its children\n");
 }
 
 TEST_F(ReaderTest, connectsAndPicksTheNextElementWhereTheIndexDoesNotMatter)

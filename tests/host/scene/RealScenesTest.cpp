@@ -1,7 +1,10 @@
 // Scenes that real Maya wrote: read to their end, counted as an independent scanner counts them, and saved
 // without loss. They are not part of this repository: TVX_SCENES_DIR names a folder of scenes beside a table
 // contents.tsv (columns: file, statements, commands, node types, …).
+#include "damage.h"
+
 #include "scene/reader.h"
+#include "scene/sceneText.h"
 #include "scene/writer.h"
 
 #include "engine/scene.h"
@@ -170,5 +173,49 @@ TEST_F(RealScenes, haveMeshesAsAnIndependentScannerCountsThem)
         }
     }
 }
+
+/// Ten of the smaller scenes, each of other contents.
+constexpr const char* kDamaged[] = {
+    "Autodesk+maya-usd/test/lib/usd/translators/UsdExportSkeletonTest/"
+    "UsdExportSkeletonBindPoseMissingJoints.ma",
+    "Autodesk+maya-usd/test/lib/mayaUsd/render/pxrUsdMayaGL/ProxyShapeRendererSceneMessagesTest/"
+    "EmptyScene.ma",
+    "Autodesk+maya-usd/plugin/pxr/maya/lib/pxrUsdMayaGL/testenv/RefAssemblyDrawRepresentationsTest/"
+    "RefAssemblyDrawRepresentationsTest.ma",
+    "Autodesk+maya-usd/test/lib/usd/translators/UsdExportUVSetMappingsTest/multi_uv_simple.ma",
+    "Autodesk+maya-usd/plugin/pxr/maya/lib/pxrUsdMayaGL/testenv/InstancerDrawTest/InstancerDrawTest.ma",
+    "Autodesk+maya-usd/test/lib/usd/translators/UsdExportSkeletonTest/"
+    "UsdExportSkeletonWithIdentityBindPose.ma",
+    "Autodesk+maya-usd/test/lib/usd/translators/UsdExportStrokeTest/UsdExportStrokeTest.ma",
+    "ImageEngine+cortex/test/IECore/data/pdcFiles/scene.ma",
+    "Autodesk+maya-usd/test/testSamples/parentCmd/simpleHierarchy.ma",
+    "Autodesk+maya-usd/test/lib/usd/translators/UsdExportShadingInstancedTest/NestedInstancedShading.ma",
+};
+
+class DamagedScene : public testing::TestWithParam<const char*>
+{
+protected:
+    void SetUp() override
+    {
+        const auto read = scene::readFile(std::string(TVX_SCENES_DIR) + "/" + GetParam());
+        ASSERT_TRUE(read) << read.outcome.text;
+        m_text = read.value;
+    }
+
+    engine::Scene m_scene;
+    std::string m_text;
+};
+
+TEST_P(DamagedScene, isToldToBeCutOffAtAnyPlace)
+{
+    scene::damage::expectTruncationsAreTold(m_scene, m_text, 1);
+}
+
+TEST_P(DamagedScene, takesNoHarmFromChangedBytes)
+{
+    scene::damage::expectChangedBytesAreHarmless(m_scene, m_text, 1);
+}
+
+INSTANTIATE_TEST_SUITE_P(RealScenes, DamagedScene, testing::ValuesIn(kDamaged));
 
 } // namespace

@@ -125,21 +125,6 @@ TEST_F(UnknownTest, requirementsOfMissingPluginsComeBack)
         "requires maya \"2016\";\nrequires -nodeType \"Fancy\" -dataType \"fancyData\" \"fancy\" \"1.2\";\n");
 }
 
-TEST_F(UnknownTest, aStatementThatTheEndOfTheFileCutsOffIsKeptAsOneOfItsOwn)
-{
-    read("createNode FancyShader -n \"fancy\";\n\tsetAttr \".col\" -type \"float3\" 0.1 0.2");
-    EXPECT_THAT(node("fancy").keptLines, ElementsAre("setAttr \".col\" -type \"float3\" 0.1 0.2;"));
-}
-
-TEST_F(UnknownTest, valuesThatTheEndOfTheFileCutsOffAreAnErrorAndKept)
-{
-    const ReadResult result = read("createNode transform -n \"a\";\n\tsetAttr \".t\" -type \"double3\" 1 2");
-    EXPECT_EQ(result.summary.errors, 1u);
-    EXPECT_EQ(messages().front(),
-              "Error: file: /scenes/test.ma line 3: setAttr: Error reading the values of 'a.translate'\n");
-    EXPECT_THAT(node("a").keptLines, ElementsAre("setAttr \".t\" -type \"double3\" 1 2;"));
-}
-
 TEST_F(UnknownTest, keptLinesUseLineFeedsOnly)
 {
     openSceneText(scene,
