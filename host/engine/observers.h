@@ -22,7 +22,8 @@ enum class Happening
 {
     // Nodes
     nodeAdded,            ///< made, or back by undo
-    nodeAboutToBeDeleted, ///< still as it was
+    nodeAboutToBeDeleted, ///< by somebody, not with its scene; still as it was
+    nodeLeaving,          ///< about to be out of the scene, for whatever reason; still as it was
     nodeRemoved,          ///< out of the scene, its connections are gone; may come back by undo
     nodeDestroyed,        ///< cannot come back
     nodeRenamed,          ///< [text: the former name]
@@ -30,11 +31,14 @@ enum class Happening
 
     // Attributes and values [plug]
     valueSet,
+    plugEvaluated,
     plugOutdated, ///< it is not up to date any more, or was set
     plugLocked,
     plugUnlocked,
     plugMadeKeyable,
     plugMadeUnkeyable,
+    keyableChecked,   ///< before it is made keyable [isAllowed]
+    unkeyableChecked, ///< before it is made not keyable [isAllowed]
     attributeAdded,
     attributeRemoved,
     attributeRenamed,
@@ -42,16 +46,21 @@ enum class Happening
     elementRemoved,
 
     // Connections [node: the destination's, other: the source's, plug: destination, otherPlug: source]
+    connectionBegun, ///< about to be made
     connectionMade,
+    connectionEnding, ///< about to be broken
     connectionBroken,
+    connectionFailed, ///< one of a file [text, name: the names of source and destination]
 
     // DAG [node: the child, other: the parent]
     parentAdded,
     parentRemoved,
 
     // Session
+    started,
     timeChanged,
     selectionChanged,
+    namespaceRenamed, ///< [text: the former name, name: the new one]
     undone,
     redone,
     idle,
@@ -88,7 +97,7 @@ enum class Happening
     referenceImportBegun,
     referenceImportDone,
 
-    // Plug-ins [text: path before, name after loading; name when unloaded]
+    // Plug-ins [text: path, name; no name before loading]
     pluginLoadBegun,
     pluginLoadDone,
     pluginUnloadBegun,
@@ -106,6 +115,7 @@ struct Event
     const Plug* plug = nullptr;
     const Plug* otherPlug = nullptr;
     std::string text{};
+    std::string name{};
     bool* isAllowed = nullptr;
 };
 

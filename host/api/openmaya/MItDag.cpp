@@ -5,8 +5,8 @@
 
 #include "engine/scene.h"
 #include "support/apiCall.h"
-#include "support/apiTypes.h"
 #include "support/handles.h"
+#include "support/typeFilter.h"
 
 #include <algorithm>
 #include <deque>
@@ -21,16 +21,16 @@ struct tvxhost::api::DagIteration
 {
     DagPath root;
     MItDag::TraversalType order = MItDag::kDepthFirst;
-    MFn::Type filter = MFn::kInvalid;
+    TypeFilter filter;
     bool underWorld = false;
     bool pruned = false;
     std::deque<DagPath> open;
 
-    void start(const DagPath& from, MItDag::TraversalType traversal, MFn::Type type)
+    void start(const DagPath& from, MItDag::TraversalType traversal, TypeFilter types)
     {
         root = from;
         order = traversal;
-        filter = type;
+        filter = std::move(types);
         restart();
     }
 
@@ -41,7 +41,7 @@ struct tvxhost::api::DagIteration
         goToNextWanted();
     }
 
-    bool isWanted(const DagPath& path) const { return filter == MFn::kInvalid || hasFn(path.node(), filter); }
+    bool isWanted(const DagPath& path) const { return filter.accepts(path.node()); }
 
     /// Leaves the present path, and has its children visited unless they were pruned.
     void advance()
@@ -101,12 +101,31 @@ bool isOrder(MItDag::TraversalType type)
     return type == MItDag::kDepthFirst || type == MItDag::kBreadthFirst;
 }
 
-MStatus start(api::DagIteration& iteration, const DagPath& root, MItDag::TraversalType order, MFn::Type type)
+MStatus start(api::DagIteration& iteration, const DagPath& root, MItDag::TraversalType order,
+              const api::TypeFilter& filter)
 {
     if (!isOrder(order))
         return failure(MS::kInvalidParameter, StatusText::unexpectedFailure);
-    iteration.start(root, order, type);
+    iteration.start(root, order, filter);
     return MS::kSuccess;
+}
+
+MStatus startAt(api::DagIteration& iteration, const MObject& object, MItDag::TraversalType order,
+                const api::TypeFilter& filter)
+{
+    engine::DagNode* node = api::dagNodeOf(object);
+    if (!node)
+        return failure(object.isNull() ? StatusText::nullArgument : StatusText::objectIsIncompatible);
+    return start(iteration, DagPath::firstTo(*node), order, filter);
+}
+
+MStatus startAt(api::DagIteration& iteration, const MDagPath& path, MItDag::TraversalType order,
+                const api::TypeFilter& filter)
+{
+    const DagPath* root = tvxAccess::dagPath(path);
+    if (!root || !root->isValid())
+        return failure(MS::kInvalidParameter, StatusText::objectDoesNotExist);
+    return start(iteration, *root, order, filter);
 }
 
 } // namespace
@@ -116,6 +135,14 @@ MItDag::MItDag(TraversalType order, MFn::Type type, MStatus* ReturnStatus)
 {
     TVX_API_CONSTRUCTION("MItDag::MItDag", ReturnStatus);
     api::give(ReturnStatus, start(*iteration, DagPath::world(engine::Scene::current()), order, type));
+}
+
+MItDag::MItDag(MIteratorType& dagInfoObject, TraversalType order, MStatus* ReturnStatus)
+    : iteration(new api::DagIteration), reserved()
+{
+    TVX_API_CONSTRUCTION("MItDag::MItDag", ReturnStatus);
+    api::give(ReturnStatus, start(*iteration, DagPath::world(engine::Scene::current()), order,
+                                  api::TypeFilter(dagInfoObject)));
 }
 
 MItDag::~MItDag()
@@ -132,19 +159,23 @@ MStatus MItDag::reset()
 MStatus MItDag::reset(const MObject& object, TraversalType order, MFn::Type type)
 {
     TVX_API_CALL("MItDag::reset");
-    engine::DagNode* node = api::dagNodeOf(object);
-    if (!node)
-        return failure(object.isNull() ? StatusText::nullArgument : StatusText::objectIsIncompatible);
-    return start(*iteration, DagPath::firstTo(*node), order, type);
+    return startAt(*iteration, object, order, type);
 }
 
 MStatus MItDag::reset(const MDagPath& path, TraversalType order, MFn::Type type)
 {
     TVX_API_CALL("MItDag::reset");
-    const DagPath* root = tvxAccess::dagPath(path);
-    if (!root || !root->isValid())
-        return failure(MS::kInvalidParameter, StatusText::objectDoesNotExist);
-    return start(*iteration, *root, order, type);
+    return startAt(*iteration, path, order, type);
+}
+
+MStatus MItDag::reset(MIteratorType& dagInfoObject, const MObject* object, const MDagPath* path,
+                      TraversalType order)
+{
+    TVX_API_CALL("MItDag::reset");
+    const api::TypeFilter filter(dagInfoObject);
+    if (dagInfoObject.getObjectType() == MIteratorType::kMDagPathObject)
+        return startAt(*iteration, path ? *path : MDagPath(), order, filter);
+    return startAt(*iteration, object ? *object : MObject(), order, filter);
 }
 
 MObject MItDag::item(MStatus* ReturnStatus)

@@ -3,8 +3,8 @@
 
 #include "engine/scene.h"
 #include "support/apiCall.h"
-#include "support/apiTypes.h"
 #include "support/handles.h"
+#include "support/typeFilter.h"
 
 #include <list>
 
@@ -18,12 +18,12 @@ struct tvxhost::api::NodeIteration
     std::vector<engine::Ref<engine::Node>> nodes;
     std::size_t place = 0;
 
-    void start(MFn::Type filter)
+    void start(const TypeFilter& filter)
     {
         nodes.clear();
         place = 0;
         for (engine::Node* node : engine::Scene::current().nodes())
-            if (filter == MFn::kInvalid || hasFn(node, filter))
+            if (filter.accepts(node))
                 nodes.emplace_back(node);
     }
 
@@ -59,6 +59,14 @@ MItDependencyNodes::MItDependencyNodes(MFn::Type filter, MStatus* ReturnStatus)
     api::giveSuccess(ReturnStatus);
 }
 
+MItDependencyNodes::MItDependencyNodes(MIteratorType& infoObject, MStatus* ReturnStatus)
+    : iteration(new api::NodeIteration), reserved()
+{
+    TVX_API_CONSTRUCTION("MItDependencyNodes::MItDependencyNodes", ReturnStatus);
+    iteration->start(api::TypeFilter(infoObject));
+    api::giveSuccess(ReturnStatus);
+}
+
 MItDependencyNodes::~MItDependencyNodes()
 {
     delete iteration;
@@ -68,6 +76,13 @@ MStatus MItDependencyNodes::reset(MFn::Type filter)
 {
     TVX_API_CALL("MItDependencyNodes::reset");
     iteration->start(filter);
+    return MS::kSuccess;
+}
+
+MStatus MItDependencyNodes::reset(MIteratorType& infoObject)
+{
+    TVX_API_CALL("MItDependencyNodes::reset");
+    iteration->start(api::TypeFilter(infoObject));
     return MS::kSuccess;
 }
 

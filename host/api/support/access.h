@@ -17,6 +17,7 @@
 #include <maya/MDataBlock.h>
 #include <maya/MFnBase.h>
 #include <maya/MFnDagNode.h>
+#include <maya/MIteratorType.h>
 #include <maya/MObject.h>
 #include <maya/MPlug.h>
 #include <maya/MPxCommand.h>
@@ -201,6 +202,9 @@ public:
     // MSelectionList
     static tvxhost::engine::SelectionList& selection(MSelectionList& list) { return *list.list; }
     static const tvxhost::engine::SelectionList& selection(const MSelectionList& list) { return *list.list; }
+
+    // MIteratorType
+    static const std::vector<int>& filterTypes(const MIteratorType& info) { return info.filters; }
 
     // MCommandResult
     static tvxhost::api::CommandValue& commandValue(MCommandResult& result) { return *result.value; }

@@ -10,6 +10,7 @@
 
 class MDagPath;
 class MDagPathArray;
+class MIteratorType;
 
 /// Goes through the DAG from a root downwards, each instance on its own path, or through those nodes to which
 /// a function set of one type can be attached. The world comes first.
@@ -27,12 +28,19 @@ public:
     /// At the world; kInvalid asks for all nodes.
     MItDag(TraversalType = kDepthFirst, MFn::Type type = MFn::kInvalid, MStatus* ReturnStatus = nullptr);
 
+    /// At the world, over what the information object asks for.
+    MItDag(MIteratorType& dagInfoObject, TraversalType = kDepthFirst, MStatus* ReturnStatus = nullptr);
+
     virtual ~MItDag();
 
     /// Back to the root, or to another one.
     MStatus reset();
     MStatus reset(const MObject& object, TraversalType = kDepthFirst, MFn::Type type = MFn::kInvalid);
     MStatus reset(const MDagPath& path, TraversalType = kDepthFirst, MFn::Type type = MFn::kInvalid);
+
+    /// To the root that the information object says, over what it asks for.
+    MStatus reset(MIteratorType& dagInfoObject, const MObject* object, const MDagPath* path,
+                  TraversalType = kDepthFirst);
 
     /// Obsolete: as currentItem.
     MObject item(MStatus* ReturnStatus = nullptr);

@@ -7,6 +7,8 @@
 #include <maya/MTypes.h>
 #include <maya/tvxEngine.h>
 
+class MIteratorType;
+
 /// Goes through all nodes of the graph, or through those to which a function set of one type can be attached.
 class OPENMAYA_EXPORT MItDependencyNodes
 {
@@ -14,10 +16,14 @@ public:
     /// At the first node; kInvalid asks for all nodes.
     MItDependencyNodes(MFn::Type filter = MFn::kInvalid, MStatus* ReturnStatus = nullptr);
 
+    /// At the first node that the information object asks for.
+    MItDependencyNodes(MIteratorType& infoObject, MStatus* ReturnStatus = nullptr);
+
     virtual ~MItDependencyNodes();
 
     /// Back to the first node.
     MStatus reset(MFn::Type filter = MFn::kInvalid);
+    MStatus reset(MIteratorType& infoObject);
 
     /// The present node; a null object and kFailure at the end.
     MObject thisNode(MStatus* ReturnStatus = nullptr) const;
