@@ -16,8 +16,10 @@ Plug plugOf(DagNode& node, const char* name)
     return attribute ? Plug(node, *attribute) : Plug();
 }
 
+LocatorBounds locatorBounds = nullptr;
+
 /// A locator's cross: one unit each way, scaled, around its position.
-Imath::Box3d locatorBox(DagNode& node)
+Imath::Box3d crossBox(DagNode& node)
 {
     const std::vector<double> at = readNumbers(plugOf(node, "localPosition")).value;
     const std::vector<double> scale = readNumbers(plugOf(node, "localScale")).value;
@@ -25,6 +27,12 @@ Imath::Box3d locatorBox(DagNode& node)
     for (const double side : {-1.0, 1.0})
         box.extendBy(Vec3d(at[0] + side * scale[0], at[1] + side * scale[1], at[2] + side * scale[2]));
     return box;
+}
+
+Imath::Box3d locatorBox(DagNode& node)
+{
+    const auto box = locatorBounds && node.behaviour() ? locatorBounds(node) : std::nullopt;
+    return box ? *box : crossBox(node);
 }
 
 Imath::Box3d shapeBox(DagNode& node)
@@ -46,6 +54,11 @@ void finish(DagNode& node, const char* name, const Vec3d& value)
 }
 
 } // namespace
+
+void setLocatorBounds(LocatorBounds bounds)
+{
+    locatorBounds = bounds;
+}
 
 Imath::Box3d boundingBoxOf(DagNode& node)
 {

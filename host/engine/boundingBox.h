@@ -3,7 +3,16 @@
 
 #include "node.h"
 
+#include <optional>
+
 namespace tvxhost::engine {
+
+/// Tells the box of a plug-in's locator in its own space; nothing for one that says nothing of its bounds,
+/// which then has that of a plain locator.
+using LocatorBounds = std::optional<Imath::Box3d> (*)(const DagNode& locator);
+
+/// Says who knows the plug-ins' locators. Called once, before there are any.
+void setLocatorBounds(LocatorBounds bounds);
 
 /// The box of a node and all below it that is not intermediate, in the space of its parent for a transform
 /// and in its own for a shape. Empty when there is nothing.

@@ -1,6 +1,7 @@
 // Pictures of scenes: what is seen, where, and in which colour.
 #include "viewport/viewport.h"
 
+#include "engine/boundingBox.h"
 #include "viewport/camera.h"
 
 #include <maya/M3dView.h>
@@ -38,8 +39,13 @@ public:
     {
         draws(view, path, status);
     }
+
+    static bool bounded;
+    bool isBounded() const override { return bounded; }
+    MBoundingBox boundingBox() const override { return {MPoint(3, 2, 1), MPoint(-1, 0, -5)}; }
 };
 TestLocator::Draw TestLocator::draws;
+bool TestLocator::bounded = false;
 
 class TestBehaviour final : public engine::NodeBehaviour
 {
@@ -101,6 +107,21 @@ protected:
 
     Scene m_scene;
 };
+
+TEST_F(ViewportTest, APluginsLocatorHasTheBoundingBoxThatItTells)
+{
+    DagNode& transform = create("transform", "stand");
+    DagNode& locator = create("testLocator", "pin", &transform);
+    set(transform, "translateY", 10);
+    set(locator, "localScaleX", 7);
+    TestLocator::bounded = true;
+    EXPECT_EQ(engine::boundingBoxOf(transform),
+              Imath::Box3d(engine::Vec3d(-1, 10, -5), engine::Vec3d(3, 12, 1)));
+    // One that tells nothing has that of the cross.
+    TestLocator::bounded = false;
+    EXPECT_EQ(engine::boundingBoxOf(transform),
+              Imath::Box3d(engine::Vec3d(-7, 9, -1), engine::Vec3d(7, 11, 1)));
+}
 
 TEST_F(ViewportTest, AnEmptySceneShowsTheGridOnTheBackground)
 {
