@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <cassert>
+#include <tuple>
 
 namespace tvxhost::engine {
 
@@ -127,6 +128,20 @@ bool Attribute::isNestedWithinLimits() const
     return levels <= kMaxNesting && arrayDepth() <= kMaxArrayDepth &&
            std::all_of(children.begin(), children.end(),
                        [](const Ref<Attribute>& child) { return child->isNestedWithinLimits(); });
+}
+
+void Attribute::swapDeclaration(Attribute& other)
+{
+    const auto all = [](Attribute& a) {
+        return std::tie(a.longName, a.shortName, a.otherShortName, a.niceName, a.categories, a.flags,
+                        a.acceptedData, a.fields, a.defaultNumber, a.defaultData, a.minimum, a.maximum,
+                        a.softMinimum, a.softMaximum, a.disconnectBehaviour);
+    };
+    auto mine = all(*this);
+    auto theirs = all(other);
+    mine.swap(theirs);
+    for (std::size_t i = 0; i < children.size() && i < other.children.size(); ++i)
+        children[i]->swapDeclaration(*other.children[i]);
 }
 
 void Attribute::addChild(Ref<Attribute> child)

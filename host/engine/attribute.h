@@ -143,6 +143,9 @@ public:
     /// Whether it and all below it stay within kMaxNesting and kMaxArrayDepth.
     bool isNestedWithinLimits() const;
 
+    /// Exchanges how two attributes of the same structure are declared: names, flags, numbers, fields.
+    void swapDeclaration(Attribute& other);
+
     /// Adds a child (before the attribute itself is added to a type).
     void addChild(Ref<Attribute> child);
 

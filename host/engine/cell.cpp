@@ -112,9 +112,15 @@ Cell& Cell::makeElement(int logicalIndex)
         --m_goneElements;
         return *m_below[place];
     }
+    insertElement(place, std::move(element));
+    return *m_below[place];
+}
+
+void Cell::insertElement(std::size_t place, std::unique_ptr<Cell> element)
+{
     const auto offset = static_cast<std::ptrdiff_t>(place);
-    m_indices.insert(m_indices.begin() + offset, logicalIndex);
-    return **m_below.insert(m_below.begin() + offset, std::move(element));
+    m_indices.insert(m_indices.begin() + offset, element->m_index);
+    m_below.insert(m_below.begin() + offset, std::move(element));
 }
 
 void Cell::adoptValue(int logicalIndex, Cell& element) const
@@ -129,15 +135,34 @@ void Cell::adoptValue(int logicalIndex, Cell& element) const
         element.m_data = *m_packed->data(logicalIndex);
 }
 
-void Cell::removeElement(int logicalIndex)
+std::unique_ptr<Cell> Cell::takeElement(int logicalIndex)
 {
+    std::unique_ptr<Cell> element;
     if (findElement(logicalIndex)) {
-        m_below[placeOf(logicalIndex)].reset();
+        element = std::move(m_below[placeOf(logicalIndex)]);
         ++m_goneElements;
         compactElements();
     }
     if (m_packed)
         m_packed->remove(logicalIndex);
+    return element;
+}
+
+void Cell::putElement(std::unique_ptr<Cell> element)
+{
+    const std::size_t place = placeOf(element->m_index);
+    if (m_packed)
+        m_packed->remove(element->m_index);
+    const bool hasPlace = place < m_indices.size() && m_indices[place] == element->m_index;
+    if (!hasPlace) {
+        insertElement(place, std::move(element));
+    } else {
+        m_goneElements -= m_below[place] ? 0 : 1;
+        m_below[place] = std::move(element);
+    }
+    // What was put back may know for itself whether it is up to date.
+    for (Cell* cell = this; cell && !cell->mixedBelow; cell = cell->m_parent)
+        cell->mixedBelow = true;
 }
 
 int Cell::elementIndex(std::size_t n) const
@@ -221,13 +246,43 @@ void Cell::dropEmptyLinks()
             cell->m_parent->firstFreeHint = std::min(cell->m_parent->firstFreeHint, cell->m_index);
 }
 
-void Cell::connectFrom(Cell& source)
+void Cell::connectFrom(Cell& source, Cell* before)
 {
     Links& mine = makeLinks();
     Links& theirs = source.makeLinks();
     mine.m_source = &source;
+    if (before && before->source() == &source) {
+        mine.m_place = source.makeGapBefore(*before);
+        theirs.m_destinations[mine.m_place] = this;
+        --theirs.m_gone;
+        return;
+    }
     mine.m_place = theirs.m_destinations.size();
     theirs.m_destinations.push_back(this);
+}
+
+Cell* Cell::nextOfSource() const
+{
+    const std::vector<Cell*>& cells = m_links->m_source->m_links->m_destinations;
+    const auto behind = cells.begin() + static_cast<std::ptrdiff_t>(m_links->m_place) + 1;
+    const auto next = std::find_if(behind, cells.end(), [](const Cell* cell) { return cell; });
+    return next == cells.end() ? nullptr : *next;
+}
+
+/// The free place right before a destination of this cell. Where there is none many are made: more may come.
+std::size_t Cell::makeGapBefore(const Cell& destination)
+{
+    std::vector<Cell*>& cells = m_links->m_destinations;
+    const std::size_t place = destination.m_links->m_place;
+    if (place > 0 && !cells[place - 1])
+        return place - 1;
+    const std::size_t count = cells.size();
+    cells.insert(cells.begin() + static_cast<std::ptrdiff_t>(place), count, nullptr);
+    m_links->m_gone += count;
+    for (std::size_t i = place + count; i < cells.size(); ++i)
+        if (cells[i])
+            cells[i]->m_links->m_place = i;
+    return place + count - 1;
 }
 
 void Cell::disconnectFromSource()
@@ -256,20 +311,35 @@ Cell& CellStore::make(Attribute& topLevel)
 {
     if (Cell* cell = find(topLevel))
         return *cell;
-    const auto place =
-        std::upper_bound(m_roots.begin(), m_roots.end(), &topLevel,
-                         [](const Attribute* attribute, const std::unique_ptr<Cell>& cell) {
-                             return std::less<const Attribute*>()(attribute, &cell->attribute());
-                         });
-    return **m_roots.insert(place, std::make_unique<Cell>(*this, nullptr, topLevel, Plug::kNoIndex));
+    return **m_roots.insert(placeFor(topLevel),
+                            std::make_unique<Cell>(*this, nullptr, topLevel, Plug::kNoIndex));
 }
 
-void CellStore::remove(const Attribute& topLevel)
+/// Where the cell of an attribute without one goes.
+std::vector<std::unique_ptr<Cell>>::const_iterator CellStore::placeFor(const Attribute& topLevel) const
 {
-    m_roots.erase(
-        std::remove_if(m_roots.begin(), m_roots.end(),
-                       [&](const std::unique_ptr<Cell>& cell) { return &cell->attribute() == &topLevel; }),
-        m_roots.end());
+    return std::upper_bound(m_roots.begin(), m_roots.end(), &topLevel,
+                            [](const Attribute* attribute, const std::unique_ptr<Cell>& cell) {
+                                return std::less<const Attribute*>()(attribute, &cell->attribute());
+                            });
+}
+
+std::unique_ptr<Cell> CellStore::take(const Attribute& topLevel)
+{
+    const auto place = std::find_if(m_roots.begin(), m_roots.end(), [&](const std::unique_ptr<Cell>& cell) {
+        return &cell->attribute() == &topLevel;
+    });
+    if (place == m_roots.end())
+        return nullptr;
+    std::unique_ptr<Cell> root = std::move(*place);
+    m_roots.erase(place);
+    return root;
+}
+
+void CellStore::put(std::unique_ptr<Cell> root)
+{
+    (void)take(root->attribute());
+    m_roots.insert(placeFor(root->attribute()), std::move(root));
 }
 
 namespace {
@@ -341,6 +411,34 @@ Cell* CellStore::make(const Plug& plug)
                                 : &cell->makeChild(*step.attribute);
     }
     return cell;
+}
+
+Plug CellStore::firstMissingElement(const Plug& plug) const
+{
+    if (plug.indexCount() == 0)
+        return {};
+    const Way way(plug);
+    const Cell* cell = nullptr;
+    bool isLost = false; // what comes next has no cell
+    for (const Step& step : way) {
+        if (!step.isElement) {
+            if (!isLost)
+                cell = cell ? cell->findChild(*step.attribute) : find(*step.attribute);
+            isLost = !cell;
+            continue;
+        }
+        if (!isLost && !cell->findElement(step.index) && cell->packed() && cell->packed()->has(step.index))
+            return {};
+        cell = isLost ? nullptr : cell->findElement(step.index);
+        if (cell)
+            continue;
+        Plug element(m_node, *step.attribute);
+        for (const Step* above = way.begin(); above <= &step; ++above)
+            if (above->isElement)
+                element.selectIndex(*above->attribute, above->index);
+        return element;
+    }
+    return {};
 }
 
 ValuePlace CellStore::valueOf(const Plug& plug) const

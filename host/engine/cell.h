@@ -71,8 +71,10 @@ public:
     Cell* findElement(int logicalIndex) const;
     /// An element that was packed moves into its own cell.
     Cell& makeElement(int logicalIndex);
-    /// Forgets an element that has no connections.
-    void removeElement(int logicalIndex);
+    /// Takes an element out that has no connections; null when it has no cell or does not exist.
+    std::unique_ptr<Cell> takeElement(int logicalIndex);
+    /// Puts an element back that was taken from here; one that is there now makes room.
+    void putElement(std::unique_ptr<Cell> element);
     /// How many elements an array has, with cells or packed.
     std::size_t elementCount() const
     {
@@ -86,6 +88,8 @@ public:
     const PackedElements* packed() const { return m_packed.get(); }
     /// Where a packed element is or shall be; null when the array cannot be packed or the element has a cell.
     PackedElements* packedFor(int logicalIndex);
+    /// Exchanges all packed elements for others of the same kind.
+    void swapPacked(std::unique_ptr<PackedElements>& other) { m_packed.swap(other); }
 
     // Value
     std::uint8_t* bytes() const { return m_bytes; } ///< null when the plug holds no plain numbers
@@ -97,7 +101,10 @@ public:
     Cell* source() const { return m_links ? m_links->source() : nullptr; }
     /// How many cells at and below this one have a connection.
     std::size_t linkedCells() const { return m_linkedCells; }
-    void connectFrom(Cell& source);
+    /// Connects, in the source's order right before another of its destinations; null: after all others.
+    void connectFrom(Cell& source, Cell* before = nullptr);
+    /// The destination of this one's source that follows this one; null when it is the last.
+    Cell* nextOfSource() const;
     void disconnectFromSource();
 
     /// For arrays: all elements below this index are connected. Raised by those who look for a free one.
@@ -121,6 +128,8 @@ private:
     void countLinked(bool more);
     void dropEmptyLinks();
     void compactDestinations();
+    std::size_t makeGapBefore(const Cell& destination);
+    void insertElement(std::size_t place, std::unique_ptr<Cell> element);
 
     CellStore& m_store;
     Cell* m_parent;
@@ -156,7 +165,9 @@ public:
 
     Cell* find(const Attribute& topLevel) const;
     Cell& make(Attribute& topLevel);
-    void remove(const Attribute& topLevel);
+    /// Takes the cell of an attribute out; null when there is none.
+    std::unique_ptr<Cell> take(const Attribute& topLevel);
+    void put(std::unique_ptr<Cell> root);
     const std::vector<std::unique_ptr<Cell>>& roots() const { return m_roots; }
 
     /// The cell of a plug; null when there is none (or an index on the way is undetermined).
@@ -166,6 +177,8 @@ public:
     /// The cell of a plug or of the nearest thing above it.
     Cell* findNearest(const Plug& plug) const;
     ValuePlace valueOf(const Plug& plug) const;
+    /// The outermost element on the way to a plug that does not exist yet; a null plug when all do.
+    Plug firstMissingElement(const Plug& plug) const;
 
     /// Raised with every change of a value, for those who keep something derived from values.
     std::uint64_t edits = 0;
@@ -177,6 +190,8 @@ public:
     std::uint64_t derivedMeshEdits = 0;
 
 private:
+    std::vector<std::unique_ptr<Cell>>::const_iterator placeFor(const Attribute& topLevel) const;
+
     Node& m_node;
     std::vector<std::unique_ptr<Cell>> m_roots; ///< sorted by the address of the attribute
 };

@@ -2,6 +2,7 @@
 #include "dirtySpread.h"
 
 #include "node.h"
+#include "observers.h"
 #include "scene.h"
 
 #include <algorithm>
@@ -136,6 +137,7 @@ void DirtySpread::outdateDestinationsAtAndBelow(const Cell& cell)
 void DirtySpread::spreadFrom(const Plug& plug)
 {
     Node& node = *plug.node();
+    node.scene().observers().tell({Happening::plugOutdated, &node, nullptr, &plug});
     const Cell* cell = node.cells().findNearest(plug);
     if (cell && node.cells().find(plug) == cell) {
         outdateDestinationsAtAndBelow(*cell);

@@ -3,6 +3,7 @@
 #include "dataBlock.h"
 #include "dirtySpread.h"
 #include "node.h"
+#include "observers.h"
 #include "scene.h"
 #include "values.h"
 
@@ -88,6 +89,7 @@ Outcome compute(const Plug& plug)
         break;
     }
     cell->failureTold = false;
+    plug.node()->scene().observers().tell({Happening::plugEvaluated, plug.node(), nullptr, &plug});
     return {};
 }
 
@@ -185,6 +187,8 @@ Outcome evaluate(const Plug& plug)
     if (!plug.isValid())
         return {Reason::doesNotExist, "the node is gone or has no such attribute"};
     Node& node = *plug.node();
+    // What is computed is not edited.
+    const Journal::Into nothing(node.scene().journal(), nullptr);
     Outcome outcome = pullAbove(node.cells().findNearest(plug));
     if (node.isOutput(*plug.attribute()) && !isFed(node.cells().findNearest(plug)) && isDirty(plug))
         note(outcome, compute(plug));

@@ -2,6 +2,8 @@
 #include "node.h"
 
 #include "cell.h"
+#include "duplicate.h"
+#include "observers.h"
 #include "scene.h"
 
 #include <algorithm>
@@ -39,6 +41,15 @@ Outcome checkNames(const Node& node, const Attribute& attribute)
         if (Outcome outcome = checkNames(node, *child); !outcome)
             return outcome;
     return {};
+}
+
+void tellAttribute(Happening what, Node& node, Attribute& attribute)
+{
+    Observers& observers = node.scene().observers();
+    if (!observers.want(what))
+        return;
+    const Plug plug(node, attribute);
+    observers.tell({what, &node, nullptr, &plug});
 }
 
 bool isLegalAttributeName(const std::string& name)
@@ -113,7 +124,91 @@ Outcome Node::addDynamicAttribute(const Ref<Attribute>& attribute)
     markDynamic(*attribute);
     m_dynamic.push_back(attribute);
     m_scene->isModified = true;
+    const auto remove = [node = Ref<Node>(this), attribute] {
+        if (node->isAlive())
+            node->removeAttribute(*attribute);
+    };
+    Journal& journal = m_scene->journal();
+    if (journal.isRecording())
+        journal.record(std::make_unique<Making<decltype(remove)>>(journal, remove));
+    tellAttribute(Happening::attributeAdded, *this, *attribute);
     return {};
+}
+
+/// That an attribute was removed, with all that the node held for it; the removal itself is the first redo().
+class Node::AttributeRemoval final : public Edit
+{
+public:
+    AttributeRemoval(Node& node, Attribute& attribute) : m_node(&node), m_attribute(&attribute) {}
+    void undo() override
+    {
+        if (!m_node->isAlive())
+            return;
+        auto& all = m_node->m_dynamic;
+        all.insert(all.begin() + static_cast<std::ptrdiff_t>(std::min(m_place, all.size())), m_attribute);
+        if (m_cell)
+            m_node->cells().put(std::move(m_cell));
+        tellAttribute(Happening::attributeAdded, *m_node, *m_attribute);
+    }
+    void redo() override
+    {
+        auto& all = m_node->m_dynamic;
+        const auto found = std::find(all.begin(), all.end(), m_attribute);
+        if (found == all.end())
+            return;
+        m_place = static_cast<std::size_t>(found - all.begin());
+        tellAttribute(Happening::attributeRemoved, *m_node, *m_attribute);
+        m_cell = m_node->cells().take(*m_attribute);
+        all.erase(found);
+    }
+
+private:
+    Ref<Node> m_node;
+    Ref<Attribute> m_attribute;
+    std::size_t m_place = 0;
+    std::unique_ptr<Cell> m_cell;
+};
+
+void Node::removeAttribute(Attribute& attribute)
+{
+    for (const Plug& plug : connectedPlugs(*this)) {
+        if (!plug.isAtOrBelow(Plug(*this, attribute)))
+            continue;
+        if (const Plug source = sourceOf(plug); !source.isNull())
+            m_scene->breakConnection(source, plug);
+        for (const Plug& destination : destinationsOf(plug))
+            m_scene->breakConnection(plug, destination);
+    }
+    auto removal = std::make_unique<AttributeRemoval>(*this, attribute);
+    removal->redo();
+    m_scene->journal().record(std::move(removal));
+    m_scene->isModified = true;
+}
+
+void Node::keepDeclaration(Attribute& attribute)
+{
+    Journal& journal = m_scene->journal();
+    if (!journal.isRecording())
+        return;
+    const auto exchange = [now = Ref<Attribute>(&attribute), held = copyOf(attribute)] {
+        now->swapDeclaration(*held);
+    };
+    journal.record(exchange, exchange);
+}
+
+void Node::setUuid(std::string uuid)
+{
+    Event change{Happening::uuidChanged, this};
+    change.text = m_uuid;
+    std::swap(m_uuid, uuid);
+    m_scene->journal().keepFormer(m_uuid, std::move(uuid), Ref<Node>(this));
+    m_scene->observers().tell(change);
+}
+
+void Node::setLocked(bool locked)
+{
+    m_scene->journal().keep(isLockedNode, Ref<Node>(this));
+    isLockedNode = locked;
 }
 
 Outcome Node::removeDynamicAttribute(Attribute& attribute)
@@ -125,17 +220,7 @@ Outcome Node::removeDynamicAttribute(Attribute& attribute)
                 "'" + attribute.longName + "' is not a dynamic attribute of '" + m_name + "'"};
     if (isLocked(Plug(*this, attribute)))
         return {Reason::lockedOrConnected, "'" + m_name + "." + attribute.longName + "' is locked"};
-    for (const Plug& plug : connectedPlugs(*this)) {
-        if (!plug.isAtOrBelow(Plug(*this, attribute)))
-            continue;
-        if (const Plug source = sourceOf(plug); !source.isNull())
-            m_scene->breakConnection(source, plug);
-        for (const Plug& destination : destinationsOf(plug))
-            m_scene->breakConnection(plug, destination);
-    }
-    m_cells->remove(attribute);
-    m_dynamic.erase(found);
-    m_scene->isModified = true;
+    removeAttribute(attribute);
     return {};
 }
 
@@ -154,6 +239,7 @@ Outcome Node::setAlias(const Plug& plug, const std::string& alias)
         if (findAttribute(alias))
             return {Reason::nameTaken, "'" + m_name + "' has an attribute named '" + alias + "'"};
     }
+    m_scene->journal().keep(m_aliases, Ref<Node>(this));
     m_aliases.erase(std::remove_if(m_aliases.begin(), m_aliases.end(),
                                    [&](const auto& entry) { return entry.second == path; }),
                     m_aliases.end());

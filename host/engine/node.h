@@ -58,7 +58,7 @@ public:
     /// Name with namespace, without DAG path.
     const std::string& name() const { return m_name; }
     const std::string& uuid() const { return m_uuid; }
-    void setUuid(std::string uuid) { m_uuid = std::move(uuid); }
+    void setUuid(std::string uuid);
     NodeBehaviour* behaviour() const { return m_behaviour.get(); }
     DagNode* asDag();
     const DagNode* asDag() const;
@@ -68,6 +68,9 @@ public:
     bool isLockedNode = false;
     bool isReferenced = false;
     bool doNotWrite = false;
+
+    /// Locks or unlocks it against changes of what it is.
+    void setLocked(bool locked);
 
     /// Static and dynamic top-level attributes, static first.
     std::vector<Attribute*> attributes() const;
@@ -84,6 +87,9 @@ public:
     }
     Outcome addDynamicAttribute(const Ref<Attribute>& attribute);
     Outcome removeDynamicAttribute(Attribute& attribute);
+    /// Remembers for undo how a dynamic attribute, with what is below it, is declared: to be called right
+    /// before that changes.
+    void keepDeclaration(Attribute& attribute);
 
     /// Gives a plug of this node a further name, under which it is found; an empty one takes it away.
     /// nameTaken when an attribute or another plug has the name, invalidName for what is not a legal one.
@@ -107,12 +113,18 @@ public:
     /// Rises with every node that is made: tells which of two came first.
     std::uint64_t serial() const { return m_serial; }
 
+    /// The step of the journal in which it was made; 0 for none.
+    std::uint64_t madeInStep() const { return m_madeInStep; }
+
     CellStore& cells() { return *m_cells; }
     const CellStore& cells() const { return *m_cells; }
 
 private:
     friend class NameTable;
     friend class Scene;
+    class AttributeRemoval;
+    void removeAttribute(Attribute& attribute);
+
     Scene* m_scene;
     NodeType* m_type;
     std::string m_name;
@@ -124,6 +136,9 @@ private:
     std::list<Node*>::iterator m_place; ///< in the scene's list
     std::uint64_t m_serial = 0;         ///< rises with every node that is made
     std::size_t m_nameSlot = 0;         ///< among the nodes of its name
+    std::uint64_t m_madeInStep = 0;
+    std::size_t m_departures = 0; ///< edits that can bring it back
+    bool m_isWaiting = false;     ///< out of the scene, and may come back
 };
 
 /// A node with a place in the DAG: transforms, shapes and the world.

@@ -77,7 +77,8 @@ public:
     /// True when some declared affects reaches the attribute, a parent or a child of it: then it is computed.
     bool isOutput(const Attribute& attribute) const;
 
-    int liveNodes = 0; ///< nodes of exactly this type in the scene
+    int liveNodes = 0;    ///< nodes of exactly this type in the scene
+    int waitingNodes = 0; ///< those that are gone, but that undo or redo may bring back
 
 private:
     friend class TypeTable;

@@ -5,7 +5,9 @@
 #include "dirtySpread.h"
 #include "node.h"
 #include "number.h"
+#include "observers.h"
 #include "scene.h"
+#include "valueEdits.h"
 #include "values.h"
 
 #include <algorithm>
@@ -28,12 +30,6 @@ Outcome checkAlive(const Plug& plug)
 Outcome wrongKind(const Plug& plug, const char* wanted)
 {
     return {Reason::wrongKind, "'" + plug.name() + "' does not hold " + wanted};
-}
-
-bool hasUndeterminedIndex(const Plug& plug)
-{
-    return std::any_of(plug.indices().begin(), plug.indices().begin() + plug.indexCount(),
-                       [](int index) { return index < 0; });
 }
 
 bool holdsData(const Attribute& attribute)
@@ -59,7 +55,7 @@ Outcome checkSettable(const Plug& plug)
     const AttributeFlags& flags = plug.attribute()->flags;
     if (!flags.writable && !flags.internal)
         return {Reason::notWritable, "The attribute '" + plug.name() + "' cannot be set"};
-    if (hasUndeterminedIndex(plug))
+    if (lacksIndex(plug))
         return {Reason::badIndex, "'" + plug.name() + "' lacks an index"};
     if (isLocked(plug) || isFedAtOrAbove(plug))
         return {Reason::lockedOrConnected,
@@ -116,6 +112,9 @@ void finishWrite(const Plug& plug)
         markClean(*cell);
     spreadDirty(plug);
     plug.node()->scene().isModified = true;
+    // What is computed is told when it is evaluated.
+    if (!plug.node()->isOutput(*plug.attribute()))
+        plug.node()->scene().observers().tell({Happening::valueSet, plug.node(), nullptr, &plug});
 }
 
 Outcome writeMatrixNumbers(const Plug& plug, const std::vector<double>& values)
@@ -317,6 +316,7 @@ Outcome writeElements(const Plug& arrayPlug, int first, const double* values, st
                 return outcome;
         return {};
     }
+    rememberPacked(arrayPlug);
     PackedElements& packed = *array.packedFor(first);
     const std::size_t size = sizeOf(attribute.number);
     for (std::size_t i = 0; i < count / each; ++i) {
@@ -424,11 +424,9 @@ Outcome removeElement(const Plug& arrayPlug, int logicalIndex)
             for (const Plug& destination : destinationsOf(plug))
                 node.scene().breakConnection(plug, destination);
         }
-    // Told from the element: what else is in the array has not changed.
-    noteEdit(element);
-    spreadDirty(element);
-    array->removeElement(logicalIndex);
-    node.scene().isModified = true;
+    auto removal = std::make_unique<ElementRemoval>(element);
+    removal->redo();
+    node.scene().journal().record(std::move(removal));
     return {};
 }
 
@@ -442,12 +440,52 @@ PlugState stateOf(const Plug& plug)
     return cell ? cell->state : PlugState();
 }
 
+namespace {
+
+bool isKeyable(const Plug& plug, const PlugState& state)
+{
+    return state.keyable.value_or(plug.attribute()->flags.keyable);
+}
+
+/// The state as wished, unless somebody forbids that it becomes keyable or not.
+PlugState allowedState(const Plug& plug, const PlugState& present, PlugState wish)
+{
+    const bool keyable = isKeyable(plug, wish);
+    const Happening check = keyable ? Happening::keyableChecked : Happening::unkeyableChecked;
+    Observers& observers = plug.node()->scene().observers();
+    if (keyable == isKeyable(plug, present) || !observers.want(check))
+        return wish;
+    bool isAllowed = true;
+    Event event{check, plug.node(), nullptr, &plug};
+    event.isAllowed = &isAllowed;
+    observers.tell(event);
+    if (!isAllowed)
+        wish.keyable = present.keyable;
+    return wish;
+}
+
+void tellState(const Plug& plug, const PlugState& former, const PlugState& state)
+{
+    Observers& observers = plug.node()->scene().observers();
+    const auto tell = [&](Happening what) { observers.tell({what, plug.node(), nullptr, &plug}); };
+    if (former.locked != state.locked)
+        tell(state.locked ? Happening::plugLocked : Happening::plugUnlocked);
+    if (isKeyable(plug, former) != isKeyable(plug, state))
+        tell(isKeyable(plug, state) ? Happening::plugMadeKeyable : Happening::plugMadeUnkeyable);
+}
+
+} // namespace
+
 void setState(const Plug& plug, const PlugState& state)
 {
     if (!plug.isValid())
         return;
-    if (Cell* cell = plug.node()->cells().make(plug))
-        cell->state = state;
+    rememberState(plug);
+    Cell* cell = plug.node()->cells().make(plug);
+    if (!cell)
+        return;
+    const PlugState former = std::exchange(cell->state, allowedState(plug, cell->state, state));
+    tellState(plug, former, cell->state);
 }
 
 bool isLocked(const Plug& plug)

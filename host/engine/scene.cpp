@@ -4,6 +4,7 @@
 #include "animCurve.h"
 #include "cell.h"
 #include "defaultNodes.h"
+#include "dirtySpread.h"
 #include "glob.h"
 #include "nameTable.h"
 #include "observers.h"
@@ -58,10 +59,21 @@ void makeVisibilityNonKeyable(Node& shape)
     setState(Plug(shape, *visibility), state);
 }
 
+/// What a node computes may hang on things that changed while it was away.
+void outdateComputed(Node& node)
+{
+    DirtySpread spread;
+    for (const std::unique_ptr<Cell>& root : node.cells().roots())
+        if (node.isOutput(root->attribute()))
+            spread.outdated(*root);
+    spread.run();
+}
+
 } // namespace
 
 Scene::Scene(bool batch)
-    : m_batch(batch), m_observers(std::make_unique<Observers>()), m_types(std::make_unique<TypeTable>()), m_names(std::make_unique<NameTable>())
+    : m_batch(batch), m_observers(std::make_unique<Observers>()), m_types(std::make_unique<TypeTable>()),
+      m_names(std::make_unique<NameTable>()), m_journal(!batch)
 {
     if (!g_current)
         g_current = this;
@@ -74,7 +86,6 @@ Scene::~Scene()
 {
     // Those who listened may be gone before the scene is.
     m_observers = std::make_unique<Observers>();
-    onDeleted.clear();
     emptyScene();
     retireNode(*m_world);
     if (g_current == this)
@@ -120,13 +131,86 @@ void Scene::adopt(Node& node, const std::string& name)
     ++node.type().liveNodes;
 }
 
+/// That a node left the scene. It can come back for as long as one of these lives.
+class Scene::Departure final : public Edit
+{
+public:
+    Departure(Node& node, Ref<Node> next) : m_node(&node), m_next(std::move(next)) { ++m_node->m_departures; }
+    ~Departure() override
+    {
+        if (--m_node->m_departures == 0 && m_node->m_isWaiting)
+            m_node->scene().dispose(*m_node);
+    }
+    void undo() override
+    {
+        if (m_node->m_isWaiting)
+            m_node->scene().comeBack(*m_node, m_next);
+    }
+    void redo() override
+    {
+        if (!m_node->isAlive())
+            return;
+        m_node->scene().observers().tell({Happening::nodeRemoved, m_node.get()});
+        m_next = m_node->scene().leave(*m_node);
+    }
+
+private:
+    Ref<Node> m_node;
+    Ref<Node> m_next;
+};
+
 void Scene::retireNode(Node& node)
+{
+    const Ref<Node> next = leave(node);
+    if (m_journal.isRecording())
+        m_journal.record(std::make_unique<Departure>(node, next));
+    else if (node.m_departures == 0)
+        dispose(node);
+}
+
+/// Takes a node out with all that it holds; gives the one that follows it.
+Ref<Node> Scene::leave(Node& node)
 {
     if (&node != m_world)
         m_names->remove(node);
-    m_nodes.erase(node.m_place);
+    const auto next = m_nodes.erase(node.m_place);
     --node.type().liveNodes;
+    ++node.type().waitingNodes;
     node.setAlive(false);
+    node.m_isWaiting = true;
+    m_waiting.insert(&node);
+    return next == m_nodes.end() ? Ref<Node>() : Ref<Node>(*next);
+}
+
+void Scene::comeBack(Node& node, const Ref<Node>& next)
+{
+    // Nodes made without being recorded may have taken the name.
+    const bool isTaken =
+        node.asDag() ? m_names->isTakenByDependencyNode(node.name()) : m_names->isTaken(node.name());
+    if (isTaken)
+        node.m_name = m_names->nextFree(node.name());
+    m_names->add(node);
+    auto place = next && next->isAlive() ? next->m_place : m_nodes.end();
+    while (!next && place != m_nodes.begin() && (*std::prev(place))->m_serial > node.m_serial)
+        --place;
+    node.m_place = m_nodes.insert(place, &node);
+    ++node.type().liveNodes;
+    --node.type().waitingNodes;
+    node.m_isWaiting = false;
+    m_waiting.erase(&node);
+    node.setAlive(true);
+    outdateComputed(node);
+    m_observers->tell({Happening::nodeAdded, &node});
+}
+
+/// Ends a node that cannot come back any more.
+void Scene::dispose(Node& node)
+{
+    m_waiting.erase(&node);
+    node.m_isWaiting = false;
+    --node.type().waitingNodes;
+    m_observers->tell({Happening::nodeDestroyed, &node});
+    m_observers->forget(node);
     node.m_behaviour.reset();
     node.m_cells = std::make_unique<CellStore>(node);
     node.release();
@@ -173,25 +257,41 @@ Expected<Node*> Scene::makeNode(NodeType& type, const std::string& name, DagNode
 
     Ref<Node> node(type.isDag ? new DagNode(*this, type) : new Node(*this, type));
     adopt(*node, fixedName);
+    node->m_madeInStep = m_journal.currentStep();
+    if (Outcome outcome = complete(*node, isNamed ? fixedName : std::string()); !outcome)
+        return outcome;
+    const auto remove = [node] {
+        if (node->isAlive())
+            node->scene().erase(*node);
+    };
+    if (m_journal.isRecording())
+        m_journal.record(std::make_unique<Making<decltype(remove)>>(m_journal, remove));
+    isModified = true;
+    m_observers->tell({Happening::nodeAdded, node.get()});
+    return node.get();
+}
+
+/// What a node's type and its code make of it. What that edits comes and goes with the node.
+Outcome Scene::complete(Node& node, const std::string& fixedName)
+{
+    const Journal::Into nothing(m_journal, nullptr);
+    NodeType& type = node.type();
     if (type.isShape)
-        makeVisibilityNonKeyable(*node);
+        makeVisibilityNonKeyable(node);
     const NodeType* coded = &type;
     while (coded && !coded->behaviour)
         coded = coded->parent;
-    if (coded) {
-        node->m_behaviour = coded->behaviour(*node);
-        if (!node->m_behaviour) {
-            retireNode(*node);
-            return {Reason::failed, "the code of '" + type.name + "' made no node"};
-        }
-        node->m_behaviour->postConstructor();
-        if (isNamed && node->name() != fixedName)
-            setName(*node, fixedName);
+    if (!coded)
+        return {};
+    node.m_behaviour = coded->behaviour(node);
+    if (!node.m_behaviour) {
+        retireNode(node);
+        return {Reason::failed, "the code of '" + type.name + "' made no node"};
     }
-    isModified = true;
-    for (const auto& listener : onCreated)
-        listener(*node);
-    return node.get();
+    node.m_behaviour->postConstructor();
+    if (!fixedName.empty() && node.name() != fixedName)
+        putName(node, fixedName);
+    return {};
 }
 
 Expected<Node*> Scene::createUnknown(const std::string& type, const std::string& name, DagNode* parent,
@@ -221,6 +321,15 @@ Outcome Scene::deleteNode(Node& node)
     if (node.isDefaultNode)
         return {Reason::readOnly, "'" + node.name() + "' is a default node and cannot be deleted"};
 
+    const Ref<Node> keptAlive(&node);
+    m_observers->tell({Happening::nodeAboutToBeDeleted, &node});
+    if (node.isAlive())
+        erase(node);
+    return {};
+}
+
+void Scene::erase(Node& node)
+{
     // What hangs below goes too unless it hangs elsewhere as well: listed first, parents before children.
     std::vector<Ref<Node>> doomed = {Ref<Node>(&node)};
     for (std::size_t i = 0; i < doomed.size(); ++i) {
@@ -238,34 +347,49 @@ Outcome Scene::deleteNode(Node& node)
         }
     }
     for (const Ref<Node>& each : doomed) {
-        for (const auto& listener : onDeleted)
-            listener(*each);
+        m_observers->tell({Happening::nodeLeaving, each.get()});
         disconnectAll(*each);
     }
     for (const Ref<Node>& each : doomed) {
-        m_selection.removeNode(*each);
-        m_hilite.removeNode(*each);
+        deselect(m_selection, *each);
+        deselect(m_hilite, *each);
+        m_observers->tell({Happening::nodeRemoved, each.get()});
         retireNode(*each);
     }
     isModified = true;
-    return {};
+}
+
+void Scene::deselect(SelectionList& list, const Node& node)
+{
+    const std::vector<SelectionList::Placed> items = list.removeNode(node);
+    if (items.empty())
+        return;
+    m_journal.record(
+        [&list, items] { list.putBack(items); },
+        [&list, removed = Ref<Node>(items.front().second.node)] { (void)list.removeNode(*removed); });
+    if (&list == &m_selection)
+        m_observers->tell({Happening::selectionChanged});
 }
 
 void Scene::makeUnknown(NodeType& type)
 {
     NodeType* retired = nullptr;
-    for (Node* node : m_nodes) {
+    const auto convert = [&](Node* node, int NodeType::*count) {
         if (&node->type() != &type)
-            continue;
+            return;
         if (!retired)
             retired = &m_types->retire(type);
         node->m_behaviour.reset();
         node->unknownType = type.name;
         node->unknownPlugin = type.plugin;
         node->m_type = retired;
-        --type.liveNodes;
-        ++retired->liveNodes;
-    }
+        --(type.*count);
+        ++(retired->*count);
+    };
+    for (Node* node : m_nodes)
+        convert(node, &NodeType::liveNodes);
+    for (Node* node : m_waiting)
+        convert(node, &NodeType::waitingNodes);
 }
 
 // Names
@@ -313,6 +437,24 @@ std::string Scene::uniqueName(const std::string& wish, const Node* except, const
 
 void Scene::setName(Node& node, const std::string& name)
 {
+    if (m_journal.isRecording()) {
+        const auto take = [this, named = Ref<Node>(&node)](const std::string& wish) {
+            const DagNode* dag = named->asDag();
+            const bool isFloating = dag && dag->m_parents.empty(); // about to be put in its place
+            if (named->isAlive())
+                putName(*named, isFloating
+                                    ? wish
+                                    : uniqueName(wish, named.get(), dag ? dag->m_parents.front() : nullptr));
+        };
+        m_journal.record([take, before = node.name()] { take(before); }, [take, name] { take(name); });
+    }
+    putName(node, name);
+}
+
+void Scene::putName(Node& node, const std::string& name)
+{
+    Event renaming{Happening::nodeRenamed, &node};
+    renaming.text = node.name();
     DagNode* dag = node.asDag();
     if (dag)
         for (const DagNode* parent : dag->m_parents)
@@ -323,6 +465,8 @@ void Scene::setName(Node& node, const std::string& name)
     if (dag)
         for (const DagNode* parent : dag->m_parents)
             m_names->addChild(*parent, *dag);
+    if (renaming.text != name)
+        m_observers->tell(renaming);
 }
 
 Expected<std::string> Scene::rename(Node& node, const std::string& name, bool createNamespace)
@@ -354,8 +498,12 @@ Expected<std::string> Scene::rename(Node& node, const std::string& name, bool cr
 
 void Scene::addNamespaceOf(const std::string& name)
 {
-    for (std::size_t colon = name.find(':'); colon != std::string::npos; colon = name.find(':', colon + 1))
-        m_namespaces.insert(name.substr(0, colon));
+    for (std::size_t colon = name.find(':'); colon != std::string::npos; colon = name.find(':', colon + 1)) {
+        const std::string space = name.substr(0, colon);
+        if (m_namespaces.insert(space).second && m_journal.isRecording())
+            m_journal.record([this, space] { m_namespaces.erase(space); },
+                             [this, space] { m_namespaces.insert(space); });
+    }
 }
 
 bool Scene::hasNamespace(const std::string& name) const
@@ -379,6 +527,7 @@ Outcome Scene::setCurrentNamespace(const std::string& name)
 {
     if (!hasNamespace(name))
         return {Reason::doesNotExist, "there is no namespace '" + name + "'"};
+    m_journal.keep(m_namespace);
     m_namespace = ":" + withoutColon(name);
     return {};
 }
@@ -392,29 +541,50 @@ std::vector<std::string> Scene::namespaces() const
 
 void Scene::setSelection(SelectionList selection)
 {
-    m_selection = std::move(selection);
+    if (selection == m_selection)
+        return;
+    std::swap(m_selection, selection);
+    m_journal.keepFormer(m_selection, std::move(selection));
+    m_observers->tell({Happening::selectionChanged});
+}
+
+void Scene::setHilite(SelectionList hilite)
+{
+    if (hilite == m_hilite)
+        return;
+    std::swap(m_hilite, hilite);
+    m_journal.keepFormer(m_hilite, std::move(hilite));
 }
 
 void Scene::setTime(double seconds)
 {
-    m_time = seconds;
-    outdateTimedCurves(*this);
-    Expected<Node*> clock = findNode(":time1");
-    if (!clock)
+    if (seconds == m_time)
         return;
-    if (Expected<Plug> out = clock.value->findPlug("outTime"))
-        storeInternal(out.value, Number(seconds));
+    const auto go = [this](double time) {
+        m_time = time;
+        outdateTimedCurves(*this);
+    };
+    m_journal.record([go, before = m_time] { go(before); }, [go, seconds] { go(seconds); });
+    go(seconds);
+    if (Expected<Node*> clock = findNode(":time1"))
+        if (Expected<Plug> out = clock.value->findPlug("outTime"))
+            storeInternal(out.value, Number(seconds));
+    m_observers->tell({Happening::timeChanged});
 }
 
 void Scene::emptyScene()
 {
-    m_selection.clear();
+    m_journal.flush();
+    const Journal::Into nothing(m_journal, nullptr);
+    setSelection({});
     m_hilite.clear();
     std::vector<Node*> all(m_nodes.begin(), m_nodes.end());
     for (Node* node : all)
         if (node != m_world)
-            for (const auto& listener : onDeleted)
-                listener(*node);
+            m_observers->tell({Happening::nodeLeaving, node});
+    for (Node* node : all)
+        if (node != m_world)
+            m_observers->tell({Happening::nodeRemoved, node});
     m_names->clear();
     for (Node* node : all) {
         if (DagNode* dag = node->asDag()) {
@@ -428,10 +598,13 @@ void Scene::emptyScene()
     for (Node* node : all)
         if (node != m_world)
             retireNode(*node);
+    while (!m_waiting.empty())
+        dispose(**m_waiting.begin());
 }
 
 void Scene::newScene()
 {
+    const Journal::Into nothing(m_journal, nullptr);
     emptyScene();
     m_namespaces.clear();
     m_namespace = ":";

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "dagPath.h"
+#include "journal.h"
 #include "node.h"
 #include "nodeType.h"
 #include "optionVars.h"
@@ -18,6 +19,7 @@
 #include <set>
 #include <string>
 #include <unordered_map>
+#include <unordered_set>
 #include <utility>
 #include <vector>
 
@@ -87,6 +89,8 @@ public:
     Units& units() { return m_units; }
     /// Who is told what happens here.
     Observers& observers() { return *m_observers; }
+    /// What was edited, for undo. All that this class, nodes and plugs change is told to it here.
+    Journal& journal() { return m_journal; }
 
     // Nodes
 
@@ -164,7 +168,7 @@ public:
     void setSelection(SelectionList selection);
     /// Objects under component selection (hilited), by node.
     const SelectionList& hilite() const { return m_hilite; }
-    void setHilite(SelectionList hilite) { m_hilite = std::move(hilite); }
+    void setHilite(SelectionList hilite);
     /// Seconds; a change dirties what hangs on time.
     double time() const { return m_time; }
     void setTime(double seconds);
@@ -198,16 +202,22 @@ public:
 
     ScriptRunner* scriptRunner = nullptr;
     std::unordered_map<std::string, PluginCommand> pluginCommands;
-    /// Called for each node right before it is deleted and right after it was made.
-    std::vector<std::function<void(Node&)>> onCreated, onDeleted;
 
 private:
     Expected<Node*> makeNode(NodeType& type, const std::string& name, DagNode* parent);
+    Outcome complete(Node& node, const std::string& fixedName);
     DagNode& makeWorld();
     void adopt(Node& node, const std::string& name);
+    void erase(Node& node);
+    void deselect(SelectionList& list, const Node& node);
     void retireNode(Node& node);
+    class Departure;
+    Ref<Node> leave(Node& node);
+    void comeBack(Node& node, const Ref<Node>& next);
+    void dispose(Node& node);
     void becomeTransform(DagNode& placeholder);
     void setName(Node& node, const std::string& name);
+    void putName(Node& node, const std::string& name);
     bool isNameFree(const std::string& name, const Node* except, const DagNode* parent) const;
     std::string absoluteName(const std::string& name) const;
     /// Replaces what no name may hold, with a warning when `warn`.
@@ -218,8 +228,17 @@ private:
     std::vector<Node*> candidates(const std::string& name) const;
     std::vector<DagNode*> candidatesOfPath(const std::string& path) const;
 
+    /// Where a child stands among those of its parent, and the parent among those of the child.
+    struct LinkPlace
+    {
+        std::size_t inParent = static_cast<std::size_t>(-1);
+        std::size_t inChild = static_cast<std::size_t>(-1);
+    };
     void link(DagNode& parent, DagNode& child);
     void unlink(DagNode& parent, DagNode& child);
+    void linkAt(DagNode& parent, DagNode& child, const LinkPlace& place);
+    void relink(DagNode& parent, DagNode& child, const LinkPlace& place);
+    LinkPlace cutLink(DagNode& parent, DagNode& child);
     Outcome checkParenting(const DagNode& child, const DagNode& parent) const;
 
     Outcome connectChecked(const Plug& source, const Plug& destination, bool force);
@@ -242,6 +261,8 @@ private:
     SelectionList m_hilite;
     double m_time = 0.0;
     Playback m_playback;
+    std::unordered_set<Node*> m_waiting; ///< nodes that undo or redo may bring back
+    Journal m_journal;
 };
 
 } // namespace tvxhost::engine

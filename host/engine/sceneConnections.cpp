@@ -2,7 +2,9 @@
 #include "cell.h"
 #include "dirtySpread.h"
 #include "number.h"
+#include "observers.h"
 #include "scene.h"
+#include "valueEdits.h"
 #include "values.h"
 
 #include <algorithm>
@@ -173,10 +175,18 @@ std::optional<double> conversionFactor(const Units& units, const Plug& source, c
 void tellBehaviours(const Plug& source, const Plug& destination,
                     void (NodeBehaviour::*member)(const Plug&, const Plug&, bool))
 {
+    // What their code edits in turn it edits again when this is done again.
+    const Journal::Into nothing(source.node()->scene().journal(), nullptr);
     if (NodeBehaviour* behaviour = source.node()->behaviour())
         (behaviour->*member)(source, destination, true);
     if (NodeBehaviour* behaviour = destination.node()->behaviour())
         (behaviour->*member)(destination, source, false);
+}
+
+void tellConnection(Happening what, const Plug& source, const Plug& destination)
+{
+    source.node()->scene().observers().tell(
+        {what, destination.node(), source.node(), &destination, &source});
 }
 
 void outdateDestination(Cell& cell)
@@ -187,6 +197,75 @@ void outdateDestination(Cell& cell)
     spread.outdated(cell);
     spread.run();
 }
+
+/// A connection that is made and taken away. While it is away, its destination holds the value that it had
+/// without it; while it is there, that value is kept here.
+class Joint
+{
+public:
+    Joint(const Plug& source, const Plug& destination) : m_source(source), m_destination(destination) {}
+
+    void make()
+    {
+        if (!m_source.isValid() || !m_destination.isValid())
+            return;
+        m_sourceElement.putBack();
+        m_destinationElement.putBack();
+        Cell* from = cellsOf(m_source).make(m_source);
+        Cell* to = cellsOf(m_destination).make(m_destination);
+        if (!from || !to || to->source())
+            return;
+        m_value.emplace(m_destination);
+        to->connectFrom(*from, m_next.isValid() ? cellsOf(m_next).find(m_next) : nullptr);
+        outdateDestination(*to);
+        tell(&NodeBehaviour::connectionMade);
+        tellConnection(Happening::connectionMade, m_source, m_destination);
+    }
+
+    void takeAway()
+    {
+        Cell* cell = m_destination.isValid() ? cellsOf(m_destination).find(m_destination) : nullptr;
+        if (!cell || !m_source.isValid() || !cell->source() ||
+            cell->source() != cellsOf(m_source).find(m_source))
+            return;
+        rememberPlace(*cell);
+        cell->disconnectFromSource();
+        if (m_value)
+            m_value->putBack(m_destination);
+        markClean(*cell);
+        spreadDirty(m_destination);
+        m_destinationElement.takeOut();
+        m_sourceElement.takeOut();
+        tell(&NodeBehaviour::connectionBroken);
+        tellConnection(Happening::connectionBroken, m_source, m_destination);
+    }
+
+    // For a connection that is about to be made, before its cells are, and one about to be broken.
+    void rememberMissing()
+    {
+        m_sourceElement = ElementLife::missingFor(m_source);
+        m_destinationElement = ElementLife::missingFor(m_destination);
+        m_value.emplace(m_destination);
+    }
+    void rememberPlace(const Cell& destination)
+    {
+        const Cell* next = destination.nextOfSource();
+        m_next = next ? next->plug() : Plug();
+    }
+
+private:
+    static CellStore& cellsOf(const Plug& plug) { return plug.node()->cells(); }
+    void tell(void (NodeBehaviour::*member)(const Plug&, const Plug&, bool)) const
+    {
+        m_source.node()->scene().isModified = true;
+        tellBehaviours(m_source, m_destination, member);
+    }
+
+    Plug m_source, m_destination;
+    Plug m_next; ///< the destination of the source that comes after this one
+    ElementLife m_sourceElement, m_destinationElement;
+    std::optional<HeldValue> m_value;
+};
 
 } // namespace
 
@@ -214,17 +293,26 @@ Outcome Scene::connectChecked(const Plug& source, const Plug& destination, bool 
                                               sourceOf(fed.front()).name() + "'."};
     if (Outcome outcome = checkBehaviours(source, destination); !outcome)
         return outcome;
-    Cell* from = source.node()->cells().make(source);
-    Cell* to = destination.node()->cells().make(destination);
-    if (!from || !to)
-        return {Reason::badIndex, "'" + (from ? destination : source).name() + "' lacks an index"};
+    for (const Plug& end : {source, destination})
+        if (lacksIndex(end))
+            return {Reason::badIndex, "'" + end.name() + "' lacks an index"};
 
     for (const Plug& old : fed)
         breakConnection(sourceOf(old), old);
-    to->connectFrom(*from);
-    outdateDestination(*to);
+    if (m_journal.isRecording()) {
+        const auto joint = std::make_shared<Joint>(source, destination);
+        joint->rememberMissing();
+        m_journal.record([joint] { joint->takeAway(); }, [joint] { joint->make(); });
+    }
+    const Plug added = missingElement(destination);
+    tellConnection(Happening::connectionBegun, source, destination);
+    Cell& to = *destination.node()->cells().make(destination);
+    to.connectFrom(*source.node()->cells().make(source));
+    outdateDestination(to);
     isModified = true;
     tellBehaviours(source, destination, &NodeBehaviour::connectionMade);
+    tellIfAdded(added);
+    tellConnection(Happening::connectionMade, source, destination);
     return {};
 }
 
@@ -261,9 +349,20 @@ Outcome Scene::disconnect(const Plug& source, const Plug& destination)
 
 void Scene::breakConnection(const Plug& source, const Plug& destination)
 {
-    Cell* cell = destination.node()->cells().find(destination);
-    if (!cell || !cell->source())
+    const auto connected = [&destination] {
+        Cell* found = destination.node()->cells().find(destination);
+        return found && found->source() ? found : nullptr;
+    };
+    if (connected())
+        tellConnection(Happening::connectionEnding, source, destination);
+    Cell* cell = connected();
+    if (!cell)
         return;
+    if (m_journal.isRecording()) {
+        const auto joint = std::make_shared<Joint>(source, destination);
+        joint->rememberPlace(*cell);
+        m_journal.record([joint] { joint->make(); }, [joint] { joint->takeAway(); });
+    }
     cell->disconnectFromSource();
     const int behaviour = destination.attribute()->disconnectBehaviour;
     if (behaviour == 1)
@@ -275,6 +374,7 @@ void Scene::breakConnection(const Plug& source, const Plug& destination)
         (void)removeElement(destination.array(), destination.logicalIndex());
     isModified = true;
     tellBehaviours(source, destination, &NodeBehaviour::connectionBroken);
+    tellConnection(Happening::connectionBroken, source, destination);
 }
 
 void Scene::disconnectAll(Node& node)

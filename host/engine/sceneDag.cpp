@@ -4,27 +4,84 @@
 #include "builtinTypes.h"
 #include "dirtySpread.h"
 #include "nameTable.h"
+#include "observers.h"
 
 #include <algorithm>
 
 namespace tvxhost::engine {
 
+namespace {
+
+/// A parent and a child for as long as an edit remembers them.
+struct LinkedPair
+{
+    Ref<DagNode> parent;
+    Ref<DagNode> child;
+};
+
+} // namespace
+
 void Scene::link(DagNode& parent, DagNode& child)
 {
-    parent.m_children.push_back(&child);
-    child.m_parents.push_back(&parent);
-    m_names->addChild(parent, child);
-    dirtyWorldSpace(child);
+    linkAt(parent, child, {});
+    if (!m_journal.isRecording())
+        return;
+    const LinkedPair pair{&parent, &child};
+    m_journal.record([this, pair] { cutLink(*pair.parent, *pair.child); },
+                     [this, pair] { relink(*pair.parent, *pair.child, {}); });
 }
 
 void Scene::unlink(DagNode& parent, DagNode& child)
 {
+    const LinkPlace place = cutLink(parent, child);
+    if (!m_journal.isRecording())
+        return;
+    const LinkedPair pair{&parent, &child};
+    m_journal.record([this, pair, place] { relink(*pair.parent, *pair.child, place); },
+                     [this, pair] { cutLink(*pair.parent, *pair.child); });
+}
+
+void Scene::linkAt(DagNode& parent, DagNode& child, const LinkPlace& place)
+{
+    const auto put = [](std::vector<DagNode*>& all, std::size_t at, DagNode* node) {
+        all.insert(all.begin() + static_cast<std::ptrdiff_t>(std::min(at, all.size())), node);
+    };
+    put(parent.m_children, place.inParent, &child);
+    put(child.m_parents, place.inChild, &parent);
+    m_names->addChild(parent, child);
+    dirtyWorldSpace(child);
+    m_observers->tell({Happening::parentAdded, &child, &parent});
+}
+
+/// Links again, as far as what was edited without being recorded lets it.
+void Scene::relink(DagNode& parent, DagNode& child, const LinkPlace& place)
+{
+    const auto& parents = child.m_parents;
+    const bool isThere = std::find(parents.begin(), parents.end(), &parent) != parents.end();
+    if (isThere || !parent.isAlive() || !child.isAlive())
+        return;
+    if (!isNameFree(child.name(), &child, &parent))
+        putName(child, m_names->nextFree(child.name()));
+    linkAt(parent, child, place);
+}
+
+/// Does nothing when they are not linked.
+Scene::LinkPlace Scene::cutLink(DagNode& parent, DagNode& child)
+{
+    const auto inChild = std::find(child.m_parents.begin(), child.m_parents.end(), &parent);
+    if (inChild == child.m_parents.end())
+        return {};
     // New things are at the end, and what is deleted whole goes from the end.
-    const auto inParent = std::find(parent.m_children.rbegin(), parent.m_children.rend(), &child);
-    parent.m_children.erase(std::next(inParent).base());
-    child.m_parents.erase(std::find(child.m_parents.begin(), child.m_parents.end(), &parent));
+    const auto found = std::find(parent.m_children.rbegin(), parent.m_children.rend(), &child);
+    const auto inParent = std::next(found).base();
+    const LinkPlace place{static_cast<std::size_t>(inParent - parent.m_children.begin()),
+                          static_cast<std::size_t>(inChild - child.m_parents.begin())};
+    parent.m_children.erase(inParent);
+    child.m_parents.erase(inChild);
     m_names->removeChild(parent, child);
     dirtyWorldSpace(child);
+    m_observers->tell({Happening::parentRemoved, &child, &parent});
+    return place;
 }
 
 Outcome Scene::checkParenting(const DagNode& child, const DagNode& parent) const

@@ -67,12 +67,25 @@ void SelectionList::removeAt(std::size_t i)
     m_items.erase(m_items.begin() + static_cast<std::ptrdiff_t>(i));
 }
 
-void SelectionList::removeNode(const Node& node)
+std::vector<SelectionList::Placed> SelectionList::removeNode(const Node& node)
 {
+    std::vector<Placed> removed;
     if (!m_itemsOf.erase(&node))
-        return;
+        return removed;
     const auto isOf = [&](const SelectionItem& item) { return item.node.get() == &node; };
+    for (std::size_t i = 0; i < m_items.size(); ++i)
+        if (isOf(m_items[i]))
+            removed.emplace_back(i, m_items[i]);
     m_items.erase(std::remove_if(m_items.begin(), m_items.end(), isOf), m_items.end());
+    return removed;
+}
+
+void SelectionList::putBack(const std::vector<Placed>& items)
+{
+    for (const auto& [place, item] : items) {
+        m_items.insert(m_items.begin() + static_cast<std::ptrdiff_t>(std::min(place, m_items.size())), item);
+        count(item, true);
+    }
 }
 
 void SelectionList::clear()

@@ -7,6 +7,7 @@
 #include <cstddef>
 #include <string>
 #include <unordered_map>
+#include <utility>
 #include <vector>
 
 namespace tvxhost::engine {
@@ -35,8 +36,13 @@ public:
     void add(const SelectionItem& item);
     void remove(const SelectionItem& item);
     void removeAt(std::size_t i);
-    /// Takes out every item of a node.
-    void removeNode(const Node& node);
+    /// An item and its place.
+    using Placed = std::pair<std::size_t, SelectionItem>;
+    /// Takes out every item of a node; gives them with the places they had, in ascending order.
+    std::vector<Placed> removeNode(const Node& node);
+    /// Puts back what removeNode took out.
+    void putBack(const std::vector<Placed>& items);
+    friend bool operator==(const SelectionList& a, const SelectionList& b) { return a.m_items == b.m_items; }
     void clear();
 
 private:

@@ -86,7 +86,7 @@ Outcome TypeTable::remove(NodeType& type)
 {
     if (find(type.name) != &type)
         return {Reason::notFound, "there is no node type '" + type.name + "'"};
-    if (type.liveNodes > 0)
+    if (type.liveNodes + type.waitingNodes > 0)
         return {Reason::inUse, "nodes of type '" + type.name + "' exist"};
     for (const std::unique_ptr<NodeType>& other : m_types)
         if (other->parent == &type)

@@ -3,6 +3,9 @@
 
 #include "node.h"
 #include "number.h"
+#include "observers.h"
+#include "scene.h"
+#include "valueEdits.h"
 
 #include <algorithm>
 #include <cstring>
@@ -123,7 +126,9 @@ void noteEdit(const Plug& plug)
         ++plug.node()->cells().edits;
 }
 
-bool keepNumber(const Plug& leaf, const Number& value)
+namespace {
+
+bool storeNumberAt(const Plug& leaf, const Number& value, bool wasSet)
 {
     const NumberKind kind = leaf.attribute()->number;
     CellStore& cells = leaf.node()->cells();
@@ -136,11 +141,11 @@ bool keepNumber(const Plug& leaf, const Number& value)
     if (!cell)
         return false;
     storeNumber(kind, cell->bytes(), value);
-    cell->wasSet = true;
+    cell->wasSet = wasSet;
     return true;
 }
 
-bool keepData(const Plug& plug, Ref<Data> data)
+bool storeDataAt(const Plug& plug, Ref<Data> data, bool wasSet)
 {
     CellStore& cells = plug.node()->cells();
     noteEdit(plug);
@@ -152,8 +157,65 @@ bool keepData(const Plug& plug, Ref<Data> data)
     if (!cell)
         return false;
     *cell->data() = std::move(data);
-    cell->wasSet = true;
+    cell->wasSet = wasSet;
     return true;
+}
+
+} // namespace
+
+void tellIfAdded(const Plug& element)
+{
+    if (!element.isNull())
+        element.node()->scene().observers().tell({Happening::elementAdded, element.node(), nullptr, &element});
+}
+
+Plug missingElement(const Plug& plug)
+{
+    Node& node = *plug.node();
+    return node.scene().observers().want(Happening::elementAdded) ? node.cells().firstMissingElement(plug)
+                                                                  : Plug();
+}
+
+bool keepNumber(const Plug& leaf, const Number& value)
+{
+    rememberValue(leaf);
+    const Plug added = missingElement(leaf);
+    const bool isKept = storeNumberAt(leaf, value, true);
+    tellIfAdded(added);
+    return isKept;
+}
+
+bool keepData(const Plug& plug, Ref<Data> data)
+{
+    rememberValue(plug);
+    const Plug added = missingElement(plug);
+    const bool isKept = storeDataAt(plug, std::move(data), true);
+    tellIfAdded(added);
+    return isKept;
+}
+
+HeldLeaf holdLeaf(const Plug& leaf)
+{
+    HeldLeaf held;
+    const ValuePlace place = leaf.node()->cells().valueOf(leaf);
+    if (isNumberLeaf(*leaf.attribute()))
+        held.number = storedNumber(leaf);
+    else if (place.data)
+        held.data = *place.data;
+    const Cell* cell = leaf.node()->cells().find(leaf);
+    held.wasSet = cell && cell->wasSet;
+    held.isDefault = place.isDefault();
+    return held;
+}
+
+void putLeaf(const Plug& leaf, const HeldLeaf& held)
+{
+    if (held.isDefault && leaf.node()->cells().valueOf(leaf).isDefault())
+        return;
+    if (isNumberLeaf(*leaf.attribute()))
+        storeNumberAt(leaf, held.number, held.wasSet);
+    else if (leaf.attribute()->kind != AttributeKind::message)
+        storeDataAt(leaf, held.data, held.wasSet);
 }
 
 void resetToDefault(const Plug& plug)
@@ -185,6 +247,12 @@ void copyValue(const Plug& source, const Plug& destination)
             copyValue(source.child(i), destination.child(i));
     else if (to.kind != AttributeKind::message && !to.isCompound() && !isNumberLeaf(to))
         keepData(destination, storedData(source));
+}
+
+bool lacksIndex(const Plug& plug)
+{
+    const auto first = plug.indices().begin();
+    return std::any_of(first, first + plug.indexCount(), [](int index) { return index < 0; });
 }
 
 std::vector<Plug> leavesOf(const Plug& plug)

@@ -1,6 +1,8 @@
 // A scene: default nodes, nodes made, named and deleted, namespaces, types that go away.
 #include "fixtures.h"
 
+#include "engine/observers.h"
+
 #include <gmock/gmock.h>
 
 #include <regex>
@@ -373,8 +375,10 @@ TEST_F(SceneTest, ADeletedNodeIsAnEmptyShellForWhoeverHoldsIt)
 TEST_F(SceneTest, ListenersHearOfNewNodesAndOfThoseThatGo)
 {
     std::vector<std::string> heard;
-    scene.onCreated.push_back([&](Node& node) { heard.push_back("+" + node.name()); });
-    scene.onDeleted.push_back([&](Node& node) { heard.push_back("-" + node.name()); });
+    scene.observers().add({Happening::nodeAdded},
+                          [&](const Event& event) { heard.push_back("+" + event.node->name()); });
+    scene.observers().add({Happening::nodeRemoved},
+                          [&](const Event& event) { heard.push_back("-" + event.node->name()); });
     Node& shape = make("locator");
     EXPECT_TRUE(scene.deleteNode(*shape.asDag()->parents().front()));
     EXPECT_THAT(heard, ElementsAre("+locatorShape1", "+locator1", "-locator1", "-locatorShape1"));
