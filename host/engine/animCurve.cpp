@@ -1,150 +1,28 @@
-// Animation curves: see animCurve.h.
+// Animation curves: see animCurve.h. Reading and writing their plugs is in animCurveStore.cpp.
 #include "animCurve.h"
 
 #include "cell.h"
 #include "dirtySpread.h"
+#include "number.h"
 #include "scene.h"
-#include "values.h"
 
 #include <algorithm>
+#include <cctype>
+#include <cmath>
 
 namespace tvxhost::engine {
 
 namespace {
 
-/// The numbers of the enumerations tangentType, keyTanInType and keyTanOutType.
-enum Tangent
+Plug plugOf(Node& node, const char* name)
 {
-    kGlobal = 0,
-    kFixed = 1,
-    kLinear = 2,
-    kFlat = 3,
-    kStep = 5,
-    kSpline = 9,
-    kStepNext = 17
-};
-
-struct Key
-{
-    int index;
-    double at;
-    double value;
-};
-
-class Curve
-{
-public:
-    explicit Curve(Node& node) : m_node(node)
-    {
-        const Plug keys = plug("keyTimeValue");
-        for (const int i : existingElements(keys)) {
-            const Plug key = keys.element(i);
-            m_keys.push_back({i, storedNumber(key.child(0)).asReal(), storedNumber(key.child(1)).asReal()});
-        }
-        std::stable_sort(m_keys.begin(), m_keys.end(),
-                         [](const Key& a, const Key& b) { return a.at < b.at; });
-    }
-
-    double valueAt(double x) const
-    {
-        if (m_keys.empty())
-            return 0.0;
-        if (x <= m_keys.front().at)
-            return m_keys.front().value;
-        if (x >= m_keys.back().at)
-            return m_keys.back().value;
-        const auto after = std::upper_bound(m_keys.begin(), m_keys.end(), x,
-                                            [](double at, const Key& key) { return at < key.at; });
-        return between(static_cast<std::size_t>(after - m_keys.begin()) - 1, x);
-    }
-
-private:
-    Plug plug(const char* name) const { return Plug(m_node, *m_node.findAttribute(name)); }
-
-    double element(const char* name, int index) const
-    {
-        return storedNumber(plug(name).element(index)).asReal();
-    }
-
-    int tangentOf(const Key& key, bool isOut) const
-    {
-        const int own = static_cast<int>(element(isOut ? "keyTanOutType" : "keyTanInType", key.index));
-        return own != kGlobal ? own : static_cast<int>(storedNumber(plug("tangentType")).asWhole());
-    }
-
-    double between(std::size_t i, double x) const
-    {
-        const Key& from = m_keys[i];
-        const Key& to = m_keys[i + 1];
-        const int out = tangentOf(from, true);
-        if (out == kStep)
-            return from.value;
-        if (out == kStepNext)
-            return to.value;
-        // Hermite's form: the slopes times the width of the segment.
-        const double width = to.at - from.at;
-        const double t = (x - from.at) / width;
-        const double leaving = slope(i, true) * width;
-        const double arriving = slope(i + 1, false) * width;
-        const double t2 = t * t;
-        const double t3 = t2 * t;
-        return (2 * t3 - 3 * t2 + 1) * from.value + (t3 - 2 * t2 + t) * leaving +
-               (3 * t2 - 2 * t3) * to.value + (t3 - t2) * arriving;
-    }
-
-    double slopeBetween(std::size_t i, std::size_t j) const
-    {
-        return (m_keys[j].value - m_keys[i].value) / (m_keys[j].at - m_keys[i].at);
-    }
-
-    double slope(std::size_t i, bool isOut) const
-    {
-        const int tangent = tangentOf(m_keys[i], isOut);
-        switch (tangent) {
-        case kFlat:
-            return 0.0;
-        case kLinear:
-        case kStep:
-        case kStepNext:
-            return isOut ? slopeBetween(i, i + 1) : slopeBetween(i - 1, i);
-        case kFixed:
-            return fixedSlope(m_keys[i], isOut);
-        default:
-            return smoothSlope(i, tangent == kSpline);
-        }
-    }
-
-    double fixedSlope(const Key& key, bool isOut) const
-    {
-        const double x = element(isOut ? "keyTanOutX" : "keyTanInX", key.index);
-        const double y = element(isOut ? "keyTanOutY" : "keyTanInY", key.index);
-        return x != 0.0 ? y / x : 0.0;
-    }
-
-    double smoothSlope(std::size_t i, bool overshoots) const
-    {
-        const bool isFirst = i == 0;
-        const bool isLast = i + 1 == m_keys.size();
-        if (isFirst || isLast)
-            return overshoots ? slopeBetween(isFirst ? i : i - 1, isFirst ? i + 1 : i) : 0.0;
-        const double before = slopeBetween(i - 1, i);
-        const double after = slopeBetween(i, i + 1);
-        return !overshoots && before * after <= 0.0 ? 0.0 : slopeBetween(i - 1, i + 1);
-    }
-
-    Node& m_node;
-    std::vector<Key> m_keys;
-};
-
-} // namespace
-
-namespace {
+    return Plug(node, *node.findAttribute(name));
+}
 
 /// A curve over time that stands at the scene's time, since nothing feeds its input.
 bool followsTheScene(Node& curve)
 {
-    const Plug input(curve, *curve.findAttribute("input"));
-    return input.attribute()->unit == UnitKind::time && !isFedAnywhere(input);
+    return isTimed(curve) && !isFedAnywhere(plugOf(curve, "input"));
 }
 
 bool hasCurves(Scene& scene, const NodeType& base)
@@ -154,14 +32,124 @@ bool hasCurves(Scene& scene, const NodeType& base)
                        [&](const NodeType* type) { return type->liveNodes > 0 && type->isA(base); });
 }
 
+double perUi(const Node& curve, const char* plug)
+{
+    const Units& units = curve.scene().units();
+    switch (curve.findAttribute(plug)->unit) {
+    case UnitKind::angle:
+        return radiansPer(units.angle);
+    case UnitKind::distance:
+        return centimetresPer(units.linear);
+    case UnitKind::time:
+        return secondsPer(units.time);
+    case UnitKind::none:
+        break;
+    }
+    return 1.0;
+}
+
 } // namespace
+
+bool isAnimCurve(const Node& node)
+{
+    return node.type().isA("animCurve");
+}
+
+bool isTimed(const Node& curve)
+{
+    return curve.findAttribute("input")->unit == UnitKind::time;
+}
 
 double valueOfCurve(Node& curve)
 {
-    if (followsTheScene(curve))
-        return Curve(curve).valueAt(curve.scene().time());
-    const Plug input(curve, *curve.findAttribute("input"));
-    return Curve(curve).valueAt(readNumber(input).value.asReal());
+    const double at =
+        followsTheScene(curve) ? curve.scene().time() : readNumber(plugOf(curve, "input")).value.asReal();
+    return readCurve(curve).valueAt(at);
+}
+
+Node* curveFeeding(const Plug& plug)
+{
+    const Plug source = sourceOf(plug);
+    return !source.isNull() && isAnimCurve(*source.node()) ? source.node() : nullptr;
+}
+
+std::vector<Plug> fedBy(Node& curve)
+{
+    return destinationsOf(plugOf(curve, "output"));
+}
+
+std::string curveTypeFor(const Attribute& attribute, bool timed)
+{
+    if (!isNumberLeaf(attribute))
+        return {};
+    constexpr const char* kOutputs[] = {"U", "A", "L", "T"};
+    static_assert(static_cast<int>(UnitKind::none) == 0 && static_cast<int>(UnitKind::angle) == 1 &&
+                  static_cast<int>(UnitKind::distance) == 2 && static_cast<int>(UnitKind::time) == 3);
+    return std::string("animCurve") + (timed ? "T" : "U") + kOutputs[static_cast<int>(attribute.unit)];
+}
+
+Expected<Node*> makeCurveFor(const Plug& plug, bool timed)
+{
+    if (!plug.isValid() || plug.isArray())
+        return {Reason::wrongKind, "no curve can feed '" + plug.name() + "'"};
+    return makeCurveFor(plug, curveTypeFor(*plug.attribute(), timed));
+}
+
+Expected<Node*> makeCurveFor(const Plug& plug, const std::string& type)
+{
+    if (type.empty() || !isNumberLeaf(*plug.attribute()))
+        return {Reason::wrongKind, "no curve can feed '" + plug.name() + "'"};
+    Scene& scene = plug.node()->scene();
+    if (isLocked(plug) || isFedAnywhere(plug))
+        return {Reason::lockedOrConnected,
+                "The attribute '" + plug.name() + "' is locked or connected and cannot be modified."};
+    const Expected<Node*> made = scene.createNode(type, curveNameFor(plug));
+    if (!made)
+        return made;
+    if (Outcome connected = scene.connect(plugOf(*made.value, "output"), plug); !connected) {
+        static_cast<void>(scene.deleteNode(*made.value));
+        return connected;
+    }
+    return made;
+}
+
+// The node without its namespace, and the plug with what no name may hold replaced.
+std::string curveNameFor(const Plug& plug)
+{
+    const std::string& node = plug.node()->name();
+    PlugNameStyle style;
+    style.withNode = false;
+    style.useAlias = true;
+    std::string name = node.substr(node.rfind(':') + 1) + '_' + plug.name(style);
+    for (char& letter : name)
+        if (!std::isalnum(static_cast<unsigned char>(letter)))
+            letter = '_';
+    return name;
+}
+
+double inputPerUi(const Node& curve)
+{
+    return perUi(curve, "input");
+}
+
+double valuePerUi(const Node& curve)
+{
+    return perUi(curve, "output");
+}
+
+TangentHandle handleOf(const Node& curve, const AnimCurveKeys& keys, std::size_t index, KeySide side)
+{
+    const TangentVector tangent = keys.tangent(index, side);
+    const double x = tangent.x / inputPerUi(curve);
+    const double y = tangent.y / valuePerUi(curve);
+    return {std::atan2(y, x), keys.isWeighted ? std::hypot(x, y) / 3.0 : 1.0};
+}
+
+TangentVector directionOf(const Node& curve, const TangentHandle& handle, bool isWeighted)
+{
+    const double length = isWeighted ? 3.0 * handle.weight : 1.0;
+    return {length * std::cos(handle.angle) * inputPerUi(curve),
+            length * std::sin(handle.angle) * valuePerUi(curve)};
 }
 
 void outdateTimedCurves(Scene& scene)

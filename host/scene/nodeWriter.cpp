@@ -4,6 +4,7 @@
 #include "attributeDeclaration.h"
 #include "attributeTypes.h"
 #include "connectionEnd.h"
+#include "curveText.h"
 #include "lineBreaker.h"
 #include "plugTarget.h"
 #include "polyFaces.h"
@@ -204,7 +205,7 @@ bool NodeWriter::writeLines(engine::Node& node)
     if (!isPlaceholder(node)) {
         for (const auto& attribute : node.dynamicAttributes())
             declare(*attribute);
-        for (Attribute* attribute : node.attributes())
+        for (Attribute* attribute : inFileOrder(node))
             writePlug(Plug(node, *attribute));
     }
     for (const std::string& kept : node.keptLines)
@@ -292,6 +293,11 @@ std::string NodeWriter::valueWords(const Plug& plug)
 void NodeWriter::writeArray(const Plug& array)
 {
     writeState(array);
+    if (isKeyArray(array)) {
+        for (const std::string& statement : keyStatements(array))
+            line("setAttr" + statement);
+        return;
+    }
     const Attribute& attribute = *array.attribute();
     const std::vector<int> elements = engine::existingElements(array);
     if (elements.empty() || !attribute.flags.storable || !attribute.flags.writable ||

@@ -72,7 +72,8 @@ std::string uiNumberText(double internal, double factor)
 {
     if (factor == 1.0 || !std::isfinite(internal))
         return doubleText(internal);
-    const double guess = internal / factor;
+    // As Maya converts back: by the inverse of the factor.
+    const double guess = internal * (1.0 / factor);
     if (const auto text = exactText(internal, factor, guess))
         return *text;
     // No text gives this number: settle on the nearest one that a text does give.
