@@ -311,6 +311,8 @@ Cell& CellStore::make(Attribute& topLevel)
 {
     if (Cell* cell = find(topLevel))
         return *cell;
+    if (&topLevel == m_node.type().intermediateObject())
+        m_node.m_mayBeIntermediate = true;
     return **m_roots.insert(placeFor(topLevel),
                             std::make_unique<Cell>(*this, nullptr, topLevel, Plug::kNoIndex));
 }

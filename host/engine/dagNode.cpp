@@ -58,9 +58,7 @@ bool DagNode::isTransform() const
 
 bool DagNode::isIntermediate()
 {
-    if (cells().roots().empty()) // all values are their defaults
-        return false;
-    Attribute* attribute = type().find("intermediateObject");
+    Attribute* attribute = m_mayBeIntermediate ? type().intermediateObject() : nullptr;
     return attribute && storedNumber(Plug(*this, *attribute)).asWhole() != 0;
 }
 

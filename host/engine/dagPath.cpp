@@ -55,7 +55,16 @@ std::size_t DagPath::countTo(const DagNode& node)
     return count;
 }
 
+// Every call on a path asks this, so a path is walked again only after some object has died or come back.
 bool DagPath::isValid() const
+{
+    const std::uint64_t now = Object::lifeChanges() + 1;
+    if (m_validAt != now && isEachAlive())
+        m_validAt = now;
+    return m_world && m_validAt == now;
+}
+
+bool DagPath::isEachAlive() const
 {
     return m_world && m_world->isAlive() &&
            std::all_of(m_nodes.begin(), m_nodes.end(),

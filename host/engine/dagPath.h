@@ -53,8 +53,11 @@ public:
     friend bool operator!=(const DagPath& a, const DagPath& b) { return !(a == b); }
 
 private:
+    bool isEachAlive() const;
+
     Ref<Node> m_world;
     std::vector<Ref<DagNode>> m_nodes;
+    mutable std::uint64_t m_validAt = 0; ///< Object::lifeChanges() when all were last seen alive, and 1 more
 };
 
 } // namespace tvxhost::engine

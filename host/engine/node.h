@@ -49,6 +49,18 @@ public:
 /// A dependency node. Made and deleted by Scene only.
 class Node : public Object
 {
+    // What every walk through a scene reads stands together at the front.
+    friend class CellStore;
+    friend class NameTable;
+    friend class Scene;
+    Scene* m_scene;
+    NodeType* m_type;
+    std::unique_ptr<CellStore> m_cells;
+
+protected:
+    /// Whether a value of "intermediateObject" was ever kept: seldom, and asked of every shape.
+    bool m_mayBeIntermediate = false;
+
 public:
     Node(Scene& scene, NodeType& type);
     ~Node() override;
@@ -120,18 +132,13 @@ public:
     const CellStore& cells() const { return *m_cells; }
 
 private:
-    friend class NameTable;
-    friend class Scene;
     class AttributeRemoval;
     void removeAttribute(Attribute& attribute);
 
-    Scene* m_scene;
-    NodeType* m_type;
     std::string m_name;
     std::string m_uuid;
     std::vector<Ref<Attribute>> m_dynamic;
     std::vector<std::pair<std::string, std::string>> m_aliases;
-    std::unique_ptr<CellStore> m_cells;
     std::unique_ptr<NodeBehaviour> m_behaviour;
     std::list<Node*>::iterator m_place; ///< in the scene's list
     std::uint64_t m_serial = 0;         ///< rises with every node that is made

@@ -77,6 +77,13 @@ Attribute* NodeType::find(const std::string& attributeName) const
     return nullptr;
 }
 
+Attribute* NodeType::intermediateObject() const
+{
+    if (!m_intermediateObject)
+        m_intermediateObject = find("intermediateObject");
+    return m_intermediateObject;
+}
+
 Outcome NodeType::addAttribute(const Ref<Attribute>& attribute)
 {
     if (!attribute)

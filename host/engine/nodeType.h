@@ -77,6 +77,10 @@ public:
     /// True when some declared affects reaches the attribute, a parent or a child of it: then it is computed.
     bool isOutput(const Attribute& attribute) const;
 
+    /// The attribute "intermediateObject", which every DAG type inherits; null for the others. Looked up
+    /// once, since whoever looks for the shape below a transform asks for it.
+    Attribute* intermediateObject() const;
+
     int liveNodes = 0;    ///< nodes of exactly this type in the scene
     int waitingNodes = 0; ///< those that are gone, but that undo or redo may bring back
 
@@ -88,6 +92,7 @@ private:
     std::vector<const Attribute*> m_computed;
     mutable std::unordered_map<const Attribute*, std::vector<Attribute*>> m_affectedCache;
     mutable std::unordered_map<const Attribute*, bool> m_outputCache;
+    mutable Attribute* m_intermediateObject = nullptr;
 };
 
 /// Says that an attribute and all below it belong to a type; null: to none any more.

@@ -3,6 +3,8 @@
 
 namespace tvxhost::engine {
 
+std::uint64_t Object::s_lifeChanges = 0;
+
 Object::~Object() = default;
 
 } // namespace tvxhost::engine

@@ -29,6 +29,9 @@ public:
     ObjectClass objectClass() const { return m_class; }
     /// False once a node has been deleted from its scene (and not brought back by undo).
     bool isAlive() const { return m_alive; }
+    /// Rises whenever some object dies or comes back: what was alive at one number is so as long as it
+    /// stands.
+    static std::uint64_t lifeChanges() { return s_lifeChanges; }
 
     void retain() const { m_count.fetch_add(1, std::memory_order_relaxed); }
     void release() const
@@ -40,9 +43,15 @@ public:
 protected:
     explicit Object(ObjectClass objectClass) : m_class(objectClass) {}
     virtual ~Object();
-    void setAlive(bool alive) { m_alive = alive; }
+    void setAlive(bool alive)
+    {
+        m_alive = alive;
+        ++s_lifeChanges;
+    }
 
 private:
+    static std::uint64_t s_lifeChanges; ///< main thread only, as lives are
+
     mutable std::atomic<std::uint32_t> m_count{0};
     ObjectClass m_class;
     bool m_alive = true;
