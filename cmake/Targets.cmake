@@ -9,6 +9,14 @@ function(tvx_warnings target)
   endif()
 endfunction()
 
+# tvx_shared_headers(TARGET header...): compiles them once for the target where a sanitizer makes compiling slow.
+# Elsewhere each source shows that it includes what it uses.
+function(tvx_shared_headers target)
+  if(TVX_SANITIZE)
+    target_precompile_headers(${target} PRIVATE ${ARGN})
+  endif()
+endfunction()
+
 # tvx_static_library(TARGET source...): a part that is linked into a library or program.
 function(tvx_static_library target)
   add_library(${target} STATIC ${ARGN})

@@ -176,7 +176,7 @@ Value endsWith(CommandContext&, Arguments& arguments)
 /// The text as it would stand between quotes in a script.
 Value encodeString(CommandContext&, Arguments& arguments)
 {
-    const std::string text = quoted(arguments[0].string());
+    const std::string text = mel::quoted(arguments[0].string());
     return text.substr(1, text.size() - 2);
 }
 
