@@ -44,10 +44,12 @@ struct Options
     bool evaluate = false;
 
     bool interactive = false;
+    bool allowSystem = false;               ///< MEL's `system` may run other programs
     bool qt = false;                        ///< with a Qt application and main window; interactive then
     std::vector<std::string> dialogAnswers; ///< what the dialogs get, in order
     std::vector<Fault> faults;
     bool listCalls = false;
+    bool listFunctions = false; ///< tell what there is to fail, and do nothing else
 };
 
 /// What became of a command line: options to work with, or the program's exit code and a text that was asked

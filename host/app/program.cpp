@@ -48,6 +48,7 @@ public:
     int run()
     {
         armFaults();
+        m_session.interpreter().allowSystem(m_options.allowSystem);
         openWindows();
         loadPreferences();
         loadPlugins();
@@ -75,6 +76,7 @@ private:
     void report();
     void describeType();
     bool mayWrite(const std::string& file);
+    std::string viewCamera();
     void renderPicture();
     void saveScene();
     void savePreferences();
@@ -220,12 +222,18 @@ bool Program::mayWrite(const std::string& file)
     return m_obstacle.empty();
 }
 
+/// The camera that was asked for, else the one that scripts look through.
+std::string Program::viewCamera()
+{
+    return m_options.camera.empty() ? m_session.commands().interface().viewCamera : m_options.camera;
+}
+
 void Program::renderPicture()
 {
     if (m_options.picture.empty() || !mayWrite(m_options.picture))
         return;
-    const auto picture = viewport::drawPicture(
-        m_session.scene(), {m_options.size.width, m_options.size.height, m_options.camera});
+    const auto picture =
+        viewport::drawPicture(m_session.scene(), {m_options.size.width, m_options.size.height, viewCamera()});
     if (!check(picture.outcome, "cannot draw the viewport: "))
         return;
     const auto bytes = viewport::encodePng(picture.value);

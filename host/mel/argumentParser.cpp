@@ -108,6 +108,10 @@ private:
         if (flag == nullptr) {
             throw ValueError("Invalid flag '" + std::string(argument.text) + "'");
         }
+        if ((flag->modes & kRefused) != 0) {
+            throw ValueError("Flag '-" + flag->longName + "' of " + m_spec.name +
+                             " is refused: " + flag->help);
+        }
         ++m_next;
         checkMode(*flag);
         if ((flag->modes & kMultiUse) == 0 && m_parsed.has(flag->longName)) {

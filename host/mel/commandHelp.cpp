@@ -38,6 +38,7 @@ std::string flagLine(const FlagSpec& flag)
     }
     types += (flag.modes & kVariable) != 0 ? "..." : "";
     types += (flag.modes & kMultiUse) != 0 ? " (multi-use)" : "";
+    types += (flag.modes & kRefused) != 0 ? "(refused)" : "";
     std::string line = flagLine(flag.shortName, flag.longName, types);
     if (!flag.help.empty()) {
         line += std::string(2 + kShortWidth + 2, ' ') + flag.help + '\n';

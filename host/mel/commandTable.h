@@ -87,6 +87,7 @@ enum FlagMode : unsigned
     kQueryWithArguments = 8, ///< takes its arguments in query mode too
     kMultiUse = 16,          ///< may be given more than once; each use counts
     kVariable = 32,          ///< the last argument type repeats until the next flag
+    kRefused = 64,           ///< known, but an error that names it: the help says why
     kCreateEdit = kCreate | kEdit,
     kCreateQuery = kCreate | kQuery,
     kAllModes = kCreate | kEdit | kQuery,

@@ -212,6 +212,16 @@ void Interpreter::defer(std::string script, bool lowestPriority)
 
 int Interpreter::runDeferred()
 {
+    int failed = runQueues();
+    if (idleWork) {
+        failed += idleWork(*this);
+        failed += runQueues();
+    }
+    return failed;
+}
+
+int Interpreter::runQueues()
+{
     int failed = 0;
     while (hasDeferred()) {
         std::deque<std::string>& queue = m_deferred.empty() ? m_deferredLast : m_deferred;

@@ -107,6 +107,9 @@ public:
     void defer(std::string script, bool lowestPriority);
     /// Runs the deferred texts, those they defer included; the number of those that failed.
     int runDeferred();
+    /// What else is done at an idle moment, after the deferred texts; how many scripts of it failed. May be
+    /// empty.
+    std::function<int(Interpreter&)> idleWork;
     bool hasDeferred() const { return !m_deferred.empty() || !m_deferredLast.empty(); }
 
     /// Shows an error at its place.
@@ -126,6 +129,7 @@ public:
     };
 
 private:
+    int runQueues();
     Value runScript(const ast::Script& script);
 
     CommandTable& m_commands;

@@ -17,9 +17,10 @@ TEST(CommandLine, HelpNamesTheOptionsAndGivesExamples)
     const ProgramResult result = runHost({"--help"});
     EXPECT_EQ(result.exitCode, 0);
     EXPECT_EQ(result.errors, "");
-    for (const char* option : {"--plugin", "--prefs", "--script", "-e,--execute", "--render", "--size",
-                               "--camera", "--save", "--summary", "--check", "--describe", "--list-nodes",
-                               "--dialog-answer", "--qt", "--fail", "--list-calls", "Examples:"})
+    for (const char* option :
+         {"--plugin", "--prefs", "--script", "-e,--execute", "--render", "--size", "--camera", "--save",
+          "--summary", "--check", "--describe", "--list-nodes", "--allow-system", "--dialog-answer", "--qt",
+          "--fail", "--list-calls", "Examples:"})
         EXPECT_THAT(result.output, HasSubstr(option));
 }
 
@@ -28,6 +29,16 @@ TEST(CommandLine, VersionIsThatOfTheProject)
     const ProgramResult result = runHost({"--version"});
     EXPECT_EQ(result.exitCode, 0);
     EXPECT_EQ(result.output, "tvxhost 2.5.0.1\n");
+}
+
+TEST(CommandLine, OtherProgramsRunOnlyWhenThatIsAllowed)
+{
+    const ProgramResult refused = runHost({"-e", "system \"echo hello\""});
+    EXPECT_EQ(refused.exitCode, 1);
+    EXPECT_EQ(refused.errors, "Error: line 1: system is not allowed in this session.\n");
+    const ProgramResult allowed = runHost({"--allow-system", "-e", "system \"echo hello\""});
+    EXPECT_EQ(allowed.exitCode, 0);
+    EXPECT_THAT(allowed.output, HasSubstr("hello"));
 }
 
 TEST(CommandLine, EachMistakeIsOneErrorThatSaysWhatIsWrong)

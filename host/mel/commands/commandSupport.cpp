@@ -35,6 +35,11 @@ FlagSpec valueFlag(std::string shortName, std::string longName, ArgumentType typ
     return {std::move(shortName), std::move(longName), {type}, modes, std::move(help)};
 }
 
+FlagSpec refusedFlag(std::string shortName, std::string longName, std::string why)
+{
+    return {std::move(shortName), std::move(longName), {}, kAllModes | kRefused, std::move(why)};
+}
+
 PositionalRule names(std::size_t least, std::size_t most)
 {
     return {ArgumentType::name, least, most};
@@ -110,6 +115,33 @@ std::vector<SelectionItem> itemsOrSelection(const CommandContext& context,
         all.insert(all.end(), items.begin(), items.end());
     }
     return all;
+}
+
+void keepEnd(Value::Strings& list, const ParsedCommand& call)
+{
+    const auto keep = [&](const char* flag) {
+        return std::min(list.size(), static_cast<std::size_t>(std::max(0, call.integer(flag))));
+    };
+    if (call.has("head"))
+        list.resize(keep("head"));
+    if (call.has("tail"))
+        list.erase(list.begin(), list.end() - static_cast<std::ptrdiff_t>(keep("tail")));
+}
+
+std::string shapeNameFor(const std::string& transform)
+{
+    std::size_t digits = transform.size();
+    while (digits > 0 && std::isdigit(static_cast<unsigned char>(transform[digits - 1])))
+        --digits;
+    return transform.substr(0, digits) + "Shape" + transform.substr(digits);
+}
+
+void selectOnly(engine::Scene& scene, engine::Node& node)
+{
+    engine::SelectionList list;
+    if (const auto item = scene.findItem(scene.shortestName(node)))
+        list.add(item.value);
+    scene.setSelection(std::move(list));
 }
 
 namespace {

@@ -21,6 +21,8 @@ FlagSpec switchFlag(std::string shortName, std::string longName, std::string hel
 /// A flag with one argument.
 FlagSpec valueFlag(std::string shortName, std::string longName, ArgumentType type, std::string help,
                    unsigned modes = kCreate);
+/// A flag of Maya's that has no meaning here: its use is an error that says why.
+FlagSpec refusedFlag(std::string shortName, std::string longName, std::string why);
 /// Any number of names, at least `least`.
 PositionalRule names(std::size_t least = 0, std::size_t most = PositionalRule::kAny);
 PositionalRule noArguments();
@@ -49,6 +51,15 @@ std::vector<engine::SelectionItem> itemsOrSelection(const CommandContext& contex
 /// The items that one name or pattern means.
 std::vector<engine::SelectionItem> itemsOf(const CommandContext& context, const std::string& pattern);
 bool hasWildcard(const std::string& name);
+
+/// Keeps the first or last names of a list, as -head and -tail say.
+void keepEnd(Value::Strings& list, const ParsedCommand& call);
+
+/// The name of the shape below a transform: "pCube1" gives "pCubeShape1", "house" "houseShape".
+std::string shapeNameFor(const std::string& transform);
+
+/// Makes a node the selection.
+void selectOnly(engine::Scene& scene, engine::Node& node);
 
 /// A number in the current unit, or in the one written behind it ("5cm"), in internal units.
 double toInternal(const CommandContext& context, const Value& value, ArgumentType type);

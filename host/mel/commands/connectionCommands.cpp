@@ -86,22 +86,89 @@ Value isConnected(CommandContext& context, const ParsedCommand& call)
     return Value(feeding == source);
 }
 
+// connectionInfo
+
+/// The plug or the nearest one above it that has a connection of the kind; null when there is none.
+template <class Has>
+Plug nearestAbove(Plug plug, const Has& has)
+{
+    while (!plug.isNull() && !has(plug))
+        plug = plug.isElement() ? plug.array() : plug.isChild() ? plug.parent() : Plug();
+    return plug;
+}
+
+bool isFed(const Plug& plug)
+{
+    return !engine::sourceOf(plug).isNull();
+}
+
+bool feeds(const Plug& plug)
+{
+    return !engine::destinationsOf(plug).empty();
+}
+
+Value nameOf(const Plug& plug)
+{
+    return Value(plug.isNull() ? std::string() : plug.name());
+}
+
+struct ConnectionQuestion
+{
+    const char* shortName;
+    const char* longName;
+    const char* help;
+    Value (*answer)(const Plug& plug);
+};
+
+constexpr ConnectionQuestion kQuestions[] = {
+    {"sfd", "sourceFromDestination", "what feeds it",
+     [](const Plug& plug) {
+         const Plug fed = nearestAbove(plug, isFed);
+         return nameOf(fed.isNull() ? fed : engine::sourceOf(fed));
+     }},
+    {"dfs", "destinationFromSource", "what it feeds",
+     [](const Plug& plug) {
+         Value::Strings list;
+         for (const Plug& destination : engine::destinationsOf(plug))
+             list.push_back(destination.name());
+         return Value(std::move(list));
+     }},
+    {"id", "isDestination", "whether something feeds it or what it is part of",
+     [](const Plug& plug) { return Value(!nearestAbove(plug, isFed).isNull()); }},
+    {"is", "isSource", "whether it, or what it is part of, feeds something",
+     [](const Plug& plug) { return Value(!nearestAbove(plug, feeds).isNull()); }},
+    {"ied", "isExactDestination", "whether something feeds it itself",
+     [](const Plug& plug) { return Value(isFed(plug)); }},
+    {"ies", "isExactSource", "whether it feeds something itself",
+     [](const Plug& plug) { return Value(feeds(plug)); }},
+    {"ged", "getExactDestination", "it or what it is part of: what is fed",
+     [](const Plug& plug) { return nameOf(nearestAbove(plug, isFed)); }},
+    {"ges", "getExactSource", "it or what it is part of: what feeds something",
+     [](const Plug& plug) { return nameOf(nearestAbove(plug, feeds)); }},
+    {"il", "isLocked", "whether it is locked",
+     [](const Plug& plug) { return Value(engine::isLocked(plug)); }},
+    {"gla", "getLockedAncestor", "it or what it is part of: what is locked",
+     [](const Plug& plug) {
+         return nameOf(nearestAbove(plug, [](const Plug& above) { return engine::stateOf(above).locked; }));
+     }},
+};
+
 Value connectionInfo(CommandContext& context, const ParsedCommand& call)
 {
     const Plug plug = endNamed(context, call.names().front());
-    const Plug source = engine::sourceOf(plug);
-    if (call.has("sourceFromDestination"))
-        return Value(source.isNull() ? std::string() : source.name());
-    if (call.has("isDestination"))
-        return Value(!source.isNull());
-    if (call.has("isSource"))
-        return Value(!engine::destinationsOf(plug).empty());
-    if (call.has("isLocked"))
-        return Value(engine::isLocked(plug));
-    Value::Strings list;
-    for (const Plug& destination : engine::destinationsOf(plug))
-        list.push_back(destination.name());
-    return Value(std::move(list));
+    for (const ConnectionQuestion& question : kQuestions)
+        if (call.has(question.longName))
+            return question.answer(plug);
+    context.fail("connectionInfo: nothing was asked");
+}
+
+CommandSpec connectionInfoCommand()
+{
+    std::vector<FlagSpec> flags;
+    for (const ConnectionQuestion& question : kQuestions)
+        flags.push_back(switchFlag(question.shortName, question.longName, question.help));
+    return makeCommand("connectionInfo", "Tells about the connections of an attribute", std::move(flags),
+                       names(1, 1), connectionInfo);
 }
 
 // listConnections
@@ -181,13 +248,7 @@ void registerConnectionCommands(CommandTable& table)
         makeCommand("isConnected", "Tells whether one attribute feeds another",
                     {switchFlag("iuc", "ignoreUnitConversion", "looks past conversion nodes")}, names(2, 2),
                     isConnected),
-        makeCommand("connectionInfo", "Tells about the connections of an attribute",
-                    {switchFlag("sfd", "sourceFromDestination", "what feeds it"),
-                     switchFlag("dfs", "destinationFromSource", "what it feeds"),
-                     switchFlag("id", "isDestination", "whether something feeds it"),
-                     switchFlag("is", "isSource", "whether it feeds something"),
-                     switchFlag("il", "isLocked", "whether it is locked")},
-                    names(1, 1), connectionInfo),
+        connectionInfoCommand(),
         makeCommand("listConnections", "Lists what nodes or attributes are connected to",
                     {valueFlag("s", "source", A::boolean, "what feeds them"),
                      valueFlag("d", "destination", A::boolean, "what they feed"),

@@ -192,6 +192,15 @@ Value parent(CommandContext& context, const ParsedCommand& call)
     return Value(std::move(names));
 }
 
+/// A transform that can be used as a group: nothing is above or below it.
+engine::Node& emptyTransform(const CommandContext& context, const std::string& name)
+{
+    DagNode& node = dagNodeNamed(context, name);
+    if (!node.isTransform() || !node.children().empty() || !node.parents().front()->isWorld())
+        context.fail("'" + name + "' cannot be used as a group: it is no transform by itself");
+    return node;
+}
+
 Value group(CommandContext& context, const ParsedCommand& call)
 {
     engine::Scene& scene = sceneOf(context);
@@ -203,16 +212,16 @@ Value group(CommandContext& context, const ParsedCommand& call)
     if (!call.has("parent") && !call.has("world") && !items.empty() && items.front().isDag())
         above = parentInPath(items.front());
     engine::Node& made =
-        *valueOf(context, scene.createNode("transform", call.string("name", "group1"), above));
+        call.has("useAsGroup")
+            ? emptyTransform(context, call.string("useAsGroup"))
+            : *valueOf(context, scene.createNode("transform", call.string("name", "group1"), above));
     const DagPath place = DagPath::firstTo(*made.asDag());
     for (const SelectionItem& item : items) {
         if (!item.isDag())
             context.fail("'" + item.name() + "' is not a DAG node");
         putBelow(context, item, place, call.has("relative") || item.path.node()->isShape());
     }
-    engine::SelectionList list;
-    list.add(itemNamed(context, scene.shortestName(made)));
-    scene.setSelection(std::move(list));
+    selectOnly(scene, made);
     return Value(scene.shortestName(made));
 }
 
@@ -294,11 +303,13 @@ void registerDagCommands(CommandTable& table)
                      valueFlag("p", "parent", A::name, "what it stands under"),
                      switchFlag("w", "world", "it stands under the world"),
                      switchFlag("r", "relative", "keeps the numbers of the transforms"),
-                     switchFlag("a", "absolute", "keeps their place in the world (the default)")},
+                     switchFlag("a", "absolute", "keeps their place in the world (the default)"),
+                     valueFlag("uag", "useAsGroup", A::name, "this transform instead of a new one")},
                     names(), group),
         makeCommand("instance", "Makes instances of transforms",
                     {valueFlag("n", "name", A::string, "the new transform's name"),
-                     switchFlag("lf", "leaf", "of shapes only; the transforms above them are copied")},
+                     switchFlag("lf", "leaf", "of shapes only; the transforms above them are copied"),
+                     refusedFlag("st", "smartTransform", "there is no last transformation to repeat")},
                     names(), instance),
     });
 }

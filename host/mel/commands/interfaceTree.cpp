@@ -69,6 +69,8 @@ bool InterfaceTree::remove(InterfaceElement& element)
         m_parent = element.m_parent;
     if (isAtOrBelow(m_menu, element))
         m_menu = nullptr;
+    if (isAtOrBelow(m_collection, element))
+        m_collection = nullptr;
     auto& siblings = element.m_parent ? element.m_parent->m_children : m_windows;
     siblings.erase(std::find_if(siblings.begin(), siblings.end(),
                                 [&](const auto& candidate) { return candidate.get() == &element; }));

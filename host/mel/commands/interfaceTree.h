@@ -11,6 +11,17 @@
 
 namespace tvxhost::mel {
 
+/// How one edge of a form's child hangs.
+struct InterfaceAttachment
+{
+    std::string flag; ///< "attachForm", "attachControl" …
+    std::string child;
+    std::string edge;  ///< "top", "left", "bottom" or "right"
+    int offset = 0;    ///< pixels
+    std::string other; ///< the child it hangs on
+    int position = 0;  ///< of the form's grid
+};
+
 /// One element. Owned by the element above it.
 class InterfaceElement
 {
@@ -19,6 +30,7 @@ public:
     std::string name;                        ///< without path
     std::map<std::string, Value> properties; ///< by the flag's long name
     bool isShown = false;                    ///< windows: showWindow was called
+    std::vector<InterfaceAttachment> attachments; ///< forms: of the children, in the order they were made
 
     InterfaceElement* parent() const { return m_parent; }
     const std::vector<std::unique_ptr<InterfaceElement>>& children() const { return m_children; }
@@ -56,6 +68,12 @@ public:
     InterfaceElement* currentMenu() const { return m_menu; }
     void setCurrentParent(InterfaceElement* element) { m_parent = element; }
     void setCurrentMenu(InterfaceElement* element) { m_menu = element; }
+    /// What new radio buttons belong to.
+    InterfaceElement* currentCollection() const { return m_collection; }
+    void setCurrentCollection(InterfaceElement* element) { m_collection = element; }
+
+    /// The camera that the view shows.
+    std::string viewCamera = "persp";
 
 private:
     void collect(const std::vector<std::unique_ptr<InterfaceElement>>& elements, const std::string& name,
@@ -66,6 +84,7 @@ private:
     std::vector<std::unique_ptr<InterfaceElement>> m_windows;
     InterfaceElement* m_parent = nullptr;
     InterfaceElement* m_menu = nullptr;
+    InterfaceElement* m_collection = nullptr;
 };
 
 } // namespace tvxhost::mel

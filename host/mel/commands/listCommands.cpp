@@ -2,6 +2,8 @@
 #include "commandSupport.h"
 #include "sceneCommands.h"
 
+#include "engine/glob.h"
+
 #include <algorithm>
 
 namespace tvxhost::mel {
@@ -12,17 +14,81 @@ using engine::SelectionItem;
 
 namespace {
 
-/// Flags that stand for a type.
+/// A flag that stands for a type of node. Objects of any of the types that a call names are listed.
 struct TypeFlag
 {
-    const char* flag;
+    const char* shortName;
+    const char* longName;
+    const char* help;
     const char* type;
+    const char* classification; ///< what a type's classification begins with instead; null: only the type
 };
 
 constexpr TypeFlag kTypeFlags[] = {
-    {"transforms", "transform"},   {"shapes", "shape"},       {"cameras", "camera"},
-    {"lights", "light"},           {"sets", "objectSet"},     {"materials", "lambert"},
-    {"geometry", "geometryShape"}, {"textures", "texture2d"},
+    {"s", "shapes", "shapes", "shape", nullptr},
+    {"tr", "transforms", "transforms", "transform", nullptr},
+    {"ca", "cameras", "cameras", "camera", nullptr},
+    {"lt", "lights", "lights", "light", nullptr},
+    {"mat", "materials", "materials", "lambert", "shader/"},
+    {"tex", "textures", "textures", "texture2d", "texture/"},
+    {"g", "geometry", "geometry", "geometryShape", nullptr},
+    {"set", "sets", "sets", "objectSet", nullptr},
+    {"pr", "partitions", "partitions", "partition", nullptr},
+    {"con", "containers", "containers", "container", nullptr},
+    {"rf", "references", "references", "reference", nullptr},
+    {"rg", "renderGlobals", "settings of rendering", "renderGlobals", nullptr},
+    {"rq", "renderQualities", "qualities of rendering", "renderQuality", nullptr},
+    {"rr", "renderResolutions", "resolutions", "resolution", nullptr},
+};
+
+/// A flag that lists only some objects.
+struct StateFlag
+{
+    const char* shortName;
+    const char* longName;
+    const char* help;
+    bool (*holds)(const SelectionItem& item);
+};
+
+bool isTopTransform(const SelectionItem& item)
+{
+    const DagNode* dag = item.node->asDag();
+    return dag && !dag->parents().empty() && dag->parents().front()->isWorld();
+}
+
+bool isIntermediate(const SelectionItem& item)
+{
+    DagNode* dag = item.node->asDag();
+    return dag && dag->isIntermediate();
+}
+
+constexpr StateFlag kStateFlags[] = {
+    {"tm", "templated", "templated objects",
+     [](const SelectionItem& item) { return item.isDag() && item.path.isTemplated(); }},
+    {"ut", "untemplated", "objects that are not templated",
+     [](const SelectionItem& item) { return item.isDag() && !item.path.isTemplated(); }},
+    {"v", "visible", "visible objects",
+     [](const SelectionItem& item) { return item.isDag() && item.path.isVisible(); }},
+    {"iv", "invisible", "hidden objects",
+     [](const SelectionItem& item) { return item.isDag() && !item.path.isVisible(); }},
+    {"dag", "dagObjects", "DAG nodes, and what is below the named ones",
+     [](const SelectionItem& item) { return item.node->asDag() != nullptr; }},
+    {"dep", "dependencyNodes", "nodes of any kind", [](const SelectionItem&) { return true; }},
+    {"lf", "leaf", "DAG nodes with nothing below them",
+     [](const SelectionItem& item) { return item.node->asDag() && item.node->asDag()->children().empty(); }},
+    {"as", "assemblies", "top-level transforms", isTopTransform},
+    {"ln", "lockedNodes", "locked nodes", [](const SelectionItem& item) { return item.node->isLockedNode; }},
+    {"dn", "defaultNodes", "the nodes of every scene",
+     [](const SelectionItem& item) { return item.node->isDefaultNode; }},
+    {"ud", "undeletable", "nodes that cannot be deleted",
+     [](const SelectionItem& item) { return item.node->isDefaultNode || item.node->isShared; }},
+    {"rn", "referencedNodes", "nodes of referenced files",
+     [](const SelectionItem& item) { return item.node->isReferenced; }},
+    {"ro", "readOnly", "nodes that cannot be changed freely",
+     [](const SelectionItem& item) { return item.node->isReferenced || item.node->isLockedNode; }},
+    {"io", "intermediateObjects", "intermediate objects", isIntermediate},
+    {"ni", "noIntermediate", "no intermediate objects",
+     [](const SelectionItem& item) { return !isIntermediate(item); }},
 };
 
 std::vector<SelectionItem> itemsOfNode(Node& node, bool allPaths)
@@ -68,6 +134,16 @@ void addWithBelow(const SelectionItem& item, std::vector<SelectionItem>& items)
     }
 }
 
+void addFromAllNamespaces(engine::Scene& scene, const std::string& pattern, std::vector<SelectionItem>& items)
+{
+    const engine::Glob glob(pattern);
+    for (const SelectionItem& item : everything(scene, false)) {
+        const std::string& name = item.node->name();
+        if (glob.matches(std::string_view(name).substr(name.rfind(':') + 1)))
+            items.push_back(item);
+    }
+}
+
 std::vector<SelectionItem> candidates(CommandContext& context, const ParsedCommand& call)
 {
     engine::Scene& scene = sceneOf(context);
@@ -80,7 +156,9 @@ std::vector<SelectionItem> candidates(CommandContext& context, const ParsedComma
         return everything(scene, call.has("allPaths"));
     std::vector<SelectionItem> items;
     for (const std::string& name : names) {
-        if (hasWildcard(name)) {
+        if (call.boolean("recursive") && name.find(':') == std::string::npos) {
+            addFromAllNamespaces(scene, name, items);
+        } else if (hasWildcard(name)) {
             const std::vector<SelectionItem> found = scene.findItems(name);
             items.insert(items.end(), found.begin(), found.end());
         } else if (const auto found = scene.findItem(name)) {
@@ -102,58 +180,46 @@ std::vector<SelectionItem> candidates(CommandContext& context, const ParsedComma
     return items;
 }
 
-bool isOfTypes(const Node& node, const ParsedCommand& call)
+const std::string& typeNameOf(const Node& node)
 {
-    const auto uses = call.uses("type");
-    const auto exact = call.uses("exactType");
-    if (uses.empty() && exact.empty())
-        return true;
-    const auto names = [](const FlagUse* use) { return use->arguments.front().toString(); };
-    const std::string& own = node.unknownType.empty() ? node.type().name : node.unknownType;
-    return std::any_of(
-               uses.begin(), uses.end(),
-               [&](const FlagUse* use) { return own == names(use) || node.type().isA(names(use)); }) ||
-           std::any_of(exact.begin(), exact.end(), [&](const FlagUse* use) { return own == names(use); });
+    return node.unknownType.empty() ? node.type().name : node.unknownType;
 }
 
-/// Whether a path is templated, visible, invisible when the call asks for such ones.
-bool isShownAsAsked(const SelectionItem& item, const ParsedCommand& call)
+bool isOfTypes(const Node& node, const ParsedCommand& call)
 {
-    const auto isRefused = [&](const char* flag, bool (*is)(const engine::DagPath&)) {
-        return call.has(flag) && !(item.isDag() && is(item.path));
+    const std::string& own = typeNameOf(node);
+    const auto isAnyOf = [&](const char* flag, const auto& matches) {
+        const auto uses = call.uses(flag);
+        return std::any_of(uses.begin(), uses.end(),
+                           [&](const FlagUse* use) { return matches(use->arguments.front().toString()); });
     };
-    return !isRefused("templated", [](const engine::DagPath& path) { return path.isTemplated(); }) &&
-           !isRefused("visible", [](const engine::DagPath& path) { return path.isVisible(); }) &&
-           !isRefused("invisible", [](const engine::DagPath& path) { return !path.isVisible(); });
+    const auto derives = [&](const std::string& type) { return own == type || node.type().isA(type); };
+    const auto equals = [&](const std::string& type) { return own == type; };
+    if (isAnyOf("excludeType", derives))
+        return false;
+    return (!call.has("type") && !call.has("exactType")) || isAnyOf("type", derives) ||
+           isAnyOf("exactType", equals);
+}
+
+bool isOfTypeFlags(const Node& node, const ParsedCommand& call)
+{
+    bool isAsked = false;
+    for (const TypeFlag& row : kTypeFlags) {
+        if (!call.has(row.longName))
+            continue;
+        isAsked = true;
+        if (node.type().isA(row.type) ||
+            (row.classification && node.type().classification.rfind(row.classification, 0) == 0))
+            return true;
+    }
+    return !isAsked;
 }
 
 bool isListed(const SelectionItem& item, const ParsedCommand& call)
 {
-    Node& node = *item.node;
-    DagNode* dag = node.asDag();
-    if (call.has("dagObjects") && !dag)
-        return false;
-    bool asked = false;
-    bool matches = false;
-    for (const TypeFlag& row : kTypeFlags) {
-        if (!call.has(row.flag))
-            continue;
-        asked = true;
-        matches |= node.type().isA(row.type);
-    }
-    if (asked && !matches)
-        return false;
-    if (call.has("lockedNodes") && !node.isLockedNode)
-        return false;
-    if (call.has("defaultNodes") && !node.isDefaultNode)
-        return false;
-    if (call.has("assemblies") && !(dag && !dag->parents().empty() && dag->parents().front()->isWorld()))
-        return false;
-    if (call.has("noIntermediate") && dag && dag->isIntermediate())
-        return false;
-    if (!isShownAsAsked(item, call))
-        return false;
-    return isOfTypes(node, call);
+    return std::all_of(std::begin(kStateFlags), std::end(kStateFlags),
+                       [&](const StateFlag& row) { return !call.has(row.longName) || row.holds(item); }) &&
+           isOfTypeFlags(*item.node, call) && isOfTypes(*item.node, call);
 }
 
 /// "vtx[0:2]" as one item per component.
@@ -174,28 +240,43 @@ std::vector<std::string> flattened(const SelectionItem& item, bool fullPath)
     return names;
 }
 
-std::vector<std::string> namesOf(const SelectionItem& item, const ParsedCommand& call)
+std::vector<std::string> namesOf(SelectionItem item, const ParsedCommand& call)
 {
     if (call.has("uuid"))
         return {item.node->uuid()};
-    if (call.has("flatten"))
-        return flattened(item, call.has("long"));
-    return {item.name(call.has("long"))};
+    if (call.has("objectsOnly")) {
+        item.plug = {};
+        item.components.clear();
+    }
+    const bool isLong = call.has("long") || call.has("absoluteName");
+    std::vector<std::string> names =
+        call.has("flatten") ? flattened(item, isLong) : std::vector<std::string>{item.name(isLong)};
+    // Of a path each part is absolute already.
+    if (call.has("absoluteName"))
+        for (std::string& name : names)
+            name.insert(0, name.front() == '|' ? "" : ":");
+    return names;
 }
 
-void keepEnd(Value::Strings& list, const ParsedCommand& call)
+std::string namespaceOf(const Node& node)
 {
-    const auto keep = [&](const char* flag) {
-        return std::min(list.size(), static_cast<std::size_t>(std::max(0, call.integer(flag))));
-    };
-    if (call.has("head"))
-        list.resize(keep("head"));
-    if (call.has("tail"))
-        list.erase(list.begin(), list.end() - static_cast<std::ptrdiff_t>(keep("tail")));
+    const std::size_t colon = node.name().rfind(':');
+    return colon == std::string::npos ? ":" : node.name().substr(0, colon);
+}
+
+Value typeNames(engine::Scene& scene)
+{
+    Value::Strings list;
+    for (const engine::NodeType* type : scene.types().all())
+        if (!type->isAbstract)
+            list.push_back(type->name);
+    return Value(std::move(list));
 }
 
 Value ls(CommandContext& context, const ParsedCommand& call)
 {
+    if (call.has("nodeTypes"))
+        return typeNames(sceneOf(context));
     std::vector<SelectionItem> items = candidates(context, call);
     if (call.has("dagObjects") && !(call.names().empty() && !call.has("selection"))) {
         std::vector<SelectionItem> deep;
@@ -210,7 +291,9 @@ Value ls(CommandContext& context, const ParsedCommand& call)
         for (std::string& name : namesOf(item, call)) {
             list.push_back(std::move(name));
             if (call.has("showType"))
-                list.push_back(item.node->type().name);
+                list.push_back(typeNameOf(*item.node));
+            if (call.has("showNamespace"))
+                list.push_back(namespaceOf(*item.node));
         }
     }
     keepEnd(list, call);
@@ -222,37 +305,41 @@ Value ls(CommandContext& context, const ParsedCommand& call)
 void registerListCommands(CommandTable& table)
 {
     using A = ArgumentType;
-    table.add({makeCommand(
-        "ls", "Lists objects",
-        {switchFlag("sl", "selection", "those that are selected"),
-         switchFlag("os", "orderedSelection", "the same in the order of selection"),
-         switchFlag("hl", "hilite", "those that are hilited for components"),
-         switchFlag("tm", "templated", "templated objects"),
-         switchFlag("v", "visible", "visible objects"),
-         switchFlag("iv", "invisible", "hidden objects"),
-         switchFlag("l", "long", "full paths"),
-         valueFlag("typ", "type", A::string, "of this type or one derived from it", kCreate | kMultiUse),
-         valueFlag("et", "exactType", A::string, "of exactly this type", kCreate | kMultiUse),
-         switchFlag("dag", "dagObjects", "DAG nodes, and what is below the named ones"),
-         switchFlag("s", "shapes", "shapes"),
-         switchFlag("tr", "transforms", "transforms"),
-         switchFlag("ca", "cameras", "cameras"),
-         switchFlag("lt", "lights", "lights"),
-         switchFlag("mat", "materials", "materials"),
-         switchFlag("tex", "textures", "textures"),
-         switchFlag("g", "geometry", "geometry"),
-         switchFlag("set", "sets", "sets"),
-         switchFlag("as", "assemblies", "top-level transforms"),
-         switchFlag("dn", "defaultNodes", "the nodes of every scene"),
-         switchFlag("ap", "allPaths", "every path of instanced objects"),
-         switchFlag("fl", "flatten", "each component by itself"),
-         valueFlag("hd", "head", A::integer, "the first ones only"),
-         valueFlag("tl", "tail", A::integer, "the last ones only"),
-         switchFlag("ln", "lockedNodes", "locked nodes"),
-         switchFlag("uid", "uuid", "unique identifiers instead of names"),
-         switchFlag("st", "showType", "each name followed by its type"),
-         switchFlag("ni", "noIntermediate", "no intermediate objects")},
-        names(), ls)});
+    std::vector<FlagSpec> flags = {
+        switchFlag("sl", "selection", "those that are selected"),
+        switchFlag("os", "orderedSelection", "the same in the order of selection"),
+        switchFlag("hl", "hilite", "those that are hilited for components"),
+        switchFlag("l", "long", "full paths"),
+        switchFlag("sn", "shortNames", "names as short as they can be (the default)"),
+        switchFlag("an", "absoluteName", "names with all namespaces, from the root on"),
+        valueFlag("r", "recursive", A::boolean, "names are looked for in all namespaces"),
+        valueFlag("typ", "type", A::string, "of this type or one derived from it", kCreate | kMultiUse),
+        valueFlag("et", "exactType", A::string, "of exactly this type", kCreate | kMultiUse),
+        valueFlag("ext", "excludeType", A::string, "none of this type or one derived from it",
+                  kCreate | kMultiUse),
+        switchFlag("ap", "allPaths", "every path of instanced objects"),
+        switchFlag("fl", "flatten", "each component by itself"),
+        switchFlag("o", "objectsOnly", "objects instead of their components and attributes"),
+        valueFlag("hd", "head", A::integer, "the first ones only"),
+        valueFlag("tl", "tail", A::integer, "the last ones only"),
+        switchFlag("uid", "uuid", "unique identifiers instead of names"),
+        switchFlag("st", "showType", "each name followed by its type"),
+        switchFlag("sns", "showNamespace", "each name followed by its namespace"),
+        switchFlag("nt", "nodeTypes", "all types of node instead of nodes"),
+        refusedFlag("ct", "containerType", "nothing knows the types of containers here"),
+        refusedFlag("gh", "ghost", "the host draws no ghosts"),
+        refusedFlag("lv", "live", "there are no live objects"),
+        refusedFlag("mod", "modified", "the host does not keep what a file held"),
+        refusedFlag("pn", "persistentNodes", "the host does not tell which nodes survive a new scene"),
+        refusedFlag("pl", "planes", "there are no sketch planes"),
+        refusedFlag("psh", "preSelectHilite", "there is no mouse"),
+        refusedFlag("rs", "renderSetups", "obsolete"),
+    };
+    for (const TypeFlag& row : kTypeFlags)
+        flags.push_back(switchFlag(row.shortName, row.longName, row.help));
+    for (const StateFlag& row : kStateFlags)
+        flags.push_back(switchFlag(row.shortName, row.longName, row.help));
+    table.add({makeCommand("ls", "Lists objects", std::move(flags), names(), ls)});
 }
 
 } // namespace tvxhost::mel

@@ -12,29 +12,27 @@ using engine::SelectionItem;
 
 namespace {
 
-void selectNode(engine::Scene& scene, Node& node)
+engine::NodeType& typeNamed(const CommandContext& context, const std::string& name)
 {
-    engine::SelectionList list;
-    if (const auto item = scene.findItem(scene.shortestName(node)))
-        list.add(item.value);
-    scene.setSelection(std::move(list));
+    engine::NodeType* type = sceneOf(context).types().find(name);
+    if (!type)
+        context.fail("Unknown object type: " + name);
+    return *type;
 }
 
 Value createNode(CommandContext& context, const ParsedCommand& call)
 {
     engine::Scene& scene = sceneOf(context);
-    const std::string type = call.names().front();
     const std::string name = call.string("name");
     if (call.has("shared") && !name.empty())
         if (const auto existing = scene.findNode(name))
             return Value("");
-    if (!scene.types().find(type))
-        context.fail("Unknown object type: " + type);
+    engine::NodeType& nodeType = typeNamed(context, call.names().front());
     DagNode* parent = call.has("parent") ? &dagNodeNamed(context, call.string("parent")) : nullptr;
-    Node& node = *valueOf(context, scene.createNode(type, name, parent));
+    Node& node = *valueOf(context, scene.createNode(nodeType, name, parent));
     node.isShared = call.has("shared");
     if (!call.has("skipSelect"))
-        selectNode(scene, node);
+        selectOnly(scene, node);
     return Value(scene.shortestName(node));
 }
 
@@ -65,31 +63,6 @@ Value renameNode(CommandContext& context, const ParsedCommand& call)
     return Value(scene.shortestName(node));
 }
 
-Value deleteNodes(CommandContext& context, const ParsedCommand& call)
-{
-    engine::Scene& scene = sceneOf(context);
-    if (call.has("constructionHistory") || call.has("channels") || call.has("expressions")) {
-        context.editor().notImplemented("delete of construction history, channels or expressions");
-        context.fail("'delete' deletes whole objects and attributes' nodes only");
-    }
-    std::vector<engine::Ref<Node>> doomed;
-    if (call.has("all")) {
-        for (Node* node : scene.nodes())
-            if (!node->isDefaultNode && !node->isShared && !node->isLockedNode)
-                doomed.emplace_back(node);
-    } else {
-        const std::vector<SelectionItem> items = itemsOrSelection(context, call.names());
-        if (items.empty())
-            context.fail("Nothing is selected to delete");
-        for (const SelectionItem& item : items)
-            doomed.push_back(item.node);
-    }
-    for (const engine::Ref<Node>& node : doomed)
-        if (node->isAlive())
-            require(context, scene.deleteNode(*node));
-    return {};
-}
-
 Value objExists(CommandContext& context, const ParsedCommand& call)
 {
     engine::Scene& scene = sceneOf(context);
@@ -105,13 +78,10 @@ Value nodeType(CommandContext& context, const ParsedCommand& call)
     engine::Scene& scene = sceneOf(context);
     const std::string name = call.names().front();
     engine::NodeType* type = nullptr;
-    if (call.has("isTypeName")) {
-        type = scene.types().find(name);
-        if (!type)
-            context.fail("Unknown object type: " + name);
-    } else {
+    if (call.has("isTypeName"))
+        type = &typeNamed(context, name);
+    else
         type = &itemNamed(context, name).node->type();
-    }
     if (call.has("derived")) {
         Value::Strings derived;
         for (const engine::NodeType* candidate : scene.types().all())
@@ -127,12 +97,33 @@ Value nodeType(CommandContext& context, const ParsedCommand& call)
     return Value(std::move(chain));
 }
 
+Value objectType(CommandContext& context, const ParsedCommand& call)
+{
+    if (call.has("tagFromType"))
+        return Value(static_cast<int>(typeNamed(context, call.string("tagFromType")).id));
+    if (call.has("typeFromTag")) {
+        const auto id = static_cast<std::uint32_t>(call.integer("typeFromTag"));
+        const engine::NodeType* type = sceneOf(context).types().find(id);
+        if (!type)
+            context.fail("objectType: there is no type " + std::to_string(id));
+        return Value(type->name);
+    }
+    if (call.names().empty())
+        context.fail("objectType: no object was named");
+    const engine::NodeType& type = itemNamed(context, call.names().front()).node->type();
+    if (call.has("isAType"))
+        return Value(type.isA(typeNamed(context, call.string("isAType"))));
+    if (call.has("isType"))
+        return Value(type.name == call.string("isType"));
+    return call.has("typeTag") ? Value(static_cast<int>(type.id)) : Value(type.name);
+}
+
 Value lockNode(CommandContext& context, const ParsedCommand& call)
 {
     Value::Integers states;
     for (const SelectionItem& item : itemsOrSelection(context, call.names())) {
         if (!call.queries())
-            item.node->isLockedNode = call.boolean("lock", true);
+            item.node->setLocked(call.boolean("lock", true));
         states.push_back(item.node->isLockedNode ? 1 : 0);
     }
     return call.queries() ? Value(std::move(states)) : Value();
@@ -154,13 +145,6 @@ void registerNodeCommands(CommandTable& table)
                     {valueFlag("uid", "uuid", A::string, "sets the unique identifier instead"),
                      switchFlag("is", "ignoreShape", "shapes below keep their names")},
                     names(0, 2), renameNode),
-        makeCommand("delete", "Deletes nodes",
-                    {switchFlag("all", "all", "everything that can be deleted"),
-                     switchFlag("hi", "hierarchy", "with everything below (always so)"),
-                     switchFlag("ch", "constructionHistory", "history only"),
-                     switchFlag("c", "channels", "animation only"),
-                     switchFlag("e", "expressions", "expressions only")},
-                    names(), deleteNodes),
         makeCommand("objExists", "Tells whether a node, path or attribute exists", {}, names(1, 1),
                     objExists),
         makeCommand("nodeType", "Tells a node's type",
@@ -168,6 +152,15 @@ void registerNodeCommands(CommandTable& table)
                      switchFlag("d", "derived", "the types that derive from it"),
                      switchFlag("itn", "isTypeName", "the name is that of a type")},
                     names(1, 1), nodeType),
+        makeCommand(
+            "objectType", "Tells an object's type, or whether it is of one",
+            {valueFlag("isa", "isAType", A::string, "whether it is of this type or one derived from it"),
+             valueFlag("i", "isType", A::string, "whether it is of exactly this type"),
+             switchFlag("tt", "typeTag", "the number of the type"),
+             valueFlag("tgt", "tagFromType", A::string, "the number of a type by name"),
+             valueFlag("tpt", "typeFromTag", A::integer, "the name of a type by number"),
+             refusedFlag("ctg", "convertTag", "there are no four letters of such numbers here")},
+            names(0, 1), objectType),
         makeCommand("lockNode", "Protects nodes from being deleted or renamed",
                     {valueFlag("l", "lock", A::boolean, "locks or unlocks", kAllModes)}, names(), lockNode,
                     kAllModes),

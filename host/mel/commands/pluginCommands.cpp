@@ -152,9 +152,23 @@ CommandSpec pluginInfoCommand()
     };
     for (const PluginQuestion& question : kQuestions)
         flags.push_back(switchFlag(question.shortName, question.longName, question.help, kQuery));
+    const char* const notHere = "the host has no plug-ins of this kind";
+    for (const auto& [shortName, longName] :
+         {std::pair("aci", "animCurveInterp"), std::pair("cf", "cacheFormat"),
+          std::pair("ctc", "constraintCommand"), std::pair("ctl", "controlCommand"), std::pair("d", "data"),
+          std::pair("dv", "device"), std::pair("ddb", "dragAndDropBehavior"), std::pair("ik", "iksolver"),
+          std::pair("t", "tool"), std::pair("tr", "translator")})
+        flags.push_back(refusedFlag(shortName, longName, notHere));
+    const char* const notKept = "the host keeps no settings of plug-ins";
+    for (const auto& [shortName, longName] :
+         {std::pair("cc", "changedCommand"), std::pair("lpp", "loadPluginPrefs"),
+          std::pair("spp", "savePluginPrefs"), std::pair("set", "settings")})
+        flags.push_back(refusedFlag(shortName, longName, notKept));
     return makeCommand("pluginInfo", "Tells about plug-ins", std::move(flags), {A::string, 0, 1}, pluginInfo,
                        kAllModes);
 }
+
+constexpr const char* kNoCallbacks = "no scripts are run when plug-ins come and go";
 
 } // namespace
 
@@ -164,10 +178,15 @@ void registerPluginCommands(CommandTable& table)
     table.add({
         makeCommand("loadPlugin", "Loads plug-ins",
                     {switchFlag("qt", "quiet", "no warning when it is loaded already"),
-                     valueFlag("n", "name", A::string, "the name to know it by")},
+                     valueFlag("n", "name", A::string, "the name to know it by"),
+                     refusedFlag("a", "allPlugins", "name those that are wanted"),
+                     refusedFlag("ac", "addCallback", kNoCallbacks),
+                     refusedFlag("rc", "removeCallback", kNoCallbacks)},
                     {A::string, 1, PositionalRule::kAny}, loadPlugin),
         makeCommand("unloadPlugin", "Unloads plug-ins",
-                    {switchFlag("f", "force", "although there are nodes of its types")},
+                    {switchFlag("f", "force", "although there are nodes of its types"),
+                     refusedFlag("ac", "addCallback", kNoCallbacks),
+                     refusedFlag("rc", "removeCallback", kNoCallbacks)},
                     {A::string, 1, PositionalRule::kAny}, unloadPlugin),
         pluginInfoCommand(),
     });

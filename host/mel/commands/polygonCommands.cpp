@@ -1,13 +1,12 @@
 // polyPlane, polyCube, polySphere, polyCone, polyCylinder, polyTorus: primitives with the nodes that make
 // them.
-#include "commandSupport.h"
+#include "attributeFlags.h"
 #include "sceneCommands.h"
 #include "setMembers.h"
 
 #include "engine/mesh.h"
 
 #include <algorithm>
-#include <cctype>
 
 namespace tvxhost::mel {
 
@@ -19,22 +18,12 @@ namespace {
 
 using A = ArgumentType;
 
-/// A flag that is an attribute of the node that makes the primitive.
-struct AttributeFlag
-{
-    const char* shortName;
-    const char* longName;
-    ArgumentType type;
-    const char* attribute;
-    const char* help;
-};
-
 struct Primitive
 {
     const char* command; ///< also the type of the node that makes it
     const char* name;    ///< of the transform, without its number
     const char* summary;
-    std::vector<AttributeFlag> flags;
+    AttributeFlags flags;
     int capRings = -1; ///< subdivisions of the caps when no flag gives them; -1: as the node has them
 };
 
@@ -109,37 +98,20 @@ const std::vector<Primitive>& primitives()
     return all;
 }
 
-constexpr const char* kAxis = "axis";
-constexpr const char* kTextures = "createUVs";
-
-Plug plugOf(const CommandContext& context, Node& node, const char* attribute)
+/// The flags that all primitives have.
+const AttributeFlags& sharedFlags()
 {
-    return valueOf(context, node.findPlug(attribute));
+    static const AttributeFlags shared = {
+        {"ax", "axis", A::number, "axis", "what it stands along", 3},
+        {"cuv", "createUVs", A::integer, "createUVs", "how textures are laid on (kept only)"},
+    };
+    return shared;
 }
 
-/// Angles, distances and plain numbers of a flag in internal units.
-double numberOf(const CommandContext& context, const Value& value, ArgumentType type)
+void setAll(const CommandContext& context, const ParsedCommand& call, const Primitive& primitive, Node& node)
 {
-    if (type == A::integer || type == A::boolean)
-        return value.toNumber();
-    return toInternal(context, value, type);
-}
-
-void setAttributes(const CommandContext& context, const ParsedCommand& call, const Primitive& primitive,
-                   Node& node)
-{
-    for (const AttributeFlag& flag : primitive.flags)
-        if (const FlagUse* use = call.use(flag.longName))
-            require(context, writeNumber(plugOf(context, node, flag.attribute),
-                                         numberOf(context, use->arguments.front(), flag.type)));
-    if (const FlagUse* use = call.use(kAxis)) {
-        std::vector<double> axis;
-        for (const Value& value : use->arguments)
-            axis.push_back(value.toNumber());
-        require(context, writeNumbers(plugOf(context, node, kAxis), axis));
-    }
-    if (call.has(kTextures))
-        require(context, writeNumber(plugOf(context, node, kTextures), call.integer(kTextures)));
+    setAttributes(context, call, primitive.flags, node);
+    setAttributes(context, call, sharedFlags(), node);
 }
 
 bool givesCapRings(const ParsedCommand& call, const Primitive& primitive)
@@ -147,15 +119,6 @@ bool givesCapRings(const ParsedCommand& call, const Primitive& primitive)
     return std::any_of(primitive.flags.begin(), primitive.flags.end(), [&](const AttributeFlag& flag) {
         return std::string(flag.attribute) == "subdivisionsCaps" && call.has(flag.longName);
     });
-}
-
-/// "pCube1" becomes "pCubeShape1", "house" "houseShape".
-std::string shapeName(const std::string& transform)
-{
-    std::size_t digits = transform.size();
-    while (digits > 0 && std::isdigit(static_cast<unsigned char>(transform[digits - 1])))
-        --digits;
-    return transform.substr(0, digits) + "Shape" + transform.substr(digits);
 }
 
 void setIfThere(DagNode& node, const char* attribute, int value)
@@ -170,7 +133,7 @@ DagNode& makeShape(CommandContext& context, const std::string& name)
     engine::Scene& scene = sceneOf(context);
     DagNode& transform = *valueOf(context, scene.createNode("transform", name))->asDag();
     DagNode& shape =
-        *valueOf(context, scene.createNode("mesh", shapeName(transform.name()), &transform))->asDag();
+        *valueOf(context, scene.createNode("mesh", shapeNameFor(transform.name()), &transform))->asDag();
     setIfThere(shape, "visibleInReflections", 1);
     setIfThere(shape, "visibleInRefractions", 1);
     if (const auto group = scene.findNode(":initialShadingGroup"))
@@ -187,13 +150,11 @@ Value create(CommandContext& context, const ParsedCommand& call, const Primitive
     Node& maker = *valueOf(context, scene.createNode(primitive.command));
     if (primitive.capRings >= 0 && !givesCapRings(call, primitive))
         require(context, writeNumber(plugOf(context, maker, "subdivisionsCaps"), primitive.capRings));
-    setAttributes(context, call, primitive, maker);
+    setAll(context, call, primitive, maker);
     require(context, scene.connect(plugOf(context, maker, "output"), plugOf(context, shape, "inMesh")));
     // Made at once, so that it stays when its history goes.
     static_cast<void>(engine::meshOf(shape));
-    engine::SelectionList selected;
-    selected.add(itemNamed(context, scene.shortestName(transform)));
-    scene.setSelection(std::move(selected));
+    selectOnly(scene, transform);
     Value::Strings result = {scene.shortestName(transform)};
     if (call.boolean("constructionHistory", true))
         result.push_back(maker.name());
@@ -220,37 +181,12 @@ Node& makerOf(const CommandContext& context, const engine::SelectionItem& item, 
     return *node;
 }
 
-Node& onlyMaker(CommandContext& context, const ParsedCommand& call, const Primitive& primitive)
-{
-    const std::vector<engine::SelectionItem> items = itemsOrSelection(context, call.names());
-    if (items.size() != 1)
-        context.fail("'" + context.command() + "' needs exactly one object to query or edit");
-    return makerOf(context, items.front(), primitive);
-}
-
-/// In the current units.
-Value queried(const CommandContext& context, Node& maker, const AttributeFlag& flag)
-{
-    const Plug plug = plugOf(context, maker, flag.attribute);
-    const engine::Number number = valueOf(context, readNumber(plug));
-    if (flag.type == A::integer)
-        return Value(static_cast<int>(number.asWhole()));
-    if (flag.type == A::boolean)
-        return Value(number.asWhole() != 0);
-    return Value(number.asReal() / toInternal(context, Value(1.0), flag.type));
-}
-
 Value query(CommandContext& context, const ParsedCommand& call, const Primitive& primitive)
 {
-    Node& maker = onlyMaker(context, call, primitive);
-    for (const AttributeFlag& flag : primitive.flags)
-        if (call.has(flag.longName))
-            return queried(context, maker, flag);
-    if (call.has(kAxis))
-        return Value(Value::Numbers(valueOf(context, readNumbers(plugOf(context, maker, kAxis)))));
-    if (call.has(kTextures))
-        return Value(
-            static_cast<int>(valueOf(context, readNumber(plugOf(context, maker, kTextures))).asWhole()));
+    Node& maker = makerOf(context, onlyItem(context, call), primitive);
+    for (const AttributeFlags& flags : {primitive.flags, sharedFlags()})
+        if (const std::optional<Value> value = queriedAttribute(context, call, flags, maker))
+            return *value;
     context.fail("'" + context.command() + "' in query mode needs a flag");
 }
 
@@ -260,19 +196,16 @@ Value run(CommandContext& context, const ParsedCommand& call, const Primitive& p
         return query(context, call, primitive);
     if (!call.edits())
         return create(context, call, primitive);
-    Node& maker = onlyMaker(context, call, primitive);
-    setAttributes(context, call, primitive, maker);
+    Node& maker = makerOf(context, onlyItem(context, call), primitive);
+    setAll(context, call, primitive, maker);
     return Value(maker.name());
 }
 
 CommandSpec specOf(const Primitive& primitive)
 {
-    std::vector<FlagSpec> flags;
-    for (const AttributeFlag& flag : primitive.flags)
-        flags.push_back(valueFlag(flag.shortName, flag.longName, flag.type, flag.help, kAllModes));
-    flags.push_back({"ax", kAxis, {A::number, A::number, A::number}, kAllModes, "what it stands along"});
-    flags.push_back(
-        valueFlag("cuv", kTextures, A::integer, "how textures are laid on (kept only)", kAllModes));
+    std::vector<FlagSpec> flags = specsOf(primitive.flags);
+    const std::vector<FlagSpec> shared = specsOf(sharedFlags());
+    flags.insert(flags.end(), shared.begin(), shared.end());
     flags.push_back(
         valueFlag("ch", "constructionHistory", A::boolean, "keeps the node that makes it (on by default)"));
     flags.push_back(valueFlag("n", "name", A::string, "of the transform"));

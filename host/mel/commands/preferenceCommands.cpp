@@ -2,7 +2,9 @@
 #include "commandSupport.h"
 #include "sceneCommands.h"
 
+#include <ctime>
 #include <filesystem>
+#include <sys/utsname.h>
 #include <type_traits>
 #include <variant>
 
@@ -182,6 +184,21 @@ Value savePrefs(CommandContext& context, const ParsedCommand&)
 
 // about, internalVar
 
+std::string systemVersion()
+{
+    utsname names{};
+    return ::uname(&names) == 0 ? std::string(names.sysname) + " " + names.release : std::string();
+}
+
+std::string dateText(const char* format)
+{
+    const std::time_t now = std::time(nullptr);
+    std::tm local{};
+    ::localtime_r(&now, &local);
+    char text[64];
+    return std::string(text, std::strftime(text, sizeof text, format, &local));
+}
+
 struct Fact
 {
     const char* shortName;
@@ -205,6 +222,28 @@ const Fact kFacts[] = {
     {"nt", "ntOS", "whether the system is Windows", [](const engine::Scene&) { return Value(0); }},
     {"mac", "macOS", "whether the system is macOS", [](const engine::Scene&) { return Value(0); }},
     {"uil", "uiLanguage", "the language", [](const engine::Scene&) { return Value("en_US"); }},
+    {"uii", "uiLanguageIsLocalized", "whether that is another than English",
+     [](const engine::Scene&) { return Value(0); }},
+    {"cs", "codeset", "the encoding of texts", [](const engine::Scene&) { return Value("UTF-8"); }},
+    {"iv", "installedVersion", "the version that is installed",
+     [](const engine::Scene&) { return Value("Maya 2016"); }},
+    {"cv", "customVersion", "the version of a custom build", [](const engine::Scene&) { return Value(""); }},
+    {"bv", "buildVariant", "the kind of build", [](const engine::Scene&) { return Value(""); }},
+    {"lt", "ltVersion", "the version of the small edition", [](const engine::Scene&) { return Value(""); }},
+    {"ev", "evalVersion", "whether it is for evaluation only", [](const engine::Scene&) { return Value(0); }},
+    {"x64", "is64", "whether the program has 64 bits", [](const engine::Scene&) { return Value(1); }},
+    {"l64", "linux64", "whether the system is Linux with 64 bits",
+     [](const engine::Scene&) { return Value(1); }},
+    {"win", "windows", "whether the system is Windows", [](const engine::Scene&) { return Value(0); }},
+    {"w64", "win64", "whether the system is Windows with 64 bits",
+     [](const engine::Scene&) { return Value(0); }},
+    {"ir", "irix", "whether the system is IRIX", [](const engine::Scene&) { return Value(0); }},
+    {"osv", "operatingSystemVersion", "the system's version",
+     [](const engine::Scene&) { return Value(systemVersion()); }},
+    {"cd", "currentDate", "the date", [](const engine::Scene&) { return Value(dateText("%Y/%m/%d")); }},
+    {"ct", "currentTime", "the time", [](const engine::Scene&) { return Value(dateText("%H:%M:%S")); }},
+    {"cti", "ctime", "both, as C writes them",
+     [](const engine::Scene&) { return Value(dateText("%a %b %e %H:%M:%S %Y")); }},
 };
 
 Value about(CommandContext& context, const ParsedCommand& call)
@@ -223,14 +262,46 @@ CommandSpec aboutCommand()
     return makeCommand("about", "Tells about the program", std::move(flags), noArguments(), about, kQuery);
 }
 
+/// A folder of the user's, below that of the preferences.
+struct FolderRow
+{
+    const char* shortName;
+    const char* longName;
+    const char* help;
+    const char* below; ///< "" for the folder itself
+};
+
+constexpr FolderRow kFolders[] = {
+    {"upd", "userPrefDir", "preferences", ""},
+    {"uad", "userAppDir", "everything of the user", ""},
+    {"usd", "userScriptDir", "scripts", "scripts"},
+    {"ubd", "userBitmapsDir", "pictures", "icons"},
+    {"uhk", "userHotkeyDir", "keys", "hotkeys"},
+    {"umm", "userMarkingMenuDir", "marking menus", "markingMenus"},
+    {"ups", "userPresetsDir", "presets", "presets"},
+    {"ush", "userShelfDir", "shelves", "shelves"},
+    {"uwd", "userWorkspaceDir", "projects", "projects"},
+};
+
 Value internalVar(CommandContext& context, const ParsedCommand& call)
 {
-    const std::filesystem::path& preferences = sessionOf(context).preferencesFolder;
     if (call.has("userTmpDir"))
         return Value((std::filesystem::temp_directory_path() / "").string());
-    if (call.has("userScriptDir"))
-        return Value((preferences / "scripts" / "").string());
-    return Value((preferences / "").string());
+    const std::filesystem::path& preferences = sessionOf(context).preferencesFolder;
+    for (const FolderRow& row : kFolders)
+        if (call.has(row.longName))
+            return Value((preferences / row.below / "").string());
+    context.fail("internalVar: nothing was asked");
+}
+
+CommandSpec internalVarCommand()
+{
+    std::vector<FlagSpec> flags = {switchFlag("utd", "userTmpDir", "temporary files")};
+    for (const FolderRow& row : kFolders)
+        flags.push_back(switchFlag(row.shortName, row.longName, row.help));
+    flags.push_back(refusedFlag("mid", "mayaInstallDir", "there is no installation"));
+    return makeCommand("internalVar", "Tells the folders of the user", std::move(flags), noArguments(),
+                       internalVar);
 }
 
 } // namespace
@@ -242,12 +313,7 @@ void registerPreferenceCommands(CommandTable& table)
         makeCommand("savePrefs", "Writes the preferences", {switchFlag("g", "general", "everything")},
                     noArguments(), savePrefs),
         aboutCommand(),
-        makeCommand("internalVar", "Tells the folders of the user",
-                    {switchFlag("upd", "userPrefDir", "preferences"),
-                     switchFlag("uad", "userAppDir", "everything of the user"),
-                     switchFlag("usd", "userScriptDir", "scripts"),
-                     switchFlag("utd", "userTmpDir", "temporary files")},
-                    noArguments(), internalVar),
+        internalVarCommand(),
     });
 }
 

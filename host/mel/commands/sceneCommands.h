@@ -6,16 +6,26 @@ namespace tvxhost::mel {
 class CommandTable;
 
 void registerNodeCommands(CommandTable& table);
+void registerDeleteCommands(CommandTable& table);
+void registerHistoryCommands(CommandTable& table);
 void registerListCommands(CommandTable& table);
+void registerLocatorCommands(CommandTable& table);
+void registerScriptJobCommands(CommandTable& table);
+void registerScriptNodeCommands(CommandTable& table);
+void registerShadingCommands(CommandTable& table);
 void registerSelectionCommands(CommandTable& table);
 void registerDagCommands(CommandTable& table);
 void registerDagEditCommands(CommandTable& table);
 void registerAttributeValueCommands(CommandTable& table);
 void registerAttributeCommands(CommandTable& table);
+void registerAttributeNameCommands(CommandTable& table);
+void registerAttributeQueryCommands(CommandTable& table);
+void registerCameraCommands(CommandTable& table);
 void registerClassificationCommands(CommandTable& table);
 void registerConnectionCommands(CommandTable& table);
 void registerSetCommands(CommandTable& table);
 void registerTransformCommands(CommandTable& table);
+void registerMakeIdentityCommands(CommandTable& table);
 void registerXformCommands(CommandTable& table);
 void registerParticleCommands(CommandTable& table);
 void registerPolygonCommands(CommandTable& table);
@@ -27,6 +37,7 @@ void registerWorkspaceCommands(CommandTable& table);
 void registerDialogCommands(CommandTable& table);
 void registerPluginCommands(CommandTable& table);
 void registerInterfaceCommands(CommandTable& table);
+void registerInterfaceTreeCommands(CommandTable& table);
 void registerNamespaceCommands(CommandTable& table);
 void registerUndoCommands(CommandTable& table);
 

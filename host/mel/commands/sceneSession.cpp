@@ -11,7 +11,7 @@ namespace tvxhost::mel {
 using engine::Outcome;
 
 SceneSession::SceneSession(engine::Scene& scene, api::PluginLoader* plugins)
-    : workspace(std::filesystem::current_path()), m_scene(scene), m_plugins(plugins)
+    : workspace(std::filesystem::current_path()), jobs(scene), m_scene(scene), m_plugins(plugins)
 {
 }
 

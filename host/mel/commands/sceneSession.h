@@ -2,6 +2,7 @@
 #pragma once
 
 #include "interfaceTree.h"
+#include "scriptJobs.h"
 #include "windowPreferences.h"
 #include "workspace.h"
 
@@ -44,6 +45,8 @@ public:
     WindowPreferences windows;
     /// The project.
     Workspace workspace;
+    /// Scripts that wait for something to happen.
+    ScriptJobs jobs;
     /// What the user will answer to the next dialogs, in order; a dialog that finds none is cancelled.
     std::deque<std::string> dialogAnswers;
     /// Called after a plug-in was loaded or unloaded, before its interface is made or after it was removed.

@@ -3,6 +3,8 @@
 #include "sceneCommands.h"
 #include "setMembers.h"
 
+#include <algorithm>
+
 namespace tvxhost::mel {
 
 using engine::DagNode;
@@ -80,7 +82,12 @@ Value select(CommandContext& context, const ParsedCommand& call)
         scene.setSelection({});
         return {};
     }
-    const std::vector<SelectionItem> items = wanted(context, call);
+    std::vector<SelectionItem> items = wanted(context, call);
+    if (call.has("visible"))
+        items.erase(
+            std::remove_if(items.begin(), items.end(),
+                           [](const SelectionItem& item) { return !item.isDag() || !item.path.isVisible(); }),
+            items.end());
     SelectionList list;
     if (call.has("addFirst")) {
         addAll(list, items);
@@ -136,7 +143,10 @@ void registerSelectionCommands(CommandTable& table)
                       switchFlag("adn", "allDependencyNodes", "every node"),
                       switchFlag("hi", "hierarchy", "with everything below"),
                       switchFlag("ne", "noExpand", "sets themselves, not their members"),
-                      switchFlag("vis", "visible", "visible objects only")},
+                      switchFlag("vis", "visible", "visible objects only"),
+                      refusedFlag("cc", "containerCentric", "containers are nodes like others"),
+                      refusedFlag("sym", "symmetry", "there is no symmetric picking"),
+                      refusedFlag("sys", "symmetrySide", "there is no symmetric picking")},
                      names(), select),
          makeCommand("hilite", "Hilites objects, or the selected ones, for the selection of components",
                      {switchFlag("r", "replace", "the objects alone are hilited"),

@@ -1,17 +1,12 @@
-// Members of sets: what is connected to a set's member attributes.
+// Members of sets, by the names of the commands.
 #pragma once
 
-#include "engine/scene.h"
-
-#include <vector>
+#include "engine/setMembers.h"
 
 namespace tvxhost::mel {
 
-/// The members of an objectSet (a shading group is one) in the order of their elements.
-std::vector<engine::SelectionItem> setMembers(engine::Node& set);
-/// Adds a member; success when it was one already.
-engine::Outcome addSetMember(engine::Node& set, const engine::SelectionItem& member);
-/// Takes a member out; notFound when it is none.
-engine::Outcome removeSetMember(engine::Node& set, const engine::SelectionItem& member);
+using engine::addSetMember;
+using engine::removeSetMember;
+using engine::setMembers;
 
 } // namespace tvxhost::mel

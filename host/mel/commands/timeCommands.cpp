@@ -147,6 +147,8 @@ CommandSpec playbackCommand()
         valueFlag("l", "loop", A::string, "once, continuous or oscillate", kAllModes),
         valueFlag("v", "view", A::string, "which views play: all or active", kAllModes),
         switchFlag("fps", "framesPerSecond", "frames of the current unit in a second", kQuery),
+        refusedFlag("mps", "maxPlaybackSpeed", "the host plays nothing"),
+        refusedFlag("ba", "blockingAnim", "the host plays nothing"),
     };
     for (const RangeEnd& end : kRangeEnds)
         flags.push_back(valueFlag(end.shortName, end.longName, A::time, end.help, kAllModes));

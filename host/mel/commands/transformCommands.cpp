@@ -209,6 +209,18 @@ CommandSpec channelCommand(const char* name, const char* summary, std::vector<Fl
         flags.push_back(
             switchFlag(shortName, std::string(name) + axes, std::string("along ") + axes + " only"));
     }
+    const std::vector<FlagSpec> refused = {
+        refusedFlag("pcp", "preserveChildPosition", kMovesChildren),
+        refusedFlag("puv", "preserveUV", kNoComponents),
+        refusedFlag("pgp", "preserveGeometryPosition", kNoComponents),
+        refusedFlag("rfl", "reflection", kNoComponents),
+        refusedFlag("smn", "symNegative", kNoComponents),
+        refusedFlag("cs", "componentSpace", kNoComponents),
+        refusedFlag("dph", "deletePriorHistory", kNoComponents),
+        refusedFlag("xc", "xformConstraint", kNoComponents),
+        refusedFlag("oj", "orientJoint", "joints are transforms like others"),
+    };
+    flags.insert(flags.end(), refused.begin(), refused.end());
     return makeCommand(name, summary, std::move(flags), {ArgumentType::any, 1, PositionalRule::kAny},
                        std::move(handler));
 }

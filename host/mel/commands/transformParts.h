@@ -17,6 +17,10 @@ std::vector<engine::DagPath> transformsOf(const CommandContext& context,
 /// All parts of the transform at the end of a path, evaluated.
 api::Transformation partsOf(const CommandContext& context, const engine::DagPath& path);
 
+// Why flags of these commands are refused.
+constexpr const char* kMovesChildren = "what is below an object goes with it";
+constexpr const char* kNoComponents = "only whole objects are transformed here";
+
 using PartsChange = std::function<void(api::Transformation& parts, const api::Parents& parents)>;
 /// Has the parts changed and writes those that differ; stops the script when one of them is refused.
 void changeParts(const CommandContext& context, const engine::DagPath& path, const PartsChange& change);

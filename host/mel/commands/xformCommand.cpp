@@ -1,4 +1,4 @@
-// xform and makeIdentity: the parts of a transform, one by one or as a whole.
+// xform: the parts of a transform, one by one or as a whole.
 #include "sceneCommands.h"
 #include "transformParts.h"
 
@@ -22,7 +22,8 @@ struct View
 {
     MSpace::Space space = MSpace::kTransform;
     bool isRelative = false;
-    bool keepsPlace = true; ///< -preserve: what does not move the object itself leaves it in place
+    bool addsAngles = false; ///< -euler: relative rotations add to the angles
+    bool keepsPlace = true;  ///< -preserve: what does not move the object itself leaves it in place
 
     bool isWorld() const { return space == MSpace::kWorld; }
 };
@@ -86,7 +87,9 @@ MVector readRotation(const Transformation& parts, const Parents& parents, const 
 void writeRotation(Transformation& parts, const Parents& parents, const View& view, const MVector& value)
 {
     const MEulerRotation angles(value, parts.rotation.order);
-    if (view.isRelative)
+    if (view.isRelative && view.addsAngles)
+        parts.rotation = parts.rotation.asVector() + value;
+    else if (view.isRelative)
         api::turn(parts, parents, view.space, angles.asQuaternion());
     else if (view.isWorld())
         api::setRotationIn(parts, parents, view.space, angles.asQuaternion());
@@ -166,6 +169,7 @@ View viewOf(const ParsedCommand& call)
     View view;
     view.space = call.has("worldSpace") ? MSpace::kWorld : MSpace::kTransform;
     view.isRelative = call.has("relative");
+    view.addsAngles = call.has("euler");
     view.keepsPlace = call.boolean("preserve", true);
     return view;
 }
@@ -323,6 +327,14 @@ CommandSpec xformCommand()
         {"piv", "pivots", {A::linear, A::linear, A::linear}, kSetQuery, "both pivots: rotate, scale"},
         switchFlag("cp", "centerPivots", "puts both pivots into the middle of the box"),
         switchFlag("ztp", "zeroTransformPivots", "takes both pivots to the origin"),
+        switchFlag("eu", "euler", "with -relative: adds to the angles"),
+        refusedFlag("wd", "worldSpaceDistance", "use move"),
+        refusedFlag("bbi", "boundingBoxInvisible", "what is hidden is in the box always"),
+        refusedFlag("cpc", "centerPivotsOnComponents", "components have no box here"),
+        refusedFlag("pcp", "preserveChildPosition", kMovesChildren),
+        refusedFlag("puv", "preserveUV", kNoComponents),
+        refusedFlag("rfl", "reflection", kNoComponents),
+        refusedFlag("dph", "deletePriorHistory", kNoComponents),
     };
     for (const XformRow& row : kXform)
         flags.push_back({row.shortName, row.longName, {row.type, row.type, row.type}, kSetQuery, row.help});
@@ -330,41 +342,11 @@ CommandSpec xformCommand()
                        kQuery);
 }
 
-// makeIdentity
-
-Value makeIdentity(CommandContext& context, const ParsedCommand& call)
-{
-    if (call.boolean("apply"))
-        context.fail("makeIdentity -apply is not implemented");
-    const bool isAll = !call.has("translate") && !call.has("rotate") && !call.has("scale");
-    const auto resets = [&](const char* flag) { return isAll || call.boolean(flag); };
-    for (const DagPath& path : transformsOf(context, call.names()))
-        changeParts(context, path, [&](Transformation& parts, const Parents&) {
-            if (resets("translate"))
-                parts.translation = MVector();
-            if (resets("rotate"))
-                parts.rotation = MVector();
-            if (resets("scale")) {
-                parts.scale = MVector(1.0, 1.0, 1.0);
-                parts.shear = MVector();
-            }
-        });
-    return {};
-}
-
 } // namespace
 
 void registerXformCommands(CommandTable& table)
 {
-    table.add({
-        xformCommand(),
-        makeCommand("makeIdentity", "Resets transforms",
-                    {valueFlag("a", "apply", A::boolean, "shapes keep their place in the world"),
-                     valueFlag("t", "translate", A::boolean, "the translation only"),
-                     valueFlag("r", "rotate", A::boolean, "the rotation only"),
-                     valueFlag("s", "scale", A::boolean, "the scale and shear only")},
-                    names(), makeIdentity),
-    });
+    table.add({xformCommand()});
 }
 
 } // namespace tvxhost::mel

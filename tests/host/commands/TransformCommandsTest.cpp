@@ -266,6 +266,27 @@ TEST_F(TransformCommandsTest, xformTellsBoxesAndCentresPivotsInThem)
     expectNear("xform -q -bb b", {3, 0, -1, 5, 2, 1});
 }
 
+TEST_F(TransformCommandsTest, frozenMeshesStayWhereTheyAre)
+{
+    run("polyCube -n \"inner\"; group -n \"outer\" inner; setAttr outer.t 10 0 0; setAttr outer.s 2 2 2;"
+        "setAttr inner.t 1 0 0; setAttr inner.ry 90");
+    const std::string box = run("xform -q -ws -bb inner");
+    run("makeIdentity -apply true -n 0 -pn true outer");
+    EXPECT_EQ(run("xform -q -ws -bb inner"), box);
+    EXPECT_THAT(numbers("xform -q -m inner"), ElementsAre(1, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1));
+    EXPECT_THAT(numbers("xform -q -m outer"), ElementsAre(1, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1));
+    EXPECT_THAT(numbers("xform -q -ws -rp inner"), ElementsAre(12.0, 0.0, 0.0));
+}
+
+TEST_F(TransformCommandsTest, onlyThePartsThatAreNamedAreFrozen)
+{
+    run("polyCube -n \"cube\"; setAttr cube.t 3 0 0; setAttr cube.s 2 1 1; makeIdentity -apply true -s true "
+        "cube");
+    EXPECT_THAT(numbers("getAttr cube.t"), ElementsAre(3.0, 0.0, 0.0));
+    EXPECT_THAT(numbers("getAttr cube.s"), ElementsAre(1.0, 1.0, 1.0));
+    EXPECT_THAT(numbers("xform -q -ws -bb cube"), ElementsAre(2.0, -0.5, -0.5, 4.0, 0.5, 0.5));
+}
+
 TEST_F(TransformCommandsTest, makeIdentityResets)
 {
     run("setAttr a.t 1 2 3; setAttr a.r 10 20 30; setAttr a.s 2 2 2; makeIdentity -t on a");
@@ -274,7 +295,8 @@ TEST_F(TransformCommandsTest, makeIdentityResets)
     run("makeIdentity a");
     expectNear("getAttr a.r", {0, 0, 0});
     expectNear("getAttr a.s", {1, 1, 1});
-    EXPECT_EQ(failure("makeIdentity -apply on a"), "makeIdentity -apply is not implemented");
+    EXPECT_EQ(failure("spaceLocator -n \"mark\"; makeIdentity -apply on mark"),
+              "makeIdentity -apply: 'markShape' has no points to move");
 }
 
 TEST_F(TransformCommandsTest, rangesOfPlayingAreInTheUnitsOfTheUser)

@@ -41,10 +41,20 @@ TEST(StatementReader, DeliversPlainCommandsAsTokens)
     EXPECT_FALSE(reader.next());
 }
 
+TEST(StatementReader, JoinsTheLiteralsOfASum)
+{
+    StatementReader reader("setAttr \".b\" -type \"string\" (\"a\"\n+ \"b\\n\" + \"c\");", "");
+    ASSERT_TRUE(reader.next());
+    ASSERT_NE(reader.plain(), nullptr);
+    ASSERT_EQ(reader.plain()->arguments.size(), 4u);
+    EXPECT_EQ(reader.plain()->arguments[3].kind, ArgumentKind::string);
+    EXPECT_EQ(reader.plain()->arguments[3].text, "ab\nc");
+    EXPECT_FALSE(reader.next());
+}
+
 TEST(StatementReader, DeliversEverythingElseAsTrees)
 {
-    StatementReader reader("setAttr \".b\" -type \"string\" (\"a\"\n+ \"b\");\nif (1) print 2;;\nprint 3;",
-                           "");
+    StatementReader reader("setAttr \".b\" -type \"string\" (\"a\"\n+ $b);\nif (1) print 2;;\nprint 3;", "");
     ASSERT_TRUE(reader.next());
     EXPECT_EQ(reader.plain(), nullptr);
     ASSERT_NE(reader.statement(), nullptr);

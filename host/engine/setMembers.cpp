@@ -3,14 +3,7 @@
 
 #include <algorithm>
 
-namespace tvxhost::mel {
-
-using engine::DagNode;
-using engine::Node;
-using engine::Outcome;
-using engine::Plug;
-using engine::Reason;
-using engine::SelectionItem;
+namespace tvxhost::engine {
 
 namespace {
 
@@ -21,7 +14,7 @@ SelectionItem memberOf(const Plug& source)
     DagNode* dag = item.node->asDag();
     if (!dag)
         return item;
-    const std::vector<engine::DagPath> paths = engine::DagPath::allTo(*dag);
+    const std::vector<DagPath> paths = DagPath::allTo(*dag);
     const auto instance = static_cast<std::size_t>(std::max(0, source.indices()[0]));
     item.path = instance < paths.size() && source.indexCount() > 0 ? paths[instance] : paths.front();
     return item;
@@ -46,13 +39,18 @@ Plug memberArray(Node& set, const SelectionItem& member)
 /// The element of the set that a source feeds; null when none does.
 Plug elementFedBy(const Plug& source, const Plug& array)
 {
-    for (const Plug& destination : engine::destinationsOf(source))
+    for (const Plug& destination : destinationsOf(source))
         if (destination.isAtOrBelow(array))
             return destination;
     return {};
 }
 
 } // namespace
+
+bool isSet(const Node& node)
+{
+    return node.type().isA("objectSet");
+}
 
 std::vector<SelectionItem> setMembers(Node& set)
 {
@@ -61,8 +59,8 @@ std::vector<SelectionItem> setMembers(Node& set)
         const auto array = set.findPlug(name);
         if (!array)
             continue;
-        for (const int index : engine::existingElements(array.value))
-            if (const Plug source = engine::sourceOf(array.value.element(index)); !source.isNull())
+        for (const int index : existingElements(array.value))
+            if (const Plug source = sourceOf(array.value.element(index)); !source.isNull())
                 members.push_back(memberOf(source));
     }
     return members;
@@ -76,7 +74,7 @@ Outcome addSetMember(Node& set, const SelectionItem& member)
         return {Reason::wrongKind, "'" + member.name() + "' cannot be a member of '" + set.name() + "'"};
     if (!elementFedBy(source, array).isNull())
         return {};
-    engine::Scene& scene = set.scene();
+    Scene& scene = set.scene();
     return scene.connect(source, scene.nextAvailable(array));
 }
 
@@ -90,4 +88,4 @@ Outcome removeSetMember(Node& set, const SelectionItem& member)
     return set.scene().disconnect(source, element);
 }
 
-} // namespace tvxhost::mel
+} // namespace tvxhost::engine

@@ -1,0 +1,183 @@
+// delete: objects, or only what made them or drives them.
+#include "commandSupport.h"
+#include "history.h"
+#include "sceneCommands.h"
+
+#include "engine/mesh.h"
+
+#include <algorithm>
+#include <string_view>
+
+namespace tvxhost::mel {
+
+using engine::DagNode;
+using engine::Node;
+using engine::Plug;
+using engine::SelectionItem;
+
+namespace {
+
+/// A flag that deletes nodes which drive the attributes of objects, and leaves the objects.
+struct DriverFlag
+{
+    const char* shortName;
+    const char* longName;
+    const char* type; ///< of the nodes
+    const char* help;
+};
+
+constexpr DriverFlag kDrivers[] = {
+    {"c", "channels", "animCurve", "animation only"},
+    {"e", "expressions", "expression", "expressions only"},
+    {"cn", "constraints", "constraint", "constraints only"},
+    {"mp", "motionPaths", "motionPath", "motion paths only"},
+};
+
+using Doomed = std::vector<engine::Ref<Node>>;
+
+bool isAskedAttribute(const Plug& plug, const ParsedCommand& call)
+{
+    const auto uses = call.uses("attribute");
+    return uses.empty() || std::any_of(uses.begin(), uses.end(), [&](const FlagUse* use) {
+               const std::string name = use->arguments.front().toString();
+               const engine::Attribute& attribute = *plug.attribute();
+               return attribute.longName == name || attribute.shortName == name;
+           });
+}
+
+/// Curves over time are "animCurveTL" and the like, over other values "animCurveUL".
+bool isAskedCurve(const Node& node, const ParsedCommand& call)
+{
+    constexpr std::string_view kCurve = "animCurve";
+    const std::string& type = node.type().name;
+    const char input = type.size() > kCurve.size() ? type[kCurve.size()] : '\0';
+    return input == 'T'   ? call.boolean("timeAnimationCurves", true)
+           : input == 'U' ? call.boolean("unitlessAnimationCurves", true)
+                          : true;
+}
+
+void addDrivers(Node& node, const DriverFlag& row, const ParsedCommand& call, Doomed& doomed)
+{
+    for (const Plug& plug : engine::connectedPlugs(node)) {
+        const Plug source = engine::sourceOf(plug);
+        if (source.isNull() || !source.node()->type().isA(row.type))
+            continue;
+        if (isAskedAttribute(plug, call) && isAskedCurve(*source.node(), call))
+            doomed.emplace_back(source.node());
+    }
+}
+
+/// An object with all that is below it, as far as the call wants that.
+void addWithBelow(Node& node, bool withBelow, std::vector<Node*>& nodes)
+{
+    nodes.push_back(&node);
+    DagNode* dag = node.asDag();
+    if (!dag)
+        return;
+    for (DagNode* child : dag->children())
+        if (withBelow || child->isShape())
+            addWithBelow(*child, withBelow, nodes);
+}
+
+/// The geometry is computed once more, so that it stays when what made it goes.
+void addHistory(Node& node, Doomed& doomed)
+{
+    const std::vector<Node*> history = geometryHistory(node);
+    if (history.empty())
+        return;
+    if (DagNode* dag = node.asDag())
+        static_cast<void>(engine::meshOf(*dag));
+    doomed.insert(doomed.end(), history.begin(), history.end());
+}
+
+/// Whether -hierarchy asks for what is below the objects.
+bool reachesBelow(const CommandContext& context, const ParsedCommand& call)
+{
+    const std::string reach = call.string("hierarchy", "none");
+    if (reach != "none" && reach != "below")
+        context.fail("delete: -hierarchy is below or none here, not '" + reach + "'");
+    return reach == "below";
+}
+
+/// What makes or drives the objects; the objects stay.
+Doomed partsOf(const CommandContext& context, const std::vector<SelectionItem>& items,
+               const ParsedCommand& call)
+{
+    const bool withBelow = reachesBelow(context, call);
+    std::vector<Node*> nodes;
+    for (const SelectionItem& item : items)
+        addWithBelow(*item.node, withBelow, nodes);
+    Doomed doomed;
+    for (Node* node : nodes) {
+        if (call.has("constructionHistory"))
+            addHistory(*node, doomed);
+        for (const DriverFlag& row : kDrivers)
+            if (call.has(row.longName))
+                addDrivers(*node, row, call, doomed);
+    }
+    return doomed;
+}
+
+std::vector<SelectionItem> everything(engine::Scene& scene)
+{
+    std::vector<SelectionItem> items;
+    for (Node* node : scene.nodes())
+        if (!node->isDefaultNode && !node->isShared && !node->isLockedNode && node != &scene.world()) {
+            SelectionItem item;
+            item.node = node;
+            items.push_back(item);
+        }
+    return items;
+}
+
+Value deleteNodes(CommandContext& context, const ParsedCommand& call)
+{
+    engine::Scene& scene = sceneOf(context);
+    const std::vector<SelectionItem> items =
+        call.has("all") ? everything(scene) : itemsOrSelection(context, call.names());
+    if (items.empty() && !call.has("all"))
+        context.fail("Nothing is selected to delete");
+    const bool onlyParts = call.has("constructionHistory") ||
+                           std::any_of(std::begin(kDrivers), std::end(kDrivers),
+                                       [&](const DriverFlag& row) { return call.has(row.longName); });
+    Doomed doomed;
+    if (onlyParts)
+        doomed = partsOf(context, items, call);
+    else
+        for (const SelectionItem& item : items)
+            doomed.push_back(item.node);
+    for (const engine::Ref<Node>& node : doomed)
+        if (node->isAlive())
+            require(context, scene.deleteNode(*node));
+    return {};
+}
+
+} // namespace
+
+void registerDeleteCommands(CommandTable& table)
+{
+    using A = ArgumentType;
+    std::vector<FlagSpec> flags = {
+        switchFlag("all", "all", "everything that can be deleted"),
+        valueFlag("hi", "hierarchy", A::string,
+                  "with -constructionHistory and the like: also of what is below "
+                  "(below or none)"),
+        switchFlag("ch", "constructionHistory", "only the nodes that made the objects"),
+        valueFlag("at", "attribute", A::string, "with -channels and the like: of this attribute only",
+                  kCreate | kMultiUse),
+        valueFlag("tac", "timeAnimationCurves", A::boolean,
+                  "with -channels: curves over time (on by default)"),
+        valueFlag("uac", "unitlessAnimationCurves", A::boolean,
+                  "with -channels: curves over other values (on by default)"),
+        refusedFlag("sc", "staticChannels", "curves are deleted whether or not their value changes"),
+        refusedFlag("s", "shape", "objects are deleted with their shapes"),
+        refusedFlag("cp", "controlPoints", "points cannot be deleted"),
+        refusedFlag("icn", "inputConnectionsAndNodes", "delete the nodes themselves"),
+    };
+    for (const DriverFlag& row : kDrivers)
+        flags.push_back(switchFlag(row.shortName, row.longName, row.help));
+    table.add({makeCommand("delete", "Deletes nodes, or what makes and drives them", std::move(flags),
+                           names(), deleteNodes)});
+}
+
+} // namespace tvxhost::mel

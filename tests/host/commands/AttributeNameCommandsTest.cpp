@@ -1,0 +1,69 @@
+// listAttr and attributeName.
+#include "CommandFixture.h"
+
+namespace tvxhost::mel {
+
+using testing::ElementsAre;
+
+class AttributeNameCommandsTest : public CommandFixture
+{
+protected:
+    AttributeNameCommandsTest() { run("createNode transform -n \"n\""); }
+};
+
+TEST_F(AttributeNameCommandsTest, namesAreNiceLongOrShort)
+{
+    EXPECT_EQ(run("attributeName n.tx"), "Translate X");
+    EXPECT_EQ(run("attributeName -long n.tx"), "translateX");
+    EXPECT_EQ(run("attributeName -short n.translateX"), "tx");
+    EXPECT_EQ(run("attributeName -long -leaf false n.tx"), "translate.translateX");
+    run("addAttr -ln \"how_much\" n; addAttr -ln \"w\" -nn \"The Weight\" n");
+    EXPECT_EQ(run("attributeName n.how_much"), "How Much");
+    EXPECT_EQ(run("attributeName -nice n.w"), "The Weight");
+    EXPECT_EQ(run("attributeQuery -node n -niceName translateX"), "Translate X");
+}
+
+TEST_F(AttributeNameCommandsTest, attributesAreListedByWhatTheyAre)
+{
+    run("addAttr -ln \"list\" -m n; addAttr -ln \"note\" -dt \"string\" -ct \"mine\" n;"
+        "setAttr n.list[2] 1; setAttr n.list[4] 1; setAttr -lock true n.note");
+    EXPECT_THAT(strings("listAttr -userDefined -array n"), ElementsAre("list"));
+    EXPECT_THAT(strings("listAttr -userDefined -multi n"), ElementsAre("list", "list[2]", "list[4]", "note"));
+    EXPECT_THAT(strings("listAttr -category \"mine\" n"), ElementsAre("note"));
+    EXPECT_THAT(strings("listAttr -locked n"), ElementsAre("note"));
+    EXPECT_THAT(strings("listAttr -string \"scale?\" n"), ElementsAre("scaleX", "scaleY", "scaleZ"));
+    EXPECT_THAT(strings("listAttr -settable -string \"translate*\" -leaf n"),
+                ElementsAre("translateX", "translateY", "translateZ"));
+    EXPECT_THAT(strings("listAttr n.rotate"), ElementsAre("rotate", "rotateX", "rotateY", "rotateZ"));
+}
+
+TEST_F(AttributeNameCommandsTest, whatIsInAnArrayIsNamedWithIt)
+{
+    run("addAttr -ln \"row\" -at compound -nc 1 -m n; addAttr -ln \"cell\" -p row n; setAttr n.row[1].cell "
+        "2");
+    EXPECT_THAT(strings("listAttr -ud n"), ElementsAre("row", "row.cell"));
+    EXPECT_THAT(strings("listAttr -ud -multi n"), ElementsAre("row", "row[1]", "row[1].cell"));
+}
+
+TEST_F(AttributeNameCommandsTest, declarationsAnswerFurtherQuestions)
+{
+    run("addAttr -ln \"part\" -min 0 -max 1 n; addAttr -ln \"half\" -min 0 n");
+    EXPECT_EQ(run("attributeQuery -node n -rangeExists part"), "1");
+    EXPECT_EQ(run("attributeQuery -node n -rangeExists half"), "0");
+    EXPECT_EQ(run("attributeQuery -node n -message message"), "1");
+    EXPECT_EQ(run("attributeQuery -node n -enum rotateOrder"), "1");
+    EXPECT_THAT(strings("attributeQuery -node n -listSiblings translateX"),
+                ElementsAre("translateY", "translateZ"));
+}
+
+TEST_F(AttributeNameCommandsTest, objectTypesAreTold)
+{
+    EXPECT_EQ(run("objectType n"), "transform");
+    EXPECT_EQ(run("objectType -isType transform n"), "1");
+    EXPECT_EQ(run("objectType -isAType dagNode n"), "1");
+    EXPECT_EQ(run("objectType -isType dagNode n"), "0");
+    EXPECT_EQ(run("objectType -typeFromTag `objectType -typeTag n`"), "transform");
+    EXPECT_EQ(run("objectType -tagFromType transform"), run("objectType -typeTag n"));
+}
+
+} // namespace tvxhost::mel
