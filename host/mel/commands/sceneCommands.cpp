@@ -32,6 +32,7 @@ void registerSceneCommands(CommandTable& table)
                                        registerParticleCommands,
                                        registerPolygonCommands,
                                        registerTimeCommands,
+                                       registerKeyframeCommands,
                                        registerPreferenceCommands,
                                        registerWindowPreferenceCommands,
                                        registerFileCommands,

@@ -30,6 +30,7 @@ void registerXformCommands(CommandTable& table);
 void registerParticleCommands(CommandTable& table);
 void registerPolygonCommands(CommandTable& table);
 void registerTimeCommands(CommandTable& table);
+void registerKeyframeCommands(CommandTable& table);
 void registerPreferenceCommands(CommandTable& table);
 void registerWindowPreferenceCommands(CommandTable& table);
 void registerFileCommands(CommandTable& table);

@@ -1,0 +1,11 @@
+// The larger of the keyframe commands, which have files of their own.
+#pragma once
+
+#include "../commandTable.h"
+
+namespace tvxhost::mel {
+
+CommandSpec setKeyframeCommand();
+CommandSpec keyTangentCommand();
+
+} // namespace tvxhost::mel
