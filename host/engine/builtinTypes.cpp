@@ -11,6 +11,7 @@
 #include "number.h"
 #include "particle.h"
 #include "scene.h"
+#include "utilityNodes.h"
 #include "values.h"
 
 #include <functional>
@@ -233,6 +234,7 @@ void addBuiltinComputes(TypeTable& types)
     addPolyComputes(types);
     addHistoryComputes(types);
     addParticleBehaviour(types);
+    addUtilityComputes(types);
 }
 
 } // namespace tvxhost::engine
