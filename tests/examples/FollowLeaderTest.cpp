@@ -1,0 +1,80 @@
+// The command followLeader, as its script uses it, and what it refuses.
+#include "exampleRun.h"
+
+namespace tvxhost::test {
+namespace {
+
+using testing::HasSubstr;
+
+class FollowLeader : public ExampleRun
+{
+protected:
+    /// What a command says after a locator "a" and two groups "b" and "c" were made, the last one locked.
+    static ProgramResult with(const std::string& command)
+    {
+        return run({"-e",
+                    "createNode locator -name aShape -parent `group -empty -name a`; group -empty -name b; "
+                    "group -empty -name c; setAttr -lock on c.tx; select -clear;",
+                    "-e", command});
+    }
+};
+
+TEST_F(FollowLeader, LinesUp)
+{
+    const ProgramResult result = run({"--script", script("followLeader.mel")});
+    EXPECT_EQ(result.errors, "");
+    EXPECT_EQ(result.exitCode, 0);
+    EXPECT_EQ(result.output, "apart: (0 0 0) (0 0 0) (0 0 0) (0 7 0)\n"
+                             "made: first_translateX second_translateX\n"
+                             "following: (10 0 0) (12 0 0) (14 0 0) (0 7 0)\n"
+                             "third too: (10 0 0) (12 0 0) (14 0 0) (14.5 0.5 0)\n");
+}
+
+TEST_F(FollowLeader, IsSavedAsNodesOfMayaAndReadAgain)
+{
+    const std::string scene = file("line.ma");
+    const ProgramResult saved = run({"--script", script("followLeader.mel"), "--save", scene});
+    EXPECT_EQ(saved.exitCode, 0) << saved.errors;
+    EXPECT_EQ(nodeText(contentsOf(scene), "second_translateX"),
+              "createNode plusMinusAverage -n \"second_translateX\";\n"
+              "\tsetAttr -s 2 \".i1[1]\" 4;\n");
+    // Whoever reads the scene needs no plug-in.
+    EXPECT_THAT(contentsOf(scene), testing::Not(HasSubstr("followLeader")));
+    expectReadingAndSavingChangesNothing(scene);
+}
+
+TEST_F(FollowLeader, TakesDistancesInTheUsersUnit)
+{
+    const ProgramResult result =
+        with("currentUnit -linear \"m\"; followLeader -g 2 a b; currentUnit -linear \"cm\"; getAttr b.tx");
+    EXPECT_EQ(result.errors, "");
+    EXPECT_THAT(result.output, HasSubstr("200\n"));
+}
+
+TEST_F(FollowLeader, RefusesWhatMakesNoSense)
+{
+    const struct
+    {
+        const char* command;
+        const char* error;
+    } rows[] = {
+        {"followLeader -axis \"w\" a b", "followLeader: an axis is x, y or z and not \"w\""},
+        {"followLeader a", "followLeader: there is nobody to follow"},
+        {"followLeader -leader nobody a", "followLeader: there is no transform \"nobody\" to lead"},
+        {"followLeader -leader lambert1 a", "followLeader: there is no transform \"lambert1\" to lead"},
+        {"followLeader a aShape", "followLeader: only transforms can lead and follow"},
+        {"followLeader a c",
+         "followLeader: a follower's translation is locked, or follows something already"},
+    };
+    for (const auto& row : rows) {
+        const ProgramResult result = with(row.command);
+        EXPECT_EQ(result.exitCode, 1) << row.command;
+        EXPECT_THAT(result.errors, HasSubstr(row.error)) << row.command;
+        const ProgramResult left = with(std::string("catch(`") + row.command +
+                                        "`); print (size(`ls -type plusMinusAverage`) + \" left\\n\")");
+        EXPECT_THAT(left.output, HasSubstr("0 left\n")) << row.command;
+    }
+}
+
+} // namespace
+} // namespace tvxhost::test
