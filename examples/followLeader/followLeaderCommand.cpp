@@ -58,10 +58,13 @@ MSyntax FollowLeaderCommand::newSyntax()
 MStatus FollowLeaderCommand::doIt(const MArgList& arguments)
 {
     MStatus status = parse(arguments);
+    if (!status)
+        return status;
     for (std::size_t i = 0; status && i < m_followers.size(); ++i)
         status = queue(m_followers[i], static_cast<int>(i) + 1);
-    if (status)
-        status = redoIt();
+    if (!status)
+        return failure("the nodes that add the distances cannot be made");
+    status = redoIt();
     if (!status)
         return status;
     MStringArray names;
@@ -160,12 +163,17 @@ MStatus FollowLeaderCommand::queue(const MDagPath& follower, const MString& attr
     m_sums.push_back(sum);
     const MFnDependencyNode followerNode(follower.node(), nullptr);
     const MFnDependencyNode sumNode(sum, nullptr);
-    m_modifier.renameNode(sum, followerNode.name() + "_" + attribute);
     const MPlug inputs = sumNode.findPlug("input1D", true);
-    m_modifier.newPlugValueFloat(inputs.elementByLogicalIndex(1), static_cast<float>(distance));
-    m_modifier.connect(MFnDependencyNode(m_leader.node(), nullptr).findPlug(attribute, true),
-                       inputs.elementByLogicalIndex(0));
-    return m_modifier.connect(sumNode.findPlug("output1D", true), followerNode.findPlug(attribute, true));
+    status = m_modifier.renameNode(sum, followerNode.name() + "_" + attribute);
+    if (status)
+        status = m_modifier.newPlugValueFloat(inputs.elementByLogicalIndex(1), static_cast<float>(distance));
+    if (status)
+        status = m_modifier.connect(MFnDependencyNode(m_leader.node(), nullptr).findPlug(attribute, true),
+                                    inputs.elementByLogicalIndex(0));
+    if (status)
+        status =
+            m_modifier.connect(sumNode.findPlug("output1D", true), followerNode.findPlug(attribute, true));
+    return status;
 }
 
 } // namespace followLeader

@@ -59,6 +59,7 @@ TEST_F(FollowLeader, RefusesWhatMakesNoSense)
         const char* error;
     } rows[] = {
         {"followLeader -axis \"w\" a b", "followLeader: an axis is x, y or z and not \"w\""},
+        {"followLeader -height 3 a b", "followLeader"},
         {"followLeader a", "followLeader: there is nobody to follow"},
         {"followLeader -leader nobody a", "followLeader: there is no transform \"nobody\" to lead"},
         {"followLeader -leader lambert1 a", "followLeader: there is no transform \"lambert1\" to lead"},
@@ -73,6 +74,27 @@ TEST_F(FollowLeader, RefusesWhatMakesNoSense)
         const ProgramResult left = with(std::string("catch(`") + row.command +
                                         "`); print (size(`ls -type plusMinusAverage`) + \" left\\n\")");
         EXPECT_THAT(left.output, HasSubstr("0 left\n")) << row.command;
+    }
+}
+
+TEST_F(FollowLeader, LeavesNothingBehindWhenAStepFails)
+{
+    const std::string notMade = "Error: followLeader: the nodes that add the distances cannot be made\n";
+    const std::string notDone =
+        "Error: followLeader: a follower's translation is locked, or follows something already\n";
+    const std::pair<std::string, std::string> rows[] = {
+        {"MDGModifier::createNode:2", notMade},        {"MDGModifier::renameNode:2", notMade},
+        {"MDGModifier::newPlugValueFloat:2", notMade}, {"MDGModifier::connect:3", notMade},
+        {"MDGModifier::connect:4", notMade},           {"MDGModifier::doIt:1", notDone},
+    };
+    for (const auto& [call, error] : rows) {
+        const ProgramResult result =
+            run({"--fail", call, "-e", "group -empty -name a; group -empty -name b; select -clear;", "-e",
+                 "catch(`followLeader -axis x -axis y a b`)", "-e",
+                 "print (size(`ls -type plusMinusAverage`) + \" left, b.tx is fed by \" + "
+                 "size(`listConnections b`) + \"\\n\")"});
+        EXPECT_THAT(result.errors, testing::StartsWith(error)) << call;
+        EXPECT_THAT(result.output, HasSubstr("0 left, b.tx is fed by 0\n")) << call;
     }
 }
 
