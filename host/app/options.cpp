@@ -89,6 +89,9 @@ void declareMode(CLI::App& app, Options& options, Words& words)
         ->type_name("F[:N[:CODE]]")
         ->allow_extra_args(false);
     app.add_flag("--list-calls", options.listCalls, "Tell the API calls that were made, in order");
+    app.add_flag(
+        "--list-functions", options.listFunctions,
+        "Tell the functions of the API, and why those cannot be made to fail that cannot; nothing is run");
 }
 
 std::optional<ReportFormat> formatNamed(const std::string& word)

@@ -6,6 +6,7 @@
 #include "typeReport.h"
 #include "userInterface.h"
 
+#include "api/listing/interfaceFunctions.h"
 #include "api/support/faults.h"
 #include "engine/atomicFile.h"
 #include "mel/checker.h"
@@ -265,6 +266,13 @@ void Program::listCalls()
         printLines(api::faults::calls());
 }
 
+int listFunctions(const Streams& streams)
+{
+    for (const api::InterfaceFunction& function : api::interfaceFunctions())
+        streams.out << function.name << (function.whyNot ? ": " + *function.whyNot : std::string()) << "\n";
+    return 0;
+}
+
 int checkScript(const Options& options, const Streams& streams)
 {
     const auto text = scene::readFile(options.check);
@@ -282,6 +290,8 @@ int checkScript(const Options& options, const Streams& streams)
 
 int runProgram(const Options& options, const Streams& streams)
 {
+    if (options.listFunctions)
+        return listFunctions(streams);
     return options.checkFormat ? checkScript(options, streams) : Program(options, streams).run();
 }
 

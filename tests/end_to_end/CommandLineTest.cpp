@@ -20,8 +20,21 @@ TEST(CommandLine, HelpNamesTheOptionsAndGivesExamples)
     for (const char* option :
          {"--plugin", "--prefs", "--script", "-e,--execute", "--render", "--size", "--camera", "--save",
           "--summary", "--check", "--describe", "--list-nodes", "--allow-system", "--dialog-answer", "--qt",
-          "--fail", "--list-calls", "Examples:"})
+          "--fail", "--list-calls", "--list-functions", "Examples:"})
         EXPECT_THAT(result.output, HasSubstr(option));
+}
+
+TEST(CommandLine, TheFunctionsOfTheInterfaceAreListed)
+{
+    const ProgramResult result = runHost({"--list-functions"});
+    EXPECT_EQ(result.exitCode, 0);
+    EXPECT_EQ(result.errors, "");
+    for (const char* line : {"\nMDagPath::className: gives no status\n", "\nMDagPath::hasFn\n",
+                             "\nMNodeMessage::addNodeDirtyCallback\n",
+                             "\nMIntArray::append: only changes or reads a value that is its caller's: "
+                             "nothing but its arguments can make "
+                             "it fail\n"})
+        EXPECT_THAT(result.output, HasSubstr(line));
 }
 
 TEST(CommandLine, VersionIsThatOfTheProject)

@@ -22,9 +22,9 @@ MStatus addNamed(const MStatus& read, const MString& name, MSelectionList& list)
 MArgDatabase::MArgDatabase() = default;
 
 MArgDatabase::MArgDatabase(const MSyntax& syntax, const MArgList& argList, MStatus* ReturnStatus)
-    : MArgParser(syntax, argList, ReturnStatus)
 {
     TVX_API_CONSTRUCTION("MArgDatabase::MArgDatabase", ReturnStatus);
+    MArgParser::operator=(MArgParser(syntax, argList, ReturnStatus));
 }
 
 MArgDatabase::~MArgDatabase() = default;

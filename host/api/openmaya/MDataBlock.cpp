@@ -45,9 +45,8 @@ const Plug& plugOf(const DataBlock& block, const MPlug& plug)
 
 using SlotOf = Expected<Slot> (*)(const Plug&);
 
-MDataHandle value(const Plug& plug, const char* name, SlotOf slotOf, bool forWriting, MStatus* returnStatus)
+MDataHandle value(const Plug& plug, SlotOf slotOf, bool forWriting, MStatus* returnStatus)
 {
-    TVX_API_CALL_OR(name, returnStatus, MDataHandle());
     if (plug.isNull()) {
         give(returnStatus, notOfThisNode());
         return MDataHandle();
@@ -68,9 +67,8 @@ MDataHandle value(const Plug& plug, const char* name, SlotOf slotOf, bool forWri
     return state->handle();
 }
 
-MArrayDataHandle arrayValue(const Plug& plug, const char* name, bool forWriting, MStatus* returnStatus)
+MArrayDataHandle arrayValue(const Plug& plug, bool forWriting, MStatus* returnStatus)
 {
-    TVX_API_CALL_OR(name, returnStatus, ArrayHandleState::handleOn({}));
     MStatus status;
     if (plug.isNull() || !plug.isArray())
         status = notOfThisNode();
@@ -93,21 +91,23 @@ const char* MDataBlock::className()
 #define TVX_VALUE(Key)                                                                                       \
     MDataHandle MDataBlock::inputValue(const Key& key, MStatus* ReturnStatus)                                \
     {                                                                                                        \
-        return value(plugOf(*block, key), "MDataBlock::inputValue", tvxhost::engine::inputSlot, false,       \
-                     ReturnStatus);                                                                          \
+        TVX_API_CALL_OR("MDataBlock::inputValue", ReturnStatus, MDataHandle());                              \
+        return value(plugOf(*block, key), tvxhost::engine::inputSlot, false, ReturnStatus);                  \
     }                                                                                                        \
     MDataHandle MDataBlock::outputValue(const Key& key, MStatus* ReturnStatus)                               \
     {                                                                                                        \
-        return value(plugOf(*block, key), "MDataBlock::outputValue", tvxhost::engine::outputSlot, true,      \
-                     ReturnStatus);                                                                          \
+        TVX_API_CALL_OR("MDataBlock::outputValue", ReturnStatus, MDataHandle());                             \
+        return value(plugOf(*block, key), tvxhost::engine::outputSlot, true, ReturnStatus);                  \
     }                                                                                                        \
     MArrayDataHandle MDataBlock::inputArrayValue(const Key& key, MStatus* ReturnStatus)                      \
     {                                                                                                        \
-        return arrayValue(plugOf(*block, key), "MDataBlock::inputArrayValue", false, ReturnStatus);          \
+        TVX_API_CALL_OR("MDataBlock::inputArrayValue", ReturnStatus, ArrayHandleState::handleOn({}));        \
+        return arrayValue(plugOf(*block, key), false, ReturnStatus);                                         \
     }                                                                                                        \
     MArrayDataHandle MDataBlock::outputArrayValue(const Key& key, MStatus* ReturnStatus)                     \
     {                                                                                                        \
-        return arrayValue(plugOf(*block, key), "MDataBlock::outputArrayValue", true, ReturnStatus);          \
+        TVX_API_CALL_OR("MDataBlock::outputArrayValue", ReturnStatus, ArrayHandleState::handleOn({}));       \
+        return arrayValue(plugOf(*block, key), true, ReturnStatus);                                          \
     }                                                                                                        \
     MStatus MDataBlock::setClean(const Key& key)                                                             \
     {                                                                                                        \

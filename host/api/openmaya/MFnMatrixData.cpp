@@ -8,6 +8,25 @@
 
 using namespace tvxhost;
 
+namespace {
+
+MStatus put(const MFnBase& set, const MMatrix& matrix)
+{
+    auto* data = api::dataAs<engine::MatrixData>(set);
+    if (!data)
+        return api::notAttached();
+    data->value = api::imathOf(matrix);
+    return MS::kSuccess;
+}
+
+MObject make(MFnBase& set, const MMatrix& matrix, MStatus* status)
+{
+    const engine::Ref<engine::MatrixData> data(new engine::MatrixData(api::imathOf(matrix)));
+    return api::createData(set, data, status);
+}
+
+} // namespace
+
 TVX_FUNCTION_SET(MFnMatrixData, MFn::kMatrixData)
 
 // The host's matrices are never kept in parts.
@@ -39,17 +58,14 @@ const MMatrix& MFnMatrixData::matrix(MStatus* ReturnStatus) const
 
 MStatus MFnMatrixData::set(const MTransformationMatrix& transformation)
 {
-    return set(transformation.asMatrix());
+    TVX_API_CALL("MFnMatrixData::set");
+    return put(*this, transformation.asMatrix());
 }
 
 MStatus MFnMatrixData::set(const MMatrix& matrix)
 {
     TVX_API_CALL("MFnMatrixData::set");
-    auto* data = api::dataAs<engine::MatrixData>(*this);
-    if (!data)
-        return api::notAttached();
-    data->value = api::imathOf(matrix);
-    return MS::kSuccess;
+    return put(*this, matrix);
 }
 
 MObject MFnMatrixData::create(MStatus* ReturnStatus)
@@ -60,11 +76,11 @@ MObject MFnMatrixData::create(MStatus* ReturnStatus)
 MObject MFnMatrixData::create(const MMatrix& matrix, MStatus* ReturnStatus)
 {
     TVX_API_CALL_OR("MFnMatrixData::create", ReturnStatus, MObject());
-    const engine::Ref<engine::MatrixData> data(new engine::MatrixData(api::imathOf(matrix)));
-    return api::createData(*this, data, ReturnStatus);
+    return make(*this, matrix, ReturnStatus);
 }
 
 MObject MFnMatrixData::create(const MTransformationMatrix& transformation, MStatus* ReturnStatus)
 {
-    return create(transformation.asMatrix(), ReturnStatus);
+    TVX_API_CALL_OR("MFnMatrixData::create", ReturnStatus, MObject());
+    return make(*this, transformation.asMatrix(), ReturnStatus);
 }

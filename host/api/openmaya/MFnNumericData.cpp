@@ -107,10 +107,12 @@ MFnNumericData::Type MFnNumericData::numericType(MStatus* ReturnStatus)
     }                                                                                                        \
     MStatus MFnNumericData::getData##Name Get                                                                \
     {                                                                                                        \
+        TVX_API_CALL("MFnNumericData::getData" #Name);                                                       \
         return read Arguments;                                                                               \
     }                                                                                                        \
     MStatus MFnNumericData::setData##Name Set                                                                \
     {                                                                                                        \
+        TVX_API_CALL("MFnNumericData::setData" #Name);                                                       \
         return write Arguments;                                                                              \
     }
 
