@@ -615,6 +615,7 @@ void Scene::newScene()
     fileInfo.clear();
     requirements.clear();
     keptConnections.clear();
+    references.clear();
     makeDefaultNodes(*this);
     isModified = false;
 }

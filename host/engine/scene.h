@@ -9,6 +9,7 @@
 #include "outcome.h"
 #include "playback.h"
 #include "plug.h"
+#include "reference.h"
 #include "scriptEditor.h"
 #include "selection.h"
 #include "units.h"
@@ -194,6 +195,8 @@ public:
         std::string words; ///< further words, as they stood
     };
     std::vector<Requirement> requirements;
+    /// Other files whose nodes are here, in the order of the statements that name them.
+    std::vector<std::unique_ptr<Reference>> references;
     /// Statements of the file that belong to no node and are kept (connections to unknown attributes,
     /// relationships …), as they stood, by section of the file.
     std::vector<std::string> keptConnections;

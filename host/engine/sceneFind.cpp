@@ -82,9 +82,10 @@ std::vector<DagNode*> Scene::candidatesOfPath(const std::string& path) const
     for (std::size_t i = 1; i < parts.size(); ++i) {
         std::vector<DagNode*> below;
         for (const DagNode* node : found) {
-            DagNode* child = m_names->childNamed(*node, withoutColon(parts[i]));
-            if (!child && m_namespace != ":")
-                child = m_names->childNamed(*node, absoluteName(parts[i]));
+            DagNode* child =
+                m_namespace == ":" ? nullptr : m_names->childNamed(*node, absoluteName(parts[i]));
+            if (!child)
+                child = m_names->childNamed(*node, withoutColon(parts[i]));
             if (child)
                 below.push_back(child);
         }

@@ -186,7 +186,9 @@ void NodeWriter::writeNode(engine::Node& node)
     const std::string& type = node.unknownType.empty() ? node.type().name : node.unknownType;
     m_out += "createNode " + type + (node.isShared ? " -s" : "") + " -n " + mel::quoted(node.name());
     const engine::DagNode* dag = node.asDag();
-    if (dag && !dag->parents().empty() && !dag->parents().front()->isWorld())
+    if (const auto parent = parentNames.find(&node); parent != parentNames.end())
+        m_out += " -p " + mel::quoted(parent->second);
+    else if (dag && !dag->parents().empty() && !dag->parents().front()->isWorld())
         m_out += " -p " + mel::quoted(m_scene.shortestName(*dag->parents().front()));
     m_out += ";\n";
     line("rename -uid " + mel::quoted(node.uuid()) + ";");
@@ -210,9 +212,20 @@ bool NodeWriter::writeLines(engine::Node& node)
     }
     for (const std::string& kept : node.keptLines)
         line(kept);
+    if (const auto reference = references.find(&node); reference != references.end())
+        writeEdits(reference->second);
     if (node.isLockedNode && !isPlaceholder(node))
         m_out += "lockNode -l 1 ;\n";
     return m_out.size() != before;
+}
+
+void NodeWriter::writeEdits(const ReferenceText& text)
+{
+    if (text.placeholders > 1)
+        line("setAttr" + sizeFlag(text.placeholders) + pathText("phl") + ";");
+    for (std::size_t i = 1; i <= text.placeholders; ++i)
+        line("setAttr" + pathText("phl[" + std::to_string(i) + "]") + " 0;");
+    line("setAttr" + pathText("ed") + " -type \"dataReferenceEdits\"" + text.edits + ";");
 }
 
 void NodeWriter::declare(const Attribute& attribute)
@@ -264,10 +277,21 @@ void NodeWriter::writeCompound(const Plug& plug)
 
 std::string NodeWriter::valueWords(const Plug& plug)
 {
-    const Attribute& attribute = *plug.attribute();
     const bool isNews = tellsWhenSet(plug) ? engine::hasOwnValue(plug) : !engine::isDefault(plug);
-    if (!isNews || !isStored(plug) || engine::isFedAnywhere(plug))
+    return isNews ? plainWords(plug) : std::string();
+}
+
+std::string NodeWriter::statement(const Plug& plug)
+{
+    const std::string value = plug.isArray() ? std::string() : plainWords(plug);
+    return value.empty() ? value : "setAttr" + stateFlags(plug) + pathText(filePath(plug)) + value + ";";
+}
+
+std::string NodeWriter::plainWords(const Plug& plug)
+{
+    if (!isStored(plug) || engine::isFedAnywhere(plug))
         return {};
+    const Attribute& attribute = *plug.attribute();
     if (isGroup(attribute)) {
         const std::vector<Attribute*> leaves = numberLeaves(*plug.attribute());
         const std::vector<double> numbers = numbersOf(plug);

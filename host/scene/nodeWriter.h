@@ -1,10 +1,13 @@
 // NodeWriter: the lines of one node of a scene file.
 #pragma once
 
+#include "referenceEdits.h"
+
 #include "engine/node.h"
 #include "engine/scene.h"
 
 #include <string>
+#include <unordered_map>
 #include <unordered_set>
 #include <vector>
 
@@ -21,6 +24,14 @@ public:
     void writeNode(engine::Node& node);
     /// The indented lines of a node that need no `createNode`: of default nodes. True when there were any.
     bool writeLines(engine::Node& node);
+    /// A `setAttr` of the plug with its value, also when that is the default; empty when it has none to
+    /// write.
+    std::string statement(const engine::Plug& plug);
+
+    /// Names of parents that stand in the file for others: for nodes below those of a reference.
+    std::unordered_map<const engine::Node*, std::string> parentNames;
+    /// Loaded references by their node: their edits are written with it.
+    std::unordered_map<const engine::Node*, ReferenceText> references;
 
 private:
     void declare(const engine::Attribute& attribute);
@@ -37,6 +48,8 @@ private:
     /// The words of a value, from the blank behind the name up to the semicolon; empty when there is none to
     /// write.
     std::string valueWords(const engine::Plug& plug);
+    std::string plainWords(const engine::Plug& plug);
+    void writeEdits(const ReferenceText& text);
 
     bool isSkipped(const engine::Plug& plug) const;
     void line(const std::string& text);

@@ -2,9 +2,9 @@
 #include "sceneReader.h"
 
 #include "flagScanner.h"
+#include "referenceEdits.h"
 
 #include <algorithm>
-#include <filesystem>
 
 namespace tvxhost::scene {
 
@@ -61,7 +61,8 @@ void SceneReader::requires_(const SceneStatement& statement)
         m_summary.version = requirement.version;
         return;
     }
-    addRequirement(m_scene.requirements, requirement);
+    if (!m_reference)
+        addRequirement(m_scene.requirements, requirement);
     if (!m_triedPlugins.insert(requirement.plugin).second)
         return;
     m_summary.plugins.push_back(requirement.plugin);
@@ -103,6 +104,8 @@ void SceneReader::fileInfo(const SceneStatement& statement)
         error("'fileInfo' needs a keyword and a value", statement.line);
         return;
     }
+    if (m_reference)
+        return;
     auto& all = m_scene.fileInfo;
     const auto known =
         std::find_if(all.begin(), all.end(), [&](const auto& entry) { return entry.first == words[0]; });
@@ -112,25 +115,48 @@ void SceneReader::fileInfo(const SceneStatement& statement)
         known->second = words[1];
 }
 
-/// A reference: kept, and told once when its file is not there. Flags that take a value are named so that the
-/// value is not taken for the file.
+std::string SceneReader::absoluteName(const std::string& name) const
+{
+    const std::string& space = m_scene.currentNamespace();
+    return space == ":" || name.empty() ? name : space.substr(1) + ":" + name;
+}
+
+/// A line of the table of references, or a reference. Those that are deferred and that the table says are
+/// loaded come when the whole file has been read, since their edits stand in it.
 void SceneReader::file(const SceneStatement& statement)
 {
-    std::string path;
-    for (FlagScanner flags(statement.arguments); flags.next();) {
-        if (flags.isPositional())
-            path = flags.text();
-        else if (!flags.is("r", "reference"))
-            flags.text();
-    }
-    keep(m_scene.keptConnections, statement);
-    if (path.empty() || !m_toldFiles.insert(path).second)
+    ReferenceStatement parsed = parseReference(statement.arguments);
+    engine::Reference& reference = parsed.reference;
+    reference.nodeName = absoluteName(reference.nodeName);
+    if (parsed.depth > 0) {
+        m_states.emplace(reference.nodeName, !reference.isDeferred);
         return;
-    std::error_code ignored;
-    if (!std::filesystem::exists(path, ignored))
-        warning("Reference file not found: \"" + path + "\"", statement.line);
-    else
-        warning("Reference not read: \"" + path + "\": references are kept but not loaded", statement.line);
+    }
+    if (!parsed.isReference || reference.file.empty()) {
+        keep(m_scene.keptConnections, statement);
+        return;
+    }
+    reference.from = m_file;
+    reference.line = statement.line;
+    reference.parent = m_reference;
+    m_scene.references.push_back(std::make_unique<engine::Reference>(std::move(reference)));
+    m_references.push_back(m_scene.references.back().get());
+    engine::Reference& added = *m_references.back();
+    const auto state = m_states.find(added.nodeName);
+    const bool isWanted = state == m_states.end() || state->second;
+    if (!added.isDeferred && isWanted && m_options.loadsReferences)
+        loadReference(m_scene, added, m_options, m_states, m_summary);
+}
+
+void SceneReader::loadReferences()
+{
+    for (engine::Reference* reference : m_references) {
+        const auto state = m_states.find(reference->nodeName);
+        if (reference->isLoaded)
+            applyEdits(m_scene, *reference);
+        else if (state != m_states.end() && state->second && m_options.loadsReferences)
+            loadReference(m_scene, *reference, m_options, m_states, m_summary);
+    }
 }
 
 } // namespace tvxhost::scene

@@ -64,6 +64,11 @@ void SceneReader::createNode(const SceneStatement& statement)
     }
     DagNode* under = request.parent.empty() ? nullptr : parentNamed(request.parent, statement.line);
     Node* node = existingNode(request.type, request.name, request.isShared);
+    if (node && m_reference && m_created.count(node) == 0) {
+        // A node that every scene has: the scene's own stays as it is.
+        ++m_summary.nodes[request.type];
+        return;
+    }
     if (!node) {
         const bool isKnown = m_scene.types().find(request.type) != nullptr;
         if (!isKnown && m_toldTypes.insert(request.type).second)
@@ -105,7 +110,7 @@ Node* SceneReader::existingNode(const std::string& type, const std::string& name
         return isShared ? &node : nullptr;
     if (!node.isDefaultNode && !node.isShared)
         return nullptr;
-    if (!node.isDefaultNode && m_scene.deleteNode(node))
+    if (!node.isDefaultNode && !m_reference && m_scene.deleteNode(node))
         return nullptr;
     return &node;
 }
@@ -188,6 +193,9 @@ void SceneReader::select(const SceneStatement& statement)
     if (name.empty())
         return;
     const Expected<Node*> found = m_scene.findNode(name);
+    const bool isOfTheScene = m_reference && found && found.value->isDefaultNode;
+    if (isOfTheScene || (m_reference && !found && name.front() == ':'))
+        return;
     if (found) {
         m_section.node = found.value;
         m_section.isUnknown = !found.value->unknownType.empty();

@@ -11,6 +11,7 @@
 #include <functional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace tvxhost::mel {
 class StatementReader;
@@ -25,6 +26,10 @@ struct ReadOptions
     /// Runs a statement that is none of a scene's own (MEL code in the file). May throw mel::ScriptError.
     /// Empty: such statements are errors.
     std::function<void(mel::StatementReader&, const std::string& file)> runStatement;
+    /// Where files that are named relatively are looked for beside the scene's own folder.
+    std::vector<std::filesystem::path> projectFolders;
+    /// Leaves references unloaded, whatever the files say.
+    bool loadsReferences = true;
     /// Told how far the reading is, in bytes, now and then and at the end.
     std::function<void(std::size_t done, std::size_t total)> progress;
 };

@@ -50,8 +50,10 @@ SceneReader::Handler SceneReader::handlerOf(std::string_view name)
     return row == std::end(kHandlers) ? nullptr : row->handler;
 }
 
-SceneReader::SceneReader(engine::Scene& scene, const ReadOptions& options, std::string file)
-    : m_scene(scene), m_options(options), m_file(std::move(file)), m_addAttr(addAttrSpec())
+SceneReader::SceneReader(engine::Scene& scene, const ReadOptions& options, std::string file,
+                         engine::Reference* reference, ReferenceStates* states)
+    : m_scene(scene), m_options(options), m_file(std::move(file)), m_reference(reference),
+      m_states(states ? *states : m_ownStates), m_addAttr(addAttrSpec())
 {
     m_summary.file = m_file;
 }
@@ -69,6 +71,7 @@ void SceneReader::read(std::string_view text)
         }
     }
     finish();
+    loadReferences();
     if (!m_isCutOff && lacksItsEnd(text))
         error("The file ends before its last line, \"// End of ...\": it is not whole", reader.line());
     if (m_options.progress)
@@ -155,6 +158,9 @@ void SceneReader::warning(const std::string& text, int line)
 
 void SceneReader::keep(std::vector<std::string>& lines, const SceneStatement& statement)
 {
+    // What another file says of the scene as a whole is not for this one's to say again.
+    if (m_reference && &lines == &m_scene.keptConnections)
+        return;
     lines.push_back(keptText(statement.source));
     ++m_summary.keptStatements;
 }

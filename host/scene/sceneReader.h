@@ -3,6 +3,7 @@
 
 #include "pendingCompounds.h"
 #include "reader.h"
+#include "references.h"
 
 #include "engine/scene.h"
 #include "mel/parser.h"
@@ -26,7 +27,10 @@ struct SceneStatement
 class SceneReader
 {
 public:
-    SceneReader(engine::Scene& scene, const ReadOptions& options, std::string file);
+    /// `reference`: what is read belongs to it and not to the scene; `states` are those of the whole scene.
+    /// Null for the scene's own file.
+    SceneReader(engine::Scene& scene, const ReadOptions& options, std::string file,
+                engine::Reference* reference = nullptr, ReferenceStates* states = nullptr);
 
     /// Reads all; the summary then tells what there was.
     void read(std::string_view text);
@@ -82,6 +86,8 @@ private:
     void currentUnit(const SceneStatement& statement);
     void fileInfo(const SceneStatement& statement);
     void file(const SceneStatement& statement);
+    std::string absoluteName(const std::string& name) const;
+    void loadReferences();
 
     void error(const std::string& text, int line);
     void warning(const std::string& text, int line);
@@ -91,6 +97,10 @@ private:
     engine::Scene& m_scene;
     const ReadOptions& m_options;
     std::string m_file;
+    engine::Reference* m_reference; ///< what is read belongs to; null: to the scene
+    ReferenceStates m_ownStates;
+    ReferenceStates& m_states;
+    std::vector<engine::Reference*> m_references; ///< that this file makes
     SceneSummary m_summary;
     Section m_section;
     PendingCompounds m_compounds;
@@ -101,7 +111,6 @@ private:
     std::unordered_set<const engine::Node*> m_created; ///< by this file
     std::unordered_set<std::string> m_toldTypes;       ///< unknown types that were warned of
     std::unordered_set<std::string> m_triedPlugins;
-    std::unordered_set<std::string> m_toldFiles; ///< missing references that were warned of
 };
 
 /// The text of a statement with LF line ends and no blanks around it.

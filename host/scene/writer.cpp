@@ -4,12 +4,14 @@
 #include "connectionEnd.h"
 #include "lineBreaker.h"
 #include "nodeWriter.h"
+#include "references.h"
 
 #include "engine/atomicFile.h"
 #include "mel/arguments.h"
 
 #include <algorithm>
 #include <cstdlib>
+#include <unordered_map>
 #include <unordered_set>
 
 #include <sys/utsname.h>
@@ -94,7 +96,10 @@ private:
     void writeHeader();
     void writeRequirement(const Scene::Requirement& requirement);
     void writeFileInfo();
+    void collectReferences();
     void collectNodes();
+    void writeFosterParent(const Node& child);
+    void writePlaceholder(const ReferenceText::Placeholder& placeholder);
     void collectDag(DagNode& node);
     void writeInstances();
     void writeDefaults();
@@ -111,7 +116,11 @@ private:
     NodeWriter m_nodes;
     std::vector<Node*> m_dagNodes; ///< depth first
     std::vector<Node*> m_dependNodes;
-    std::vector<Node*> m_defaultNodes; ///< in the order of their `select` lines
+    std::unordered_map<std::string, std::string> m_sourceNames; ///< placeholders that stand for sources
+    std::unordered_map<const Node*, std::vector<ReferenceText::Placeholder>>
+        m_placeholders;                              ///< by reference node
+    std::unordered_set<std::string> m_fosterParents; ///< that have been written
+    std::vector<Node*> m_defaultNodes;               ///< in the order of their `select` lines
 };
 
 /// Whether a node is written with `createNode`.
@@ -122,10 +131,13 @@ bool isCreated(const Node& node)
 
 std::string SceneWriter::write()
 {
+    collectReferences();
     collectNodes();
     writeHeader();
-    for (Node* node : m_dagNodes)
+    for (Node* node : m_dagNodes) {
+        writeFosterParent(*node);
         m_nodes.writeNode(*node);
+    }
     writeInstances();
     for (Node* node : m_dependNodes)
         m_nodes.writeNode(*node);
@@ -147,6 +159,7 @@ void SceneWriter::writeHeader()
     m_out += "//Name: " + m_fileName + "\n";
     m_out += "//Last modified: " + dateText(m_options) + "\n";
     m_out += "//Codeset: UTF-8\n";
+    m_out += referenceStatements(m_scene);
     writeKept([](const std::string& text) { return beginsWith(text, "file "); });
     m_out += "requires maya \"" + std::string(kVersion) + "\";\n";
     for (const Scene::Requirement& requirement : requirements())
@@ -214,6 +227,33 @@ void SceneWriter::writeFileInfo()
             write(entry);
 }
 
+void SceneWriter::collectReferences()
+{
+    for (const auto& reference : m_scene.references) {
+        const auto node = m_scene.findNode(":" + reference->nodeName);
+        if (!reference->isLoaded || reference->parent || reference->keepsEdits || !node)
+            continue;
+        ReferenceText text = textOf(m_scene, *reference);
+        for (const auto& [child, parent] : text.fosterChildren)
+            m_nodes.parentNames[child] = parent;
+        for (const ReferenceText::Placeholder& placeholder : text.connections) {
+            if (placeholder.destinationName.empty())
+                m_sourceNames[connectionName(placeholder.destination, false)] = placeholder.sourceName;
+            else
+                m_placeholders[node.value].push_back(placeholder);
+        }
+        m_nodes.references[node.value] = std::move(text);
+    }
+}
+
+/// What holds the scene's own nodes while those of the reference that they are below are not there.
+void SceneWriter::writeFosterParent(const Node& child)
+{
+    const auto parent = m_nodes.parentNames.find(&child);
+    if (parent != m_nodes.parentNames.end() && m_fosterParents.insert(parent->second).second)
+        m_out += "createNode fosterParent -n " + mel::quoted(parent->second) + ";\n";
+}
+
 void SceneWriter::collectNodes()
 {
     for (DagNode* top : m_scene.world().children())
@@ -241,9 +281,11 @@ void SceneWriter::collectDag(DagNode& top)
     while (!waiting.empty()) {
         DagNode* node = waiting.back();
         waiting.pop_back();
-        if (!isCreated(*node))
+        // Below the nodes of a reference may be some of the scene's own.
+        if (!isCreated(*node) && !node->isReferenced)
             continue;
-        m_dagNodes.push_back(node);
+        if (!node->isReferenced)
+            m_dagNodes.push_back(node);
         const auto& children = node->children();
         for (auto child = children.rbegin(); child != children.rend(); ++child)
             if ((*child)->parents().front() == node)
@@ -287,6 +329,18 @@ void SceneWriter::writeConnections(const std::vector<Node*>& nodes)
         for (const Plug& plug : engine::connectedPlugs(*node))
             if (const Plug source = engine::sourceOf(plug); !source.isNull())
                 writeConnection(source, plug);
+    for (Node* node : nodes)
+        if (const auto own = m_placeholders.find(node); own != m_placeholders.end())
+            for (const ReferenceText::Placeholder& placeholder : own->second)
+                writePlaceholder(placeholder);
+}
+
+/// A connection to a node of a reference, as far as this file knows it.
+void SceneWriter::writePlaceholder(const ReferenceText::Placeholder& placeholder)
+{
+    const std::string source =
+        placeholder.sourceName.empty() ? connectionName(placeholder.source, false) : placeholder.sourceName;
+    m_out += "connectAttr " + mel::quoted(source) + " " + mel::quoted(placeholder.destinationName) + ";\n";
 }
 
 void SceneWriter::writeConnection(const Plug& source, const Plug& destination)
@@ -296,9 +350,17 @@ void SceneWriter::writeConnection(const Plug& source, const Plug& destination)
     // What connects two default nodes is there in every new scene.
     if ((from.isDefaultNode && to.isDefaultNode) || from.doNotWrite || to.doNotWrite)
         return;
+    std::string sourceName = connectionName(source, false);
+    if (from.isReferenced) {
+        // What the reference's own file connects to the nodes of every scene, it will connect again.
+        const auto name = m_sourceNames.find(connectionName(destination, false));
+        if (name == m_sourceNames.end())
+            return;
+        sourceName = name->second;
+    }
     const bool isNext = destination.isElement() && !destination.attribute()->flags.indexMatters;
-    m_out += "connectAttr " + mel::quoted(connectionName(source, false)) + " " +
-             mel::quoted(connectionName(destination, isNext));
+    m_out +=
+        "connectAttr " + mel::quoted(sourceName) + " " + mel::quoted(connectionName(destination, isNext));
     if (engine::stateOf(destination).locked)
         m_out += " -l on";
     m_out += isNext ? " -na;\n" : ";\n";

@@ -1,5 +1,6 @@
 // Files: scenes and requirements.
 #include "commandSupport.h"
+#include "referenceCommands.h"
 #include "sceneCommands.h"
 
 #include "../interpreter.h"
@@ -110,8 +111,17 @@ Value queryFile(CommandContext& context, const ParsedCommand& call)
         return Value(scene.fileName.empty() ? std::string("unknown") : scene.fileName);
     if (call.has("type"))
         return Value(Value::Strings{"mayaAscii"});
-    if (call.has("list"))
-        return Value(scene.fileName.empty() ? Value::Strings() : Value::Strings{scene.fileName});
+    if (call.has("reference") || call.has("referenceNode") || call.has("deferReference") ||
+        call.has("namespace"))
+        return queryReferences(context, call);
+    if (call.has("list")) {
+        Value::Strings files;
+        if (!scene.fileName.empty())
+            files.push_back(scene.fileName);
+        for (const auto& reference : scene.references)
+            files.push_back(reference->path.empty() ? reference->file : reference->path);
+        return Value(std::move(files));
+    }
     context.fail("file: nothing was asked");
 }
 
@@ -124,9 +134,10 @@ Value file(CommandContext& context, const ParsedCommand& call)
         {"newFile", newFile},     {"open", openFile},     {"import", importFile},
         {"exportAll", exportAll}, {"rename", renameFile}, {"save", saveFile},
     };
-    for (const char* refused : {"reference", "exportSelected", "removeReference", "loadReference"})
-        if (call.has(refused))
-            context.fail(std::string("file -") + refused + " is not implemented");
+    if (isAboutReferences(call))
+        return changeReferences(context, call);
+    if (call.has("exportSelected"))
+        context.fail("file -exportSelected is not implemented");
     if (call.has("modified")) {
         sceneOf(context).isModified = call.boolean("modified");
         return {};
@@ -150,30 +161,30 @@ Value file(CommandContext& context, const ParsedCommand& call)
 CommandSpec fileCommand()
 {
     using A = ArgumentType;
-    return makeCommand("file", "Opens, saves and tells scene files",
-                       {switchFlag("new", "newFile", "an empty scene"),
-                        switchFlag("o", "open", "opens a file"),
-                        switchFlag("i", "import", "adds a file's content"),
-                        switchFlag("s", "save", "saves the scene under its name"),
-                        valueFlag("rn", "rename", A::string, "the scene's name from now on"),
-                        switchFlag("ea", "exportAll", "writes everything to another file"),
-                        switchFlag("es", "exportSelected", "writes what is selected to another file"),
-                        switchFlag("r", "reference", "references a file"),
-                        switchFlag("rr", "removeReference", "removes a reference"),
-                        switchFlag("lr", "loadReference", "loads a reference"),
-                        valueFlag("typ", "type", A::string, "mayaAscii", kCreateQuery),
-                        switchFlag("f", "force", "although there are changes that were not saved"),
-                        valueFlag("pmt", "prompt", A::boolean, "whether dialogs may ask"),
-                        valueFlag("op", "options", A::string, "for the writer of the format"),
-                        valueFlag("iv", "ignoreVersion", A::boolean, "reads files of other versions"),
-                        switchFlag("sn", "sceneName", "the scene's file", kQuery),
-                        switchFlag("shn", "shortName", "without its folder", kQuery),
-                        switchFlag("loc", "location", "the scene's file, or unknown", kQuery),
-                        valueFlag("mf", "modified", A::boolean,
-                                  "whether there are changes that were not saved", kCreateQuery),
-                        switchFlag("ex", "exists", "whether a file exists", kQuery),
-                        switchFlag("l", "list", "the files in use", kQuery)},
-                       names(0, 1), file, kQuery);
+    std::vector<FlagSpec> flags = {
+        switchFlag("new", "newFile", "an empty scene"),
+        switchFlag("o", "open", "opens a file"),
+        switchFlag("i", "import", "adds a file's content"),
+        switchFlag("s", "save", "saves the scene under its name"),
+        valueFlag("rn", "rename", A::string, "the scene's name from now on"),
+        switchFlag("ea", "exportAll", "writes everything to another file"),
+        switchFlag("es", "exportSelected", "writes what is selected to another file"),
+        valueFlag("typ", "type", A::string, "mayaAscii", kCreateQuery),
+        switchFlag("f", "force", "although there are changes that were not saved"),
+        valueFlag("pmt", "prompt", A::boolean, "whether dialogs may ask"),
+        valueFlag("op", "options", A::string, "for the writer of the format"),
+        valueFlag("iv", "ignoreVersion", A::boolean, "reads files of other versions"),
+        switchFlag("sn", "sceneName", "the scene's file", kQuery),
+        switchFlag("shn", "shortName", "without its folder", kQuery),
+        switchFlag("loc", "location", "the scene's file, or unknown", kQuery),
+        valueFlag("mf", "modified", A::boolean, "whether there are changes that were not saved",
+                  kCreateQuery),
+        switchFlag("ex", "exists", "whether a file exists", kQuery),
+        switchFlag("l", "list", "the files in use", kQuery)};
+    const std::vector<FlagSpec> ofReferences = referenceFlags();
+    flags.insert(flags.end(), ofReferences.begin(), ofReferences.end());
+    return makeCommand("file", "Opens, saves and tells scene files", std::move(flags), names(0, 1), file,
+                       kQuery);
 }
 
 // requires, fileInfo

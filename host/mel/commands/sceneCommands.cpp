@@ -36,6 +36,7 @@ void registerSceneCommands(CommandTable& table)
                                        registerPreferenceCommands,
                                        registerWindowPreferenceCommands,
                                        registerFileCommands,
+                                       registerReferenceCommands,
                                        registerWorkspaceCommands,
                                        registerDialogCommands,
                                        registerPluginCommands,

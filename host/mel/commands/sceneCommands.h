@@ -34,6 +34,7 @@ void registerKeyframeCommands(CommandTable& table);
 void registerPreferenceCommands(CommandTable& table);
 void registerWindowPreferenceCommands(CommandTable& table);
 void registerFileCommands(CommandTable& table);
+void registerReferenceCommands(CommandTable& table);
 void registerWorkspaceCommands(CommandTable& table);
 void registerDialogCommands(CommandTable& table);
 void registerPluginCommands(CommandTable& table);

@@ -5,6 +5,7 @@
 
 #include "api/plugins/pluginLoader.h"
 #include "engine/atomicFile.h"
+#include "scene/references.h"
 
 namespace tvxhost::mel {
 
@@ -81,6 +82,9 @@ scene::ReadOptions SceneSession::readOptions(Interpreter& interpreter)
         interpreter.executeStatement(reader, file);
     };
     options.progress = progress;
+    options.projectFolders = {workspace.root()};
+    if (const auto scenes = workspace.rules.find("scene"); scenes != workspace.rules.end())
+        options.projectFolders.push_back(workspace.resolved(scenes->second));
     return options;
 }
 
@@ -96,6 +100,13 @@ scene::ReadResult SceneSession::import(Interpreter& interpreter, const std::file
     scene::ReadResult result = scene::importScene(m_scene, file, readOptions(interpreter));
     lastSummary = result.summary;
     return result;
+}
+
+void SceneSession::loadReference(Interpreter& interpreter, engine::Reference& reference)
+{
+    scene::ReferenceStates states;
+    scene::SceneSummary summary;
+    scene::loadReference(m_scene, reference, readOptions(interpreter), states, summary);
 }
 
 engine::Outcome SceneSession::saveAs(const std::filesystem::path& file)

@@ -72,6 +72,8 @@ public:
     /// Opens a file: `file -open`. A failure is a file that is no scene; what is wrong inside has been shown.
     scene::ReadResult open(Interpreter& interpreter, const std::filesystem::path& file);
     scene::ReadResult import(Interpreter& interpreter, const std::filesystem::path& file);
+    /// Loads a reference; whether it was shows in the reference, what went wrong has been shown.
+    void loadReference(Interpreter& interpreter, engine::Reference& reference);
     /// Saves the scene under its name or another.
     engine::Outcome saveAs(const std::filesystem::path& file);
 

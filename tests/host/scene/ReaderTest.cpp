@@ -233,7 +233,7 @@ TEST_F(ReaderTest, warnsOncePerReferenceThatIsMissing)
          "file -r -ns \"r\" -dr 1 -rfn \"rRN\" -op \"v=0;\" -typ \"mayaAscii\" \"/no/such.ma\";\n");
     EXPECT_THAT(
         messages(),
-        ElementsAre("Warning: file: /scenes/test.ma line 2: Reference file not found: \"/no/such.ma\"\n"));
+        ElementsAre("Warning: file: /scenes/test.ma line 3: Reference file not found: \"/no/such.ma\"\n"));
 }
 
 TEST_F(ReaderTest, goesOnBehindErrorsAndSaysAtTheEndThatThereWereSome)

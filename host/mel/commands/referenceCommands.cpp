@@ -1,0 +1,280 @@
+// References: the part of `file` that makes, loads and removes them, and referenceQuery.
+#include "referenceCommands.h"
+
+#include "commandSupport.h"
+#include "sceneCommands.h"
+
+#include "scene/references.h"
+
+#include <algorithm>
+#include <filesystem>
+
+namespace tvxhost::mel {
+
+namespace fs = std::filesystem;
+
+using engine::Reference;
+
+namespace {
+
+/// The file as it is shown: where it is, with a number when it is not the first of its file.
+std::string shownPath(const engine::Scene& scene, const Reference& reference)
+{
+    const std::string path = reference.path.empty() ? reference.file : reference.path;
+    int number = 0;
+    for (const auto& other : scene.references) {
+        if (other.get() == &reference)
+            break;
+        number += other->file == reference.file ? 1 : 0;
+    }
+    return number == 0 ? path : path + "{" + std::to_string(number) + "}";
+}
+
+Reference& referenceNamed(CommandContext& context, const std::string& name)
+{
+    engine::Scene& scene = sceneOf(context);
+    for (const auto& reference : scene.references)
+        if (shownPath(scene, *reference) == name)
+            return *reference;
+    const std::string file = sessionOf(context).workspace.resolved(name).string();
+    for (const std::string& each : {name, file})
+        if (Reference* found = scene::findReference(scene, each))
+            return *found;
+    context.fail("'" + name + "' is not a reference file, reference node, or referenced node.");
+}
+
+/// The reference that a call means: by `-referenceNode` or the file that is named.
+Reference& referenceOf(CommandContext& context, const ParsedCommand& call)
+{
+    if (call.has("referenceNode"))
+        return referenceNamed(context, call.string("referenceNode"));
+    if (call.positional.empty())
+        context.fail("No reference was named");
+    return referenceNamed(context, call.names().front());
+}
+
+void load(CommandContext& context, Reference& reference)
+{
+    if (reference.isLoaded)
+        require(context, scene::unloadReference(sceneOf(context), reference));
+    sessionOf(context).loadReference(context.interpreter(), reference);
+    if (!reference.isLoaded)
+        context.fail("The reference '" + reference.nodeName + "' could not be loaded");
+}
+
+std::string legalName(std::string name)
+{
+    for (char& c : name)
+        if (!std::isalnum(static_cast<unsigned char>(c)))
+            c = '_';
+    return name;
+}
+
+Value addReference(CommandContext& context, const ParsedCommand& call)
+{
+    SceneSession& session = sessionOf(context);
+    engine::Scene& scene = session.scene();
+    if (call.positional.empty())
+        context.fail("file -reference needs the name of a file");
+    const fs::path file = session.workspace.resolved(call.names().front());
+    if (!fs::exists(file))
+        context.fail("File not found: \"" + file.string() + "\"");
+
+    auto reference = std::make_unique<Reference>();
+    const std::string stem = legalName(file.stem().string());
+    reference->hasPrefix = call.has("renamingPrefix");
+    reference->space = call.string(reference->hasPrefix ? "renamingPrefix" : "namespace", stem);
+    const std::string wish = reference->space == ":" ? std::string() : reference->space;
+    reference->space = wish;
+    for (int i = 1; !reference->hasPrefix && !wish.empty() && scene.hasNamespace(":" + reference->space); ++i)
+        reference->space = wish + std::to_string(i);
+    reference->file = file.string();
+    reference->from = scene.fileName;
+    reference->words = "-typ \"mayaAscii\"";
+    reference->isDeferred = call.has("deferReference") && call.boolean("deferReference");
+
+    const std::string nodeName = (reference->space.empty() ? stem : reference->space) + "RN";
+    engine::Node& node = *valueOf(context, scene.createNode("reference", ":" + nodeName));
+    reference->nodeName = node.name();
+    node.isLockedNode = true;
+    scene.references.push_back(std::move(reference));
+    Reference& added = *scene.references.back();
+    scene.isModified = true;
+    if (!added.isDeferred)
+        load(context, added);
+    return Value(shownPath(scene, added));
+}
+
+template <class Change>
+Value change(CommandContext& context, Reference& reference, const Change& apply)
+{
+    const std::string path = shownPath(sceneOf(context), reference);
+    apply(reference);
+    return Value(path);
+}
+
+Value loadOne(CommandContext& context, const ParsedCommand& call)
+{
+    Reference& reference = referenceNamed(context, call.string("loadReference"));
+    if (!call.positional.empty())
+        reference.file = sessionOf(context).workspace.resolved(call.names().front()).string();
+    load(context, reference);
+    return Value(shownPath(sceneOf(context), reference));
+}
+
+Value unloadOne(CommandContext& context, const ParsedCommand& call)
+{
+    return change(
+        context, referenceNamed(context, call.string("unloadReference")),
+        [&](Reference& reference) { require(context, scene::unloadReference(sceneOf(context), reference)); });
+}
+
+Value removeOne(CommandContext& context, const ParsedCommand& call)
+{
+    return change(context, referenceOf(context, call), [&](Reference& reference) {
+        require(context, scene::removeReference(sceneOf(context), reference));
+    });
+}
+
+using Action = Value (*)(CommandContext&, const ParsedCommand&);
+constexpr std::pair<const char*, Action> kActions[] = {
+    {"reference", addReference},
+    {"loadReference", loadOne},
+    {"unloadReference", unloadOne},
+    {"removeReference", removeOne},
+};
+
+// referenceQuery
+
+Value::Strings nodeNames(CommandContext& context, const Reference& reference)
+{
+    engine::Scene& scene = sceneOf(context);
+    Value::Strings names;
+    for (const engine::Node* node : scene::allNodes(scene, reference))
+        names.push_back(scene.shortestName(*node));
+    return names;
+}
+
+Value::Strings childNodes(const engine::Scene& scene, const Reference& reference)
+{
+    Value::Strings names;
+    for (const auto& other : scene.references)
+        if (other->parent == &reference)
+            names.push_back(other->nodeName);
+    return names;
+}
+
+Value referenceQuery(CommandContext& context, const ParsedCommand& call)
+{
+    engine::Scene& scene = sceneOf(context);
+    const std::string name = call.names().front();
+    if (call.has("isNodeReferenced")) {
+        const auto node = scene.findNode(name);
+        return Value(node && node.value->isReferenced);
+    }
+    Reference* reference = &referenceNamed(context, name);
+    if (call.has("parent")) {
+        if (!reference->parent)
+            return Value("");
+        reference = reference->parent;
+    }
+    if (call.has("topReference"))
+        reference = &scene::topReference(*reference);
+    if (call.has("isLoaded"))
+        return Value(reference->isLoaded);
+    if (call.has("nodes"))
+        return Value(nodeNames(context, *reference));
+    if (call.has("child"))
+        return Value(childNodes(scene, *reference));
+    if (call.has("referenceNode"))
+        return Value(reference->nodeName);
+    if (call.has("namespace"))
+        return Value(":" + scene::namespaceOf(*reference));
+    if (call.has("filename")) {
+        const std::string path = call.has("unresolvedName") ? reference->file : shownPath(scene, *reference);
+        return Value(call.has("shortName") ? fs::path(path).filename().string() : path);
+    }
+    context.fail("referenceQuery: nothing was asked");
+}
+
+CommandSpec referenceQueryCommand()
+{
+    return makeCommand(
+        "referenceQuery", "Tells about a reference: by its node, its file or a node of it",
+        {switchFlag("f", "filename", "its file"),
+         switchFlag("un", "unresolvedName", "the file as the scene names it"),
+         switchFlag("shn", "shortName", "the file without its folder"),
+         switchFlag("rfn", "referenceNode", "its reference node"),
+         switchFlag("ns", "namespace", "the namespace of its nodes"),
+         switchFlag("n", "nodes", "its nodes, those of references in it included"),
+         switchFlag("il", "isLoaded", "whether it is loaded"),
+         switchFlag("inr", "isNodeReferenced", "whether a node belongs to a reference"),
+         switchFlag("p", "parent", "asks about the reference that has this one in it"),
+         switchFlag("tr", "topReference", "asks about the scene's own reference it belongs to"),
+         switchFlag("ch", "child", "the reference nodes of the references in it")},
+        names(1, 1), referenceQuery);
+}
+
+} // namespace
+
+std::vector<FlagSpec> referenceFlags()
+{
+    using A = ArgumentType;
+    return {
+        switchFlag("r", "reference", "references a file; the files that are referenced", kCreateQuery),
+        valueFlag("ns", "namespace", A::string, "of the nodes of a referenced file", kCreateQuery),
+        valueFlag("rpr", "renamingPrefix", A::string, "in front of the names of a referenced file's nodes"),
+        valueFlag("dr", "deferReference", A::boolean, "does not load it", kCreateQuery),
+        valueFlag("rfn", "referenceNode", A::string, "the node of a reference", kCreateQuery),
+        switchFlag("rr", "removeReference", "removes a reference"),
+        valueFlag("lr", "loadReference", A::string, "loads the reference of a reference node"),
+        valueFlag("ur", "unloadReference", A::string, "unloads the reference of a reference node")};
+}
+
+bool isAboutReferences(const ParsedCommand& call)
+{
+    return std::any_of(std::begin(kActions), std::end(kActions),
+                       [&](const auto& action) { return call.has(action.first); });
+}
+
+Value changeReferences(CommandContext& context, const ParsedCommand& call)
+{
+    const auto* action = std::find_if(std::begin(kActions), std::end(kActions),
+                                      [&](const auto& candidate) { return call.has(candidate.first); });
+    // Nodes of files come and go for good: what was edited before cannot be taken back behind them.
+    engine::Journal& journal = sceneOf(context).journal();
+    const engine::Journal::Into nothing(journal, nullptr);
+    Value result = action->second(context, call);
+    journal.flush();
+    return result;
+}
+
+Value queryReferences(CommandContext& context, const ParsedCommand& call)
+{
+    const engine::Scene& scene = sceneOf(context);
+    if (!call.positional.empty()) {
+        const Reference& reference = referenceNamed(context, call.names().front());
+        if (call.has("referenceNode"))
+            return Value(reference.nodeName);
+        if (call.has("deferReference"))
+            return Value(!reference.isLoaded);
+        if (call.has("namespace"))
+            return Value(scene::namespaceOf(reference));
+    }
+    Value::Strings files;
+    for (const auto& reference : scene.references) {
+        const bool isAsked = call.positional.empty()
+                                 ? !reference->parent
+                                 : reference->parent == &referenceNamed(context, call.names().front());
+        if (isAsked)
+            files.push_back(shownPath(scene, *reference));
+    }
+    return Value(std::move(files));
+}
+
+void registerReferenceCommands(CommandTable& table)
+{
+    table.add({referenceQueryCommand()});
+}
+
+} // namespace tvxhost::mel

@@ -1,0 +1,263 @@
+// References: other files' nodes in a scene, changed by its edits, and saved as edits only.
+#include "SceneFixture.h"
+
+#include "scene/references.h"
+
+#include "../support/temporaryFolder.h"
+
+#include <gmock/gmock.h>
+
+#include <cstdlib>
+#include <fstream>
+
+namespace tvxhost::scene {
+
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::IsEmpty;
+using testing::Not;
+
+class ReferenceTest : public SceneFixture
+{
+protected:
+    static constexpr const char* kRig =
+        "//Maya ASCII 2016 scene\n"
+        "currentUnit -l meter -a degree -t film;\n"
+        "createNode transform -s -n \"persp\";\n\tsetAttr \".t\" -type \"double3\" 9 9 9 ;\n"
+        "createNode transform -n \"body\";\n\tsetAttr \".t\" -type \"double3\" 1 2 3 ;\n"
+        "createNode transform -n \"head\" -p \"body\";\n"
+        "createNode mesh -n \"headShape\" -p \"head\";\n"
+        "createNode reverse -n \"flip\";\n"
+        "select -ne :time1;\n\tsetAttr \".o\" 77;\n"
+        "connectAttr \"flip.ox\" \"|body|head.sy\";\n"
+        "connectAttr \"headShape.iog\" \":initialShadingGroup.dsm\" -na;\n";
+
+    void SetUp() override { file("rig.ma", kRig); }
+
+    std::string file(const std::string& name, const std::string& content)
+    {
+        std::ofstream(m_folder / name) << content;
+        return (m_folder / name).string();
+    }
+    ReadResult open(const std::string& body)
+    {
+        scene.scriptEditor().clearHistory();
+        return openScene(scene, file("shot.ma", kHeader + body));
+    }
+    /// Saves, opens what was saved and saves again: the same text, which is given.
+    std::string savedTwice()
+    {
+        const std::string first = saved();
+        file("saved.ma", first);
+        EXPECT_TRUE(openScene(scene, m_folder / "saved.ma").isClean());
+        EXPECT_EQ(saved(), first);
+        return first;
+    }
+
+    test::TemporaryFolder m_folder;
+};
+
+TEST_F(ReferenceTest, bringsTheNodesOfItsFileInANamespace)
+{
+    EXPECT_TRUE(open("file -r -ns \"r\" -rfn \"rRN\" -typ \"mayaAscii\" \"rig.ma\";\n").isClean());
+    EXPECT_THAT(messages(), IsEmpty());
+    EXPECT_EQ(engine::DagPath::firstTo(*node("r:head").asDag()).fullName(), "|r:body|r:head");
+    EXPECT_THAT(numbers("r:body.t"), ElementsAre(100, 200, 300)) << "metres, in centimetres";
+    EXPECT_EQ(source("r:head.sy"), "r:flip.outputX");
+    EXPECT_TRUE(node("r:head").isReferenced);
+    EXPECT_FALSE(scene.findNode("r:persp"));
+    EXPECT_EQ(scene.units().linear, engine::Units().linear);
+    EXPECT_EQ(scene.currentNamespace(), ":");
+}
+
+TEST_F(ReferenceTest, leavesWhatEverySceneHasAsItIs)
+{
+    const auto before = numbers("persp.t");
+    open("file -r -ns \"r\" \"rig.ma\";\n");
+    EXPECT_EQ(numbers("persp.t"), before);
+    EXPECT_THAT(numbers(":time1.o"), Not(ElementsAre(77 / 24.0)));
+}
+
+TEST_F(ReferenceTest, bringsThemWithAPrefix)
+{
+    EXPECT_TRUE(open("file -r -rpr \"solar\" \"rig.ma\";\n").isClean());
+    EXPECT_EQ(engine::DagPath::firstTo(*node("solar_head").asDag()).fullName(), "|solar_body|solar_head");
+    EXPECT_THAT(savedTwice(), HasSubstr("file -r -rpr \"solar\" -dr 1 \"rig.ma\";\n"));
+}
+
+TEST_F(ReferenceTest, isFoundThroughVariablesAndInTheProject)
+{
+    ::setenv("TVX_TEST_RIGS", m_folder.path().c_str(), 1);
+    EXPECT_TRUE(open("file -r -ns \"r\" \"$TVX_TEST_RIGS/rig.ma\";\n").isClean());
+    EXPECT_TRUE(scene.findNode("r:body"));
+    EXPECT_TRUE(open("file -r -ns \"r\" \"${TVX_TEST_RIGS}/rig.ma\";\n").isClean());
+    EXPECT_TRUE(scene.findNode("r:body"));
+
+    const test::TemporaryFolder elsewhere;
+    std::ofstream(elsewhere / "shot.ma") << kHeader << "file -r -ns \"r\" \"C:/projects//rig.ma\";\n";
+    ReadOptions options;
+    options.projectFolders = {m_folder.path()};
+    EXPECT_TRUE(openScene(scene, elsewhere / "shot.ma", options).isClean());
+    EXPECT_TRUE(scene.findNode("r:body"));
+}
+
+TEST_F(ReferenceTest, staysWithItsEditsWhenItsFileIsMissing)
+{
+    const std::string body = "file -rdi 1 -ns \"r\" -rfn \"rRN\" -typ \"mayaAscii\" \"none.ma\";\n"
+                             "file -r -ns \"r\" -dr 1 -rfn \"rRN\" -typ \"mayaAscii\" \"none.ma\";\n"
+                             "createNode animCurveTL -n \"curve\";\n"
+                             "createNode reference -n \"rRN\";\n"
+                             "\tsetAttr \".phl[1]\" 0;\n"
+                             "\tsetAttr \".ed\" -type \"dataReferenceEdits\" \n\t\t\"rRN\"\n\t\t\"rRN\" 1\n"
+                             "\t\t5 4 \"rRN\" \"|r:body.translateX\" \"rRN.placeHolderList[1]\" \"\";\n"
+                             "connectAttr \"curve.o\" \"rRN.phl[1]\";\n";
+    const ReadResult result = open(body);
+    EXPECT_EQ(result.summary.warnings, 1u);
+    EXPECT_EQ(result.summary.errors, 0u);
+    EXPECT_THAT(messages(), ElementsAre(HasSubstr("line 3: Reference file not found: \"none.ma\"\n")));
+    const std::string text = saved();
+    EXPECT_THAT(text, HasSubstr("file -r -ns \"r\" -dr 1 -rfn \"rRN\" -typ \"mayaAscii\" \"none.ma\";\n"));
+    EXPECT_THAT(text, HasSubstr("\t\t5 4 \"rRN\" \"|r:body.translateX\" \"rRN.placeHolderList[1]\" \"\";\n"));
+    EXPECT_THAT(text, HasSubstr("connectAttr \"curve.o\" \"rRN.phl[1]\";\n"));
+}
+
+TEST_F(ReferenceTest, isNotLoadedWhenItIsDeferred)
+{
+    EXPECT_TRUE(open("file -rdi 1 -ns \"r\" -dr 1 -rfn \"rRN\" \"rig.ma\";\n"
+                     "file -r -ns \"r\" -dr 1 -rfn \"rRN\" \"rig.ma\";\n")
+                    .isClean());
+    EXPECT_FALSE(scene.findNode("r:body"));
+    EXPECT_THAT(savedTwice(), HasSubstr("file -rdi 1 -ns \"r\" -dr 1 -rfn \"rRN\" \"rig.ma\";\n"));
+}
+
+constexpr const char* kEdited =
+    "file -rdi 1 -ns \"r\" -rfn \"rRN\" -typ \"mayaAscii\" \"rig.ma\";\n"
+    "file -r -ns \"r\" -dr 1 -rfn \"rRN\" -typ \"mayaAscii\" \"rig.ma\";\n"
+    "createNode transform -n \"group\";\n"
+    "createNode fosterParent -n \"rRNfosterParent1\";\n"
+    "createNode transform -n \"hat\" -p \"rRNfosterParent1\";\n"
+    "createNode transform -n \"follower\";\n"
+    "createNode animCurveTL -n \"curve\";\n"
+    "createNode reference -n \"rRN\";\n"
+    "\tsetAttr -s 4 \".phl\";\n\tsetAttr \".phl[1]\" 0;\n\tsetAttr \".phl[2]\" 0;\n\tsetAttr \".phl[3]\" 0;\n"
+    "\tsetAttr \".phl[4]\" 0;\n"
+    "\tsetAttr \".ed\" -type \"dataReferenceEdits\" \n\t\t\"rRN\"\n\t\t\"rRN\" 0\n\t\t\"rRN\" 9\n"
+    "\t\t0 \"|r:body\" \"|group\" \"-s -r \"\n"
+    "\t\t0 \"|rRNfosterParent1|hat\" \"|group|r:body|r:head\" \"-s -r \"\n"
+    "\t\t1 |group|r:body \"blend\" \"bl\" \" -ci 1 -k 1 -dv 1 -at \\\"double\\\"\"\n"
+    "\t\t2 \"|group|r:body\" \"translate\" \" -type \\\"double3\\\" 4 5 6\"\n"
+    "\t\t2 \"|group|r:body\" \"visibility\" \" -k 0 1\"\n"
+    "\t\t3 \"r:flip.outputX\" \"|group|r:body|r:head.scaleY\" \"\"\n"
+    "\t\t5 3 \"rRN\" \"|group|r:body.translateY\" \"rRN.placeHolderList[1]\" \"\"\n"
+    "\t\t5 4 \"rRN\" \"|group|r:body.rotateX\" \"rRN.placeHolderList[2]\" \"\"\n"
+    "\t\t5 0 \"rRN\" \"|group|r:body.scaleX\" \"|group|r:body|r:head.scaleX\" \n"
+    "\t\t\"rRN.placeHolderList[3]\" \"rRN.placeHolderList[4]\" \"\";\n"
+    "lockNode -l 1 ;\n"
+    "connectAttr \"rRN.phl[1]\" \"follower.ty\";\nconnectAttr \"curve.o\" \"rRN.phl[2]\";\n"
+    "connectAttr \"rRN.phl[3]\" \"rRN.phl[4]\";\n";
+
+TEST_F(ReferenceTest, takesTheEditsOfItsNode)
+{
+    EXPECT_TRUE(open(kEdited).isClean());
+    EXPECT_THAT(messages(), IsEmpty());
+    EXPECT_EQ(engine::DagPath::firstTo(*node("r:head").asDag()).fullName(), "|group|r:body|r:head");
+    EXPECT_EQ(engine::DagPath::firstTo(*node("hat").asDag()).fullName(), "|group|r:body|r:head|hat");
+    EXPECT_FALSE(scene.findNode("rRNfosterParent1"));
+    EXPECT_THAT(numbers("r:body.t"), ElementsAre(4, 5, 6));
+    EXPECT_THAT(numbers("r:body.blend"), ElementsAre(1));
+    EXPECT_FALSE(engine::stateOf(scene.findPlug("r:body.v").value).keyable.value());
+    EXPECT_EQ(source("r:head.sy"), "");
+    EXPECT_EQ(source("follower.ty"), "r:body.translateY");
+    EXPECT_NE(source("r:body.rx"), "");
+    EXPECT_EQ(source("r:head.sx"), "r:body.scaleX");
+}
+
+TEST_F(ReferenceTest, isSavedAsItsEditsOnly)
+{
+    open(kEdited);
+    const std::string text = savedTwice();
+    EXPECT_THAT(text, Not(HasSubstr("createNode transform -n \"r:body\"")));
+    EXPECT_THAT(text, HasSubstr("createNode transform -n \"hat\" -p \"rRNfosterParent1\";\n"));
+    EXPECT_THAT(text, HasSubstr("\n\t\t0 \"|r:body\" \"|group\" \"-s -r \"\n"));
+    EXPECT_THAT(text,
+                HasSubstr("\n\t\t2 \"|group|r:body\" \"translate\" \" -type \\\"double3\\\" 4 5 6\"\n"));
+    EXPECT_THAT(text, HasSubstr("\n\t\t3 \"r:flip.outputX\" \"|group|r:body|r:head.scaleY\" \"\"\n"));
+    EXPECT_THAT(text, HasSubstr("connectAttr \"rRN.phl[3]\" \"rRN.phl[4]\";\n"));
+}
+
+TEST_F(ReferenceTest, savesWhatIsChangedLater)
+{
+    open("file -r -ns \"r\" -rfn \"rRN\" \"rig.ma\";\ncreateNode reference -n \"rRN\";\n");
+    ASSERT_TRUE(engine::writeNumbers(scene.findPlug("r:body.t").value, {0, 0, 0}));
+    ASSERT_TRUE(engine::writeNumber(scene.findPlug("r:flip.ix").value, 0.25));
+    const std::string text = savedTwice();
+    EXPECT_THAT(text, HasSubstr("\n\t\t\"rRN\"\n\t\t\"rRN\" 2\n"
+                                "\t\t2 \"|r:body\" \"translate\" \" -type \\\"double3\\\" 0 0 0\"\n"
+                                "\t\t2 \"r:flip\" \"input\" \" -type \\\"float3\\\" 0.25 0 0\";\n"));
+}
+
+TEST_F(ReferenceTest, keepsEditsOfNodesThatAreNotThere)
+{
+    open("file -r -ns \"r\" -rfn \"rRN\" \"rig.ma\";\ncreateNode reference -n \"rRN\";\n"
+         "\tsetAttr \".ed\" -type \"dataReferenceEdits\" \"rRN\" \"rRN\" 1\n"
+         "\t\t2 \"|r:tail\" \"visibility\" \" 0\";\n");
+    EXPECT_THAT(savedTwice(), HasSubstr("\t\t2 \"|r:tail\" \"visibility\" \" 0\";\n"));
+}
+
+TEST_F(ReferenceTest, mayReferToOthersAndThoseToIt)
+{
+    file("pair.ma", std::string(kHeader) +
+                        "file -r -ns \"one\" -rfn \"oneRN\" \"rig.ma\";\n"
+                        "createNode reference -n \"oneRN\";\ncreateNode transform -n \"top\";\n"
+                        "parent -r \"one:body\" \"top\";\n");
+    EXPECT_TRUE(open("file -r -ns \"p\" -rfn \"pRN\" \"pair.ma\";\ncreateNode reference -n \"pRN\";\n"
+                     "\tsetAttr \".ed\" -type \"dataReferenceEdits\" \"pRN\" \"pRN\" 0 \"p:oneRN\" 1\n"
+                     "\t\t2 \"p:one:flip\" \"inputX\" \" 0.5\";\n")
+                    .isClean());
+    EXPECT_THAT(numbers("p:one:flip.ix"), ElementsAre(0.5));
+    EXPECT_THAT(savedTwice(), HasSubstr("file -rdi 2 -ns \"one\" -rfn \"p:oneRN\" \"rig.ma\";\n"));
+
+    file("self.ma", std::string(kHeader) + "file -r -ns \"again\" \"self.ma\";\n");
+    EXPECT_EQ(open("file -r -ns \"s\" \"self.ma\";\n").summary.warnings, 1u);
+    EXPECT_THAT(messages().front(), HasSubstr("refers to itself"));
+}
+
+TEST_F(ReferenceTest, protectsItsNodes)
+{
+    open("file -r -ns \"r\" \"rig.ma\";\n");
+    EXPECT_FALSE(scene.deleteNode(node("r:body")));
+    EXPECT_FALSE(scene.rename(node("r:body"), "mine"));
+    EXPECT_TRUE(scene.findNode("r:body"));
+}
+
+TEST_F(ReferenceTest, goesAndComesBackWithItsEdits)
+{
+    open(kEdited);
+    const std::string before = saved();
+    engine::Reference* reference = findReference(scene, "rRN");
+    ASSERT_TRUE(reference);
+    ASSERT_TRUE(unloadReference(scene, *reference));
+    EXPECT_FALSE(scene.findNode("r:body"));
+    EXPECT_TRUE(scene.findNode("hat"));
+    EXPECT_EQ(source("follower.ty"), "rRN.placeHolderList[1]");
+    ReferenceStates states;
+    SceneSummary summary;
+    loadReference(scene, *reference, {}, states, summary);
+    EXPECT_THAT(numbers("r:body.t"), ElementsAre(4, 5, 6));
+    EXPECT_EQ(source("follower.ty"), "r:body.translateY");
+    EXPECT_EQ(saved(), before);
+    ASSERT_TRUE(removeReference(scene, *reference));
+    EXPECT_FALSE(scene.findNode("r:body"));
+    EXPECT_FALSE(scene.findNode("rRN"));
+    EXPECT_THAT(saved(), Not(HasSubstr("file -r")));
+}
+
+TEST_F(ReferenceTest, whoseFileIsDamagedIsAnErrorThere)
+{
+    file("rig.ma", std::string(kHeader) + "createNode transform -n \"body\";\n\tsetAttr \".tx\" 1");
+    EXPECT_EQ(open("file -r -ns \"r\" \"rig.ma\";\n").summary.errors, 1u);
+    EXPECT_THAT(messages().front(),
+                HasSubstr((m_folder / "rig.ma").string() + " line 3: The file ends within this statement"));
+}
+
+} // namespace tvxhost::scene
