@@ -26,9 +26,9 @@ constexpr const char* kUsage =
 std::vector<tvxbench::Row> allRows()
 {
     std::vector<tvxbench::Row> rows;
-    for (const auto& family :
-         {tvxbench::loggerRows, tvxbench::formatRows, tvxbench::rejectedReportRows, tvxbench::loadRows,
-          tvxbench::circleRows, tvxbench::switchRows, tvxbench::hullRows, tvxbench::utilsRows})
+    for (const auto& family : {tvxbench::loggerRows, tvxbench::formatRows, tvxbench::rejectedReportRows,
+                               tvxbench::loadRows, tvxbench::circleRows, tvxbench::switchRows,
+                               tvxbench::hullRows, tvxbench::utilsRows, tvxbench::sceneRows})
         for (tvxbench::Row& row : family())
             rows.push_back(std::move(row));
     return rows;

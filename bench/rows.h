@@ -25,5 +25,6 @@ std::vector<Row> circleRows();
 std::vector<Row> hullRows();
 std::vector<Row> switchRows();
 std::vector<Row> utilsRows();
+std::vector<Row> sceneRows();
 
 } // namespace tvxbench

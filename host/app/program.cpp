@@ -187,6 +187,7 @@ void Program::report()
     if (m_options.summary) {
         scene::SceneSummary summary = m_session.commands().lastSummary;
         summary.meshes = scene::summarizeMeshes(m_session.scene());
+        summary.peakMemory = scene::peakMemory();
         print(asLines(*m_options.summary == ReportFormat::json ? scene::toJson(summary)
                                                                : scene::toText(summary)));
     }

@@ -3,9 +3,13 @@
 
 #include <nlohmann/json.hpp>
 
+#include <sys/resource.h>
+
 namespace tvxhost::scene {
 
 namespace {
+
+constexpr std::size_t kMegabyte = 1000 * 1000;
 
 using Counts = std::map<std::string, std::size_t>;
 
@@ -48,6 +52,13 @@ nlohmann::ordered_json meshesOf(const std::vector<MeshSummary>& meshes)
 
 } // namespace
 
+std::size_t peakMemory()
+{
+    rusage usage = {};
+    constexpr std::size_t kKilobyte = 1024;
+    return getrusage(RUSAGE_SELF, &usage) == 0 ? static_cast<std::size_t>(usage.ru_maxrss) * kKilobyte : 0;
+}
+
 std::string toText(const SceneSummary& summary)
 {
     std::string text;
@@ -63,6 +74,8 @@ std::string toText(const SceneSummary& summary)
     addLine(text, "plug-ins", plugins);
     addLine(text, "connections", std::to_string(summary.connections));
     addLine(text, "kept statements", std::to_string(summary.keptStatements));
+    if (summary.peakMemory > 0)
+        addLine(text, "peak memory", std::to_string(summary.peakMemory / kMegabyte) + " MB");
     addLine(text, "warnings", std::to_string(summary.warnings));
     addLine(text, "errors", std::to_string(summary.errors));
     return text;
@@ -81,6 +94,8 @@ std::string toJson(const SceneSummary& summary)
     json["plugins"] = summary.plugins;
     json["connections"] = summary.connections;
     json["keptStatements"] = summary.keptStatements;
+    if (summary.peakMemory > 0)
+        json["peakMemory"] = summary.peakMemory;
     json["warnings"] = summary.warnings;
     json["errors"] = summary.errors;
     return json.dump(-1, ' ', false, nlohmann::ordered_json::error_handler_t::replace) + "\n";

@@ -25,9 +25,13 @@ struct SceneSummary
     std::vector<std::string> plugins; ///< that the file requires, in its order, each once
     std::size_t connections = 0;      ///< made
     std::size_t keptStatements = 0;   ///< not understood and kept as they stood, to be saved again
+    std::size_t peakMemory = 0; ///< bytes of memory that the process has had at most; 0: not asked for
     std::size_t warnings = 0;
     std::size_t errors = 0;
 };
+
+/// The most memory that this process has had, in bytes.
+std::size_t peakMemory();
 
 /// The summary for people, several lines, ends with a line end.
 std::string toText(const SceneSummary& summary);

@@ -186,14 +186,6 @@ TEST_F(DamageTest, namesThatAreNoneGetTheOnesOfTheirType)
     EXPECT_TRUE(scene.findNode("objectSet1"));
 }
 
-/// The greatest memory this process has had, in bytes.
-std::size_t peakMemory()
-{
-    rusage usage = {};
-    getrusage(RUSAGE_SELF, &usage);
-    return static_cast<std::size_t>(usage.ru_maxrss) * 1024;
-}
-
 // A sanitizer keeps memory that was given back, to catch who still uses it.
 #if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
 constexpr bool kKeepsFreedMemory = true;

@@ -52,6 +52,15 @@ TEST_F(SummaryTest, isOneJsonObjectOnOneLine)
               "\"connections\":1,\"keptStatements\":3,\"warnings\":2,\"errors\":0}\n");
 }
 
+TEST_F(SummaryTest, tellsTheMemoryWhenItWasAskedFor)
+{
+    SceneSummary summary;
+    summary.peakMemory = 12'345'678;
+    EXPECT_THAT(toText(summary), HasSubstr("\npeak memory: 12 MB\nwarnings: 0\n"));
+    EXPECT_THAT(toJson(summary), HasSubstr("\"peakMemory\":12345678,\"warnings\":0,"));
+    EXPECT_GT(peakMemory(), 1'000'000u);
+}
+
 TEST_F(SummaryTest, listsMeshesWithTheirBorderEdges)
 {
     SceneSummary summary =
