@@ -54,6 +54,7 @@ const TypeByName& irregularNodeTypes()
         {"softMod", MFn::kSoftModFilter},
         {"softModHandle", MFn::kSoftMod},
         {"skinCluster", MFn::kSkinClusterFilter},
+        {"renderLight", MFn::kLight},
         {"nonAmbientLightShapeNode", MFn::kNonAmbientLight},
         {"nonExtendedLightShapeNode", MFn::kNonExtendedLight},
         {"curveShape", MFn::kCurve},

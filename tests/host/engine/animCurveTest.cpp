@@ -359,5 +359,32 @@ TEST_F(AnimCurveTest, ACurveIsMadeForAPlugAndNamedAfterIt)
     EXPECT_EQ(driven.value->type().name, "animCurveUL");
 }
 
+TEST_F(AnimCurveTest, EditsOfKeysAreTakenBackAndDoneAgain)
+{
+    makeTransform("ball");
+    scene.journal().setOn(true);
+    scene.journal().openChunk("curve");
+    Node& node = *makeCurveFor(plug("ball.tx")).value;
+    ASSERT_TRUE(writeCurve(node, curveOf({{0.0, 0.0}, {1.0, 4.0}}, TangentKind::linear)));
+    scene.journal().closeChunk();
+    scene.setTime(0.5);
+    EXPECT_DOUBLE_EQ(number("ball.tx"), 2.0);
+    scene.journal().openChunk("keys");
+    AnimCurveKeys more = curveOf({{0.0, 0.0}, {0.5, 9.0}, {1.0, 4.0}}, TangentKind::spline);
+    more.setTangent(1, KeySide::out, {1.0, 0.0});
+    ASSERT_TRUE(writeCurve(node, more));
+    scene.journal().closeChunk();
+    EXPECT_DOUBLE_EQ(number("ball.tx"), 9.0);
+    ASSERT_TRUE(scene.journal().undo());
+    EXPECT_DOUBLE_EQ(number("ball.tx"), 2.0);
+    EXPECT_EQ(readCurve(node).keys.size(), 2u);
+    EXPECT_THAT(elements("ball_translateX.kix"), testing::IsEmpty());
+    ASSERT_TRUE(scene.journal().redo());
+    EXPECT_DOUBLE_EQ(number("ball.tx"), 9.0);
+    ASSERT_TRUE(scene.journal().undo());
+    ASSERT_TRUE(scene.journal().undo());
+    EXPECT_EQ(curveFeeding(plug("ball.tx")), nullptr);
+}
+
 } // namespace
 } // namespace tvxhost::engine

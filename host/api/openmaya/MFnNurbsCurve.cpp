@@ -1,0 +1,393 @@
+// MFnNurbsCurve: NURBS curves. What the host does not do is in MFnNurbsCurveUnsupported.cpp.
+#include <maya/MFnNurbsCurve.h>
+
+#include "engine/geometry/nurbsCurve.h"
+#include "support/attributeMembers.h"
+#include "support/shapeSet.h"
+
+#include <maya/MDoubleArray.h>
+#include <maya/MPointArray.h>
+
+#include <cmath>
+#include <optional>
+
+using namespace tvxhost;
+using api::failure;
+using api::give;
+using api::StatusText;
+using engine::NurbsCurve;
+
+namespace {
+
+/// As the words of a scene file, which is how plugs hold curves.
+constexpr const char* kTypeName = "nurbsCurve";
+
+/// The curve that a plug holds.
+std::optional<NurbsCurve> curveIn(const engine::Plug& plug)
+{
+    const auto data = engine::readData(plug);
+    if (!data || data.value->type() != engine::DataType::plugin)
+        return std::nullopt;
+    const auto& kept = static_cast<const engine::KeptData&>(*data.value);
+    return kept.typeName == kTypeName ? engine::parseNurbsCurve(kept.text) : std::nullopt;
+}
+
+engine::Plug plugOf(engine::Node& node, const char* name)
+{
+    return engine::Plug(node, *node.findAttribute(name));
+}
+
+bool isFed(engine::Node& node)
+{
+    return engine::isFedAnywhere(plugOf(node, "create"));
+}
+
+/// Runs `use(curve)`, which returns a status.
+template <class Use>
+MStatus withCurve(const MFnBase& set, Use use)
+{
+    engine::Node* node = api::nodeOf(set);
+    if (!node)
+        return api::notAttached();
+    const auto curve = curveIn(plugOf(*node, isFed(*node) ? "create" : "cached"));
+    return curve ? use(*curve) : failure(MS::kInvalidParameter, StatusText::objectDoesNotExist);
+}
+
+/// What `read(curve)` gives.
+template <class Value, class Read>
+Value readCurve(const MFnBase& set, MStatus* returnStatus, Value value, Read read)
+{
+    give(returnStatus, withCurve(set, [&](const NurbsCurve& curve) {
+             value = read(curve);
+             return MStatus();
+         }));
+    return value;
+}
+
+MStatus store(engine::Node& node, const NurbsCurve& curve)
+{
+    if (!curve.isValid())
+        return failure(MS::kInvalidParameter, StatusText::unexpectedFailure);
+    return api::toStatus(engine::writeData(plugOf(node, "cached"),
+                                           engine::KeptData(kTypeName, engine::nurbsCurveWords(curve))));
+}
+
+/// Has a curve without history changed; `change` returns a status.
+template <class Change>
+MStatus changeCurve(const MFnBase& set, Change change)
+{
+    return withCurve(set, [&](const NurbsCurve& old) -> MStatus {
+        engine::Node& node = *api::nodeOf(set);
+        if (isFed(node))
+            return failure(StatusText::unexpectedFailure);
+        NurbsCurve curve = old;
+        const MStatus changed = change(curve);
+        return changed ? store(node, curve) : changed;
+    });
+}
+
+/// From the curve's own space to another.
+engine::Matrix matrixTo(const MFnDagNode& set, MSpace::Space space)
+{
+    engine::DagNode* node = api::dagNodeOf(set);
+    return space == MSpace::kWorld && node ? api::pathOf(set, *node).inclusiveMatrix() : engine::Matrix();
+}
+
+MPoint placed(const Imath::V3d& point, const engine::Matrix& matrix)
+{
+    const Imath::V3d there = point * matrix;
+    return MPoint(there.x, there.y, there.z);
+}
+
+MVector turned(const Imath::V3d& vector, const engine::Matrix& matrix)
+{
+    Imath::V3d there;
+    matrix.multDirMatrix(vector, there);
+    return MVector(there.x, there.y, there.z);
+}
+
+Imath::V3d taken(const MPoint& point, const engine::Matrix& inverse)
+{
+    return Imath::V3d(point.x, point.y, point.z) * inverse;
+}
+
+MStatus noElement()
+{
+    return failure(StatusText::noElementAtIndex);
+}
+
+bool isOn(const NurbsCurve& curve, double parameter)
+{
+    return parameter >= curve.begin() && parameter <= curve.end();
+}
+
+std::optional<NurbsCurve> curveOf(const MPointArray& points, const MDoubleArray& knots, unsigned int degree,
+                                  MFnNurbsCurve::Form form, bool isFlat, bool isRational)
+{
+    if (degree > 99 || form < MFnNurbsCurve::kOpen || form > MFnNurbsCurve::kPeriodic)
+        return std::nullopt;
+    NurbsCurve curve;
+    curve.degree = static_cast<int>(degree);
+    curve.form = static_cast<NurbsCurve::Form>(form - MFnNurbsCurve::kOpen);
+    curve.isRational = isRational;
+    curve.dimensions = isFlat ? 2 : 3;
+    for (unsigned int i = 0; i < knots.length(); ++i)
+        curve.knots.push_back(knots[i]);
+    for (unsigned int i = 0; i < points.length(); ++i)
+        curve.points.push_back(
+            {{points[i].x, points[i].y, isFlat ? 0.0 : points[i].z}, isRational ? points[i].w : 1.0});
+    return curve.isValid() ? std::optional<NurbsCurve>(curve) : std::nullopt;
+}
+
+} // namespace
+
+TVX_SHAPE_SET(MFnNurbsCurve, MFn::kNurbsCurve)
+
+bool MFnNurbsCurve::objectChanged(MFn::Type type, MStatus* status)
+{
+    return MFnDagNode::objectChanged(type, status);
+}
+
+MObject MFnNurbsCurve::create(const MPointArray& controlVertices, const MDoubleArray& knotSequences,
+                              unsigned int degree, Form agForm, bool create2D, bool createRational,
+                              MObject& parentOrOwner, MStatus* ReturnStatus)
+{
+    const auto curve = curveOf(controlVertices, knotSequences, degree, agForm, create2D, createRational);
+    if (!curve) {
+        TVX_API_CALL_OR("MFnNurbsCurve::create", ReturnStatus, MObject());
+        give(ReturnStatus, failure(MS::kInvalidParameter, StatusText::unexpectedFailure));
+        return MObject();
+    }
+    MStatus status;
+    const MObject made =
+        api::makeShape(*this, "MFnNurbsCurve::create", "nurbsCurve", parentOrOwner, false, &status);
+    if (status)
+        status = store(*api::nodeOf(*this), *curve);
+    give(ReturnStatus, status);
+    return made;
+}
+
+MStatus MFnNurbsCurve::getCV(unsigned int index, MPoint& pt, MSpace::Space space) const
+{
+    TVX_API_CALL("MFnNurbsCurve::getCV");
+    return withCurve(*this, [&](const NurbsCurve& curve) -> MStatus {
+        if (index >= curve.points.size())
+            return noElement();
+        pt = placed(curve.points[index].place, matrixTo(*this, space));
+        pt.w = curve.points[index].weight;
+        return MS::kSuccess;
+    });
+}
+
+MStatus MFnNurbsCurve::setCV(unsigned int index, const MPoint& pt, MSpace::Space space)
+{
+    TVX_API_CALL("MFnNurbsCurve::setCV");
+    return changeCurve(*this, [&](NurbsCurve& curve) -> MStatus {
+        if (index >= curve.points.size())
+            return noElement();
+        curve.points[index].place = taken(pt, matrixTo(*this, space).inverse());
+        return MS::kSuccess;
+    });
+}
+
+MStatus MFnNurbsCurve::getCVs(MPointArray& array, MSpace::Space space) const
+{
+    TVX_API_CALL("MFnNurbsCurve::getCVs");
+    return withCurve(*this, [&](const NurbsCurve& curve) {
+        const engine::Matrix matrix = matrixTo(*this, space);
+        array.clear();
+        for (const NurbsCurve::Point& point : curve.points) {
+            MPoint there = placed(point.place, matrix);
+            there.w = point.weight;
+            array.append(there);
+        }
+        return MStatus();
+    });
+}
+
+MStatus MFnNurbsCurve::setCVs(const MPointArray& array, MSpace::Space space)
+{
+    TVX_API_CALL("MFnNurbsCurve::setCVs");
+    return changeCurve(*this, [&](NurbsCurve& curve) -> MStatus {
+        if (array.length() != curve.points.size())
+            return failure(MS::kInvalidParameter, StatusText::unexpectedFailure);
+        const engine::Matrix inverse = matrixTo(*this, space).inverse();
+        for (unsigned int i = 0; i < array.length(); ++i)
+            curve.points[i].place = taken(array[i], inverse);
+        return MS::kSuccess;
+    });
+}
+
+int MFnNurbsCurve::numCVs(MStatus* ReturnStatus) const
+{
+    TVX_API_CALL_OR("MFnNurbsCurve::numCVs", ReturnStatus, 0);
+    return readCurve(*this, ReturnStatus, 0,
+                     [](const NurbsCurve& curve) { return static_cast<int>(curve.points.size()); });
+}
+
+MFnNurbsCurve::Form MFnNurbsCurve::form(MStatus* ReturnStatus) const
+{
+    TVX_API_CALL_OR("MFnNurbsCurve::form", ReturnStatus, kInvalid);
+    return readCurve(*this, ReturnStatus, kInvalid, [](const NurbsCurve& curve) {
+        return static_cast<Form>(static_cast<int>(curve.form) + kOpen);
+    });
+}
+
+int MFnNurbsCurve::degree(MStatus* ReturnStatus) const
+{
+    TVX_API_CALL_OR("MFnNurbsCurve::degree", ReturnStatus, 0);
+    return readCurve(*this, ReturnStatus, 0, [](const NurbsCurve& curve) { return curve.degree; });
+}
+
+int MFnNurbsCurve::numSpans(MStatus* ReturnStatus) const
+{
+    TVX_API_CALL_OR("MFnNurbsCurve::numSpans", ReturnStatus, 0);
+    return readCurve(*this, ReturnStatus, 0, [](const NurbsCurve& curve) { return curve.spanCount(); });
+}
+
+bool MFnNurbsCurve::hasHistoryOnCreate(MStatus* ReturnStatus) const
+{
+    TVX_API_CALL_OR("MFnNurbsCurve::hasHistoryOnCreate", ReturnStatus, false);
+    engine::Node* node = api::nodeOf(*this);
+    return api::requireAttached(node, ReturnStatus) && isFed(*node);
+}
+
+int MFnNurbsCurve::numKnots(MStatus* ReturnStatus) const
+{
+    TVX_API_CALL_OR("MFnNurbsCurve::numKnots", ReturnStatus, 0);
+    return readCurve(*this, ReturnStatus, 0,
+                     [](const NurbsCurve& curve) { return static_cast<int>(curve.knots.size()); });
+}
+
+MStatus MFnNurbsCurve::getKnotDomain(double& start, double& end) const
+{
+    TVX_API_CALL("MFnNurbsCurve::getKnotDomain");
+    return withCurve(*this, [&](const NurbsCurve& curve) {
+        start = curve.begin();
+        end = curve.end();
+        return MStatus();
+    });
+}
+
+MStatus MFnNurbsCurve::getKnots(MDoubleArray& array) const
+{
+    TVX_API_CALL("MFnNurbsCurve::getKnots");
+    return withCurve(*this, [&](const NurbsCurve& curve) {
+        array.clear();
+        for (const double knot : curve.knots)
+            array.append(knot);
+        return MStatus();
+    });
+}
+
+MStatus MFnNurbsCurve::setKnots(const MDoubleArray& array, unsigned int startIndex, unsigned int endIndex)
+{
+    TVX_API_CALL("MFnNurbsCurve::setKnots");
+    return changeCurve(*this, [&](NurbsCurve& curve) -> MStatus {
+        if (startIndex > endIndex || endIndex >= curve.knots.size())
+            return noElement();
+        if (array.length() != endIndex - startIndex + 1)
+            return failure(MS::kInvalidParameter, StatusText::unexpectedFailure);
+        for (unsigned int i = startIndex; i <= endIndex; ++i)
+            curve.knots[i] = array[i - startIndex];
+        return MS::kSuccess;
+    });
+}
+
+MStatus MFnNurbsCurve::setKnot(unsigned int index, double param)
+{
+    TVX_API_CALL("MFnNurbsCurve::setKnot");
+    return changeCurve(*this, [&](NurbsCurve& curve) -> MStatus {
+        if (index >= curve.knots.size())
+            return noElement();
+        curve.knots[index] = param;
+        return MS::kSuccess;
+    });
+}
+
+double MFnNurbsCurve::knot(unsigned int index, MStatus* ReturnStatus) const
+{
+    TVX_API_CALL_OR("MFnNurbsCurve::knot", ReturnStatus, 0.0);
+    double found = 0.0;
+    give(ReturnStatus, withCurve(*this, [&](const NurbsCurve& curve) -> MStatus {
+             if (index >= curve.knots.size())
+                 return noElement();
+             found = curve.knots[index];
+             return MS::kSuccess;
+         }));
+    return found;
+}
+
+MStatus MFnNurbsCurve::getPointAtParam(double param, MPoint& point, MSpace::Space space) const
+{
+    TVX_API_CALL("MFnNurbsCurve::getPointAtParam");
+    return withCurve(*this, [&](const NurbsCurve& curve) -> MStatus {
+        if (!isOn(curve, param))
+            return failure(MS::kInvalidParameter, StatusText::unexpectedFailure);
+        point = placed(curve.at(param), matrixTo(*this, space));
+        return MS::kSuccess;
+    });
+}
+
+bool MFnNurbsCurve::isParamOnCurve(double param, MStatus* ReturnStatus) const
+{
+    TVX_API_CALL_OR("MFnNurbsCurve::isParamOnCurve", ReturnStatus, false);
+    return readCurve(*this, ReturnStatus, false, [&](const NurbsCurve& curve) { return isOn(curve, param); });
+}
+
+MVector MFnNurbsCurve::tangent(double param, MSpace::Space space, MStatus* ReturnStatus) const
+{
+    TVX_API_CALL_OR("MFnNurbsCurve::tangent", ReturnStatus, MVector());
+    MVector found;
+    give(ReturnStatus, withCurve(*this, [&](const NurbsCurve& curve) -> MStatus {
+             if (!isOn(curve, param))
+                 return failure(MS::kInvalidParameter, StatusText::unexpectedFailure);
+             found = turned(curve.velocityAt(param), matrixTo(*this, space)).normal();
+             return MS::kSuccess;
+         }));
+    return found;
+}
+
+MStatus MFnNurbsCurve::getDerivativesAtParm(double param, MPoint& pos, MVector& dU, MSpace::Space space,
+                                            MVector* dUU) const
+{
+    TVX_API_CALL("MFnNurbsCurve::getDerivativesAtParm");
+    return withCurve(*this, [&](const NurbsCurve& curve) -> MStatus {
+        if (!isOn(curve, param))
+            return failure(MS::kInvalidParameter, StatusText::unexpectedFailure);
+        const engine::Matrix matrix = matrixTo(*this, space);
+        pos = placed(curve.at(param), matrix);
+        dU = turned(curve.velocityAt(param), matrix);
+        if (dUU)
+            *dUU = turned(curve.accelerationAt(param), matrix);
+        return MS::kSuccess;
+    });
+}
+
+double MFnNurbsCurve::length(double, MStatus* ReturnStatus) const
+{
+    TVX_API_CALL_OR("MFnNurbsCurve::length", ReturnStatus, 0.0);
+    return readCurve(*this, ReturnStatus, 0.0,
+                     [](const NurbsCurve& curve) { return curve.lengthTo(curve.end()); });
+}
+
+double MFnNurbsCurve::findParamFromLength(double partLength, MStatus* ReturnStatus) const
+{
+    TVX_API_CALL_OR("MFnNurbsCurve::findParamFromLength", ReturnStatus, 0.0);
+    return readCurve(*this, ReturnStatus, 0.0, [&](const NurbsCurve& curve) {
+        double low = curve.begin();
+        double high = curve.end();
+        constexpr int kHalvings = 50;
+        for (int i = 0; i < kHalvings; ++i) {
+            const double middle = (low + high) / 2.0;
+            (curve.lengthTo(middle) < partLength ? low : high) = middle;
+        }
+        return (low + high) / 2.0;
+    });
+}
+
+MStatus MFnNurbsCurve::updateCurve()
+{
+    TVX_API_CALL("MFnNurbsCurve::updateCurve");
+    return api::nodeOf(*this) ? MStatus() : api::notAttached();
+}
