@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <optional>
 
 namespace tvxhost::app {
 
@@ -130,8 +131,15 @@ Value toValue(const ScriptRunner::Result& result)
     return {};
 }
 
-bool ScriptBridge::run(const std::string& script, bool display, bool /*undoable*/, Result& result)
+bool ScriptBridge::run(const std::string& script, bool display, bool undoable, Result& result)
 {
+    // What can be undone goes to the step of the plug-in's command that runs it, or is a step of its own.
+    std::optional<engine::Journal::Into> step;
+    engine::Journal* journal = m_interpreter.session() ? m_interpreter.session()->journal() : nullptr;
+    if (journal && !undoable)
+        step.emplace(*journal, nullptr);
+    else if (journal && !journal->isRecording() && journal->runningStep())
+        step.emplace(*journal, journal->runningStep());
     // A plug-in's interface procedure may use the commands that the plug-in has just registered.
     m_commands.update();
     const auto value = m_interpreter.run(script);

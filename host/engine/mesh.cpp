@@ -194,7 +194,8 @@ Outcome moveInAttributes(DagNode& shape, const MovedPoints& moved)
 template <class Change>
 void changeHeld(DagNode& shape, Ref<Data> held, const Change& change)
 {
-    if (held != shape.cells().ownMesh)
+    // What is remembered for undo is not to change.
+    if (held != shape.cells().ownMesh || shape.scene().journal().isRecording())
         held = held->clone();
     auto& mesh = static_cast<MeshData&>(*held);
     change(mesh);

@@ -424,6 +424,8 @@ Outcome removeElement(const Plug& arrayPlug, int logicalIndex)
             for (const Plug& destination : destinationsOf(plug))
                 node.scene().breakConnection(plug, destination);
         }
+    if (node.scene().journal().isRecording())
+        array->makeElement(logicalIndex); // packed values cannot be kept one by one
     auto removal = std::make_unique<ElementRemoval>(element);
     removal->redo();
     node.scene().journal().record(std::move(removal));

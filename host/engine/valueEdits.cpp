@@ -207,9 +207,6 @@ void ElementRemoval::redo()
     noteEdit(m_element);
     spreadDirty(m_element);
     m_element.node()->scene().isModified = true;
-    // Packed values are not taken out by themselves.
-    if (Cell* array = m_element.node()->cells().find(m_element.array()))
-        array->makeElement(m_element.logicalIndex());
     m_life.takeOut();
     m_element.node()->scene().observers().tell(
         {Happening::elementRemoved, m_element.node(), nullptr, &m_element});

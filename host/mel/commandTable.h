@@ -14,6 +14,10 @@
 #include <variant>
 #include <vector>
 
+namespace tvxhost::engine {
+class Journal;
+}
+
 namespace tvxhost::mel {
 
 class Interpreter;
@@ -24,6 +28,8 @@ class Session
 {
 public:
     virtual ~Session() = default;
+    /// Where what commands edit is remembered for undo; null when it is not.
+    virtual engine::Journal* journal() { return nullptr; }
 };
 
 /// What a running command can reach.

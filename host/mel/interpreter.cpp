@@ -4,8 +4,11 @@
 #include "evaluator.h"
 #include "stackRoom.h"
 
+#include "engine/journal.h"
+
 #include <algorithm>
 #include <fstream>
+#include <optional>
 #include <sstream>
 
 namespace tvxhost::mel {
@@ -33,6 +36,18 @@ std::vector<Value> valuesOf(const ArgumentList& arguments)
     return values;
 }
 
+/// A command as it would be typed, for the one who looks for what to take back.
+std::string commandText(const std::string& name, const ArgumentList& arguments)
+{
+    std::string text = name;
+    for (const Argument& argument : arguments) {
+        text += ' ';
+        text +=
+            argument.kind == ArgumentKind::string ? mel::quoted(argument.text) : std::string(argument.text);
+    }
+    return text;
+}
+
 } // namespace
 
 Interpreter::Interpreter(CommandTable& commands, engine::ScriptEditor& editor, Session* session)
@@ -51,6 +66,10 @@ Interpreter::Depth::Depth(Interpreter& interpreter, const Place& place) : m_inte
 Value Interpreter::runScript(const ast::Script& script)
 {
     const Depth depth(*this, {script.name, 1});
+    std::optional<engine::Journal::Group> whole;
+    if (engine::Journal* journal = m_session ? m_session->journal() : nullptr) {
+        whole.emplace(*journal);
+    }
     Evaluator evaluator(*this, script.name);
     evaluator.runAll(script.statements);
     return evaluator.lastValue();
@@ -153,6 +172,11 @@ Value Interpreter::callCommand(const Callable& callable, const ArgumentList& arg
 {
     const Depth depth(*this, place);
     CommandContext context(*this, callable.command->name, place);
+    std::optional<engine::Journal::Command> step;
+    if (engine::Journal* journal = m_session ? m_session->journal() : nullptr) {
+        step.emplace(*journal,
+                     journal->namesNext() ? commandText(callable.command->name, arguments) : std::string());
+    }
     if (callable.command->isRaw()) {
         return std::get<RawHandler>(callable.command->handler)(context, arguments);
     }

@@ -192,9 +192,15 @@ void NodeWriter::writeNode(engine::Node& node)
         m_out += " -p " + mel::quoted(m_scene.shortestName(*dag->parents().front()));
     m_out += ";\n";
     line("rename -uid " + mel::quoted(node.uuid()) + ";");
-    if (dag)
+    // Geometry that a shape holds as a whole is in its attributes only while they are written.
+    engine::Step inAttributes;
+    if (dag) {
+        const engine::Journal::Into step(m_scene.journal(), &inAttributes);
         engine::settleMesh(*node.asDag());
+    }
     writeLines(node);
+    const engine::Journal::Into nothing(m_scene.journal(), nullptr);
+    inAttributes.undo();
 }
 
 bool NodeWriter::writeLines(engine::Node& node)

@@ -52,6 +52,7 @@ ReadResult openSceneText(engine::Scene& scene, std::string_view text, const std:
 {
     if (const SceneTextError error = checkSceneText(text, name); !error.outcome)
         return refused(error.outcome, name, error.line);
+    const engine::Journal::Into nothing(scene.journal(), nullptr);
     scene.newScene();
     ReadResult result = readInto(scene, text, name, options);
     takeTimeOver(scene);
@@ -75,6 +76,9 @@ ReadResult importScene(engine::Scene& scene, const std::filesystem::path& file, 
         return refused(text.outcome, file.string());
     if (const SceneTextError error = checkSceneText(text.value, file.string()); !error.outcome)
         return refused(error.outcome, file.string(), error.line);
+    scene.journal().keep(scene.keptConnections);
+    scene.journal().keep(scene.fileInfo);
+    scene.journal().keep(scene.requirements);
     const engine::Units units = scene.units();
     ReadResult result = readInto(scene, text.value, std::filesystem::absolute(file).string(), options);
     scene.units() = units;

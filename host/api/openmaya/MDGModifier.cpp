@@ -13,7 +13,7 @@
 #include "support/plugCall.h"
 #include "support/plugUnits.h"
 
-#include <memory>
+#include <string>
 
 using namespace tvxhost::api;
 using tvxhost::engine::Attribute;
@@ -37,11 +37,6 @@ MStatus wrongKind(const MObject& object)
     return object.isNull() ? nullArgument() : failure(StatusText::objectIsIncompatible);
 }
 
-MStatus cannotTakeBack(const char* function)
-{
-    return notImplemented((std::string("Undoing ") + function).c_str());
-}
-
 Plug plugOf(const MObject& node, const MObject& attribute)
 {
     Node* n = nodeOf(node);
@@ -49,63 +44,38 @@ Plug plugOf(const MObject& node, const MObject& attribute)
     return n && a ? Plug(*n, *a) : Plug();
 }
 
-/// Connects, unless just these two are connected already: then nothing is done, and nothing to take back.
-Modifier::Operation connectOperation(const Plug& source, const Plug& destination)
+/// Connects, unless just these two are connected already.
+MStatus connectPair(const Plug& source, const Plug& destination)
 {
-    const auto made = std::make_shared<bool>(false);
-    return {[=] {
-                const auto connected = Scene::current().connect(source, destination);
-                *made = connected.reason == Reason::none;
-                return connected.reason == Reason::sameConnection ? MStatus() : plugStatus(connected);
-            },
-            [=] { return *made ? plugStatus(Scene::current().disconnect(source, destination)) : MStatus(); }};
+    const auto connected = Scene::current().connect(source, destination);
+    return connected.reason == Reason::sameConnection ? MStatus() : plugStatus(connected);
 }
 
-Modifier::Operation disconnectOperation(const Plug& source, const Plug& destination)
+MStatus disconnectPair(const Plug& source, const Plug& destination)
 {
-    const auto swapped = std::make_shared<bool>(false);
-    return {[=] {
-                auto disconnected = Scene::current().disconnect(source, destination);
-                *swapped = !disconnected && !isDisconnectStrict();
-                if (*swapped)
-                    disconnected = Scene::current().disconnect(destination, source);
-                return plugStatus(disconnected);
-            },
-            [=] {
-                return plugStatus(*swapped ? Scene::current().connect(destination, source)
-                                           : Scene::current().connect(source, destination));
-            }};
+    const auto disconnected = Scene::current().disconnect(source, destination);
+    return plugStatus(disconnected || isDisconnectStrict()
+                          ? disconnected
+                          : Scene::current().disconnect(destination, source));
 }
 
 MStatus queuePair(Modifier& modifier, const Plug& first, const Plug& second,
-                  Modifier::Operation (*make)(const Plug&, const Plug&))
+                  MStatus (*change)(const Plug&, const Plug&))
 {
     if (first.isNull() || second.isNull())
         return nullArgument();
-    modifier.queue.push_back(make(first, second));
+    modifier.queue([=] { return change(first, second); });
     return MS::kSuccess;
 }
 
-Modifier::Operation addOperation(const Ref<Node>& node, const Ref<Attribute>& attribute)
-{
-    return {[=] { return plugStatus(node->addDynamicAttribute(attribute)); },
-            [=] { return plugStatus(node->removeDynamicAttribute(*attribute)); }};
-}
-
-Modifier::Operation removeOperation(const Ref<Node>& node, const Ref<Attribute>& attribute)
-{
-    return {[=] { return plugStatus(node->removeDynamicAttribute(*attribute)); },
-            [] { return cannotTakeBack("MDGModifier::removeAttribute"); }};
-}
-
 MStatus queueChangeOf(Modifier& modifier, const MObject& node, const MObject& attribute,
-                      Modifier::Operation (*make)(const Ref<Node>&, const Ref<Attribute>&))
+                      MStatus (*change)(Node&, const Ref<Attribute>&))
 {
     const Ref<Node> target(nodeOf(node));
     const Ref<Attribute> changed(attributeOf(attribute));
     if (!target || !changed)
         return wrongKind(target ? attribute : node);
-    modifier.queue.push_back(make(target, changed));
+    modifier.queue([=] { return change(*target, changed); });
     return MS::kSuccess;
 }
 
@@ -116,12 +86,7 @@ MStatus queueNumber(Modifier& modifier, const char* name, const MPlug& plug, con
     const Plug p = tvxAccess::plug(plug);
     if (p.isNull())
         return nullArgument();
-    const auto before = std::make_shared<Number>();
-    modifier.queue.push_back({[=] {
-                                  *before = tvxhost::engine::readNumber(p).value;
-                                  return plugStatus(tvxhost::engine::writeNumber(p, stored));
-                              },
-                              [=] { return plugStatus(tvxhost::engine::writeNumber(p, *before)); }});
+    modifier.queue([=] { return plugStatus(tvxhost::engine::writeNumber(p, stored)); });
     return MS::kSuccess;
 }
 
@@ -131,17 +96,17 @@ MStatus queueCallersNumber(Modifier& modifier, const char* name, const MPlug& pl
     return queueNumber(modifier, name, plug, toStored(tvxAccess::plug(plug), numberFrom(value)));
 }
 
-MStatus setLocked(const Ref<Node>& node, bool locked)
+/// Queues a change of a node, which is to be alive when it is done.
+template <class Change>
+MStatus queueNodeChange(Modifier& modifier, const MObject& node, Change change)
 {
-    if (!node->isAlive())
-        return failure(StatusText::objectDoesNotExist);
-    node->isLockedNode = locked;
+    const Ref<Node> target(nodeOf(node));
+    if (!target)
+        return wrongKind(node);
+    modifier.queue([target, change] {
+        return target->isAlive() ? change(*target) : failure(StatusText::objectDoesNotExist);
+    });
     return MS::kSuccess;
-}
-
-MStatus renameTo(const Ref<Node>& node, const std::string& name)
-{
-    return plugStatus(Scene::current().rename(*node, name).outcome);
 }
 
 } // namespace
@@ -151,25 +116,14 @@ namespace tvxhost::api {
 MObject queueNewNode(Modifier& modifier, engine::NodeType& type, engine::DagNode* parent,
                      MStatus* returnStatus)
 {
-    const engine::Ref<engine::Node> parentNode(parent);
-    const auto made = std::make_shared<engine::Ref<engine::Node>>();
-    const auto create = [&type, parentNode, made] {
-        const auto created = createNode(&type, {}, parentNode ? parentNode->asDag() : nullptr);
-        *made = engine::Ref<engine::Node>(created.value);
-        return toStatus(created.outcome);
-    };
     // The caller is owed a node now, so it is there before doIt is, and goes when doIt never comes.
-    const MStatus status = create();
-    give(returnStatus, status);
-    if (!status)
-        return MObject();
-    const auto remove = [made] { return toStatus(engine::Scene::current().deleteNode(**made)); };
-    modifier.queue.push_back({[made, create] { return (*made)->isAlive() ? MStatus() : create(); }, remove,
-                              [made, remove] {
-                                  if ((*made)->isAlive())
-                                      remove();
-                              }});
-    return tvxAccess::handle(made->get());
+    MObject made;
+    give(returnStatus, modifier.queueMade([&] {
+        const auto created = createNode(&type, {}, parent);
+        made = created ? tvxAccess::handle(created.value) : MObject();
+        return toStatus(created.outcome);
+    }));
+    return made;
 }
 
 } // namespace tvxhost::api
@@ -228,43 +182,25 @@ MObject MDGModifier::createNode(const MString& type, MStatus* ReturnStatus)
 MStatus MDGModifier::deleteNode(const MObject& node)
 {
     TVX_API_CALL("MDGModifier::deleteNode");
-    const Ref<Node> target(nodeOf(node));
-    if (!target)
-        return wrongKind(node);
-    modifier->queue.push_back({[=] { return plugStatus(Scene::current().deleteNode(*target)); },
-                               [] { return cannotTakeBack("MDGModifier::deleteNode"); }});
-    return MS::kSuccess;
+    return queueNodeChange(*modifier, node,
+                           [](Node& target) { return plugStatus(Scene::current().deleteNode(target)); });
 }
 
 MStatus MDGModifier::renameNode(const MObject& node, const MString& newName)
 {
     TVX_API_CALL("MDGModifier::renameNode");
-    const Ref<Node> target(nodeOf(node));
-    if (!target)
-        return wrongKind(node);
-    const auto before = std::make_shared<std::string>();
-    const std::string name = tvxAccess::text(newName);
-    modifier->queue.push_back({[=] {
-                                   *before = target->name();
-                                   return renameTo(target, name);
-                               },
-                               [=] { return renameTo(target, *before); }});
-    return MS::kSuccess;
+    return queueNodeChange(*modifier, node, [name = tvxAccess::text(newName)](Node& target) {
+        return plugStatus(Scene::current().rename(target, name).outcome);
+    });
 }
 
 MStatus MDGModifier::setNodeLockState(const MObject& node, bool newState)
 {
     TVX_API_CALL("MDGModifier::setNodeLockState");
-    const Ref<Node> target(nodeOf(node));
-    if (!target)
-        return wrongKind(node);
-    const auto before = std::make_shared<bool>();
-    modifier->queue.push_back({[=] {
-                                   *before = target->isLockedNode;
-                                   return setLocked(target, newState);
-                               },
-                               [=] { return setLocked(target, *before); }});
-    return MS::kSuccess;
+    return queueNodeChange(*modifier, node, [newState](Node& target) {
+        target.setLocked(newState);
+        return MStatus();
+    });
 }
 
 // Connections
@@ -272,28 +208,27 @@ MStatus MDGModifier::setNodeLockState(const MObject& node, bool newState)
 MStatus MDGModifier::connect(const MPlug& source, const MPlug& dest)
 {
     TVX_API_CALL("MDGModifier::connect");
-    return queuePair(*modifier, tvxAccess::plug(source), tvxAccess::plug(dest), connectOperation);
+    return queuePair(*modifier, tvxAccess::plug(source), tvxAccess::plug(dest), connectPair);
 }
 
 MStatus MDGModifier::connect(const MObject& sourceNode, const MObject& sourceAttr, const MObject& destNode,
                              const MObject& destAttr)
 {
     TVX_API_CALL("MDGModifier::connect");
-    return queuePair(*modifier, plugOf(sourceNode, sourceAttr), plugOf(destNode, destAttr), connectOperation);
+    return queuePair(*modifier, plugOf(sourceNode, sourceAttr), plugOf(destNode, destAttr), connectPair);
 }
 
 MStatus MDGModifier::disconnect(const MPlug& source, const MPlug& dest)
 {
     TVX_API_CALL("MDGModifier::disconnect");
-    return queuePair(*modifier, tvxAccess::plug(source), tvxAccess::plug(dest), disconnectOperation);
+    return queuePair(*modifier, tvxAccess::plug(source), tvxAccess::plug(dest), disconnectPair);
 }
 
 MStatus MDGModifier::disconnect(const MObject& sourceNode, const MObject& sourceAttr, const MObject& destNode,
                                 const MObject& destAttr)
 {
     TVX_API_CALL("MDGModifier::disconnect");
-    return queuePair(*modifier, plugOf(sourceNode, sourceAttr), plugOf(destNode, destAttr),
-                     disconnectOperation);
+    return queuePair(*modifier, plugOf(sourceNode, sourceAttr), plugOf(destNode, destAttr), disconnectPair);
 }
 
 // Attributes
@@ -301,13 +236,17 @@ MStatus MDGModifier::disconnect(const MObject& sourceNode, const MObject& source
 MStatus MDGModifier::addAttribute(const MObject& node, const MObject& attribute)
 {
     TVX_API_CALL("MDGModifier::addAttribute");
-    return queueChangeOf(*modifier, node, attribute, addOperation);
+    return queueChangeOf(*modifier, node, attribute, [](Node& target, const Ref<Attribute>& added) {
+        return plugStatus(target.addDynamicAttribute(added));
+    });
 }
 
 MStatus MDGModifier::removeAttribute(const MObject& node, const MObject& attribute)
 {
     TVX_API_CALL("MDGModifier::removeAttribute");
-    return queueChangeOf(*modifier, node, attribute, removeOperation);
+    return queueChangeOf(*modifier, node, attribute, [](Node& target, const Ref<Attribute>& removed) {
+        return plugStatus(target.removeDynamicAttribute(*removed));
+    });
 }
 
 MStatus MDGModifier::addAttribute(const MObject& node, const MObject& attribute,
@@ -341,14 +280,12 @@ MStatus MDGModifier::unlinkExtensionAttributeFromPlugin(const MObject&, const MO
 MStatus MDGModifier::commandToExecute(const MString& command)
 {
     TVX_API_CALL("MDGModifier::commandToExecute");
-    const std::string script = tvxAccess::text(command);
-    modifier->queue.push_back({[=] {
-                                   auto* runner = Scene::current().scriptRunner;
-                                   tvxhost::engine::ScriptRunner::Result result;
-                                   const bool ran = runner && runner->run(script, false, true, result);
-                                   return ran ? MStatus() : failure(StatusText::unexpectedFailure);
-                               },
-                               [] { return cannotTakeBack("MDGModifier::commandToExecute"); }});
+    modifier->queue([script = tvxAccess::text(command)] {
+        auto* runner = Scene::current().scriptRunner;
+        tvxhost::engine::ScriptRunner::Result result;
+        const bool ran = runner && runner->run(script, false, true, result);
+        return ran ? MStatus() : failure(StatusText::unexpectedFailure);
+    });
     return MS::kSuccess;
 }
 
@@ -366,17 +303,7 @@ MStatus MDGModifier::newPlugValue(const MPlug& plug, MObject& plugValue)
     const Ref<Data> value(dataOf(plugValue));
     if (p.isNull() || !value)
         return p.isNull() ? nullArgument() : wrongKind(plugValue);
-    const auto before = std::make_shared<Ref<Data>>();
-    modifier->queue.push_back(
-        {[=] {
-             const Ref<Data> old = tvxhost::engine::readData(p).value;
-             *before = old ? old->clone() : old;
-             return plugStatus(tvxhost::engine::writeData(p, *value));
-         },
-         [=] {
-             return *before ? plugStatus(tvxhost::engine::writeData(p, **before))
-                            : cannotTakeBack("MDGModifier::newPlugValue on a plug that held no data");
-         }});
+    modifier->queue([=] { return plugStatus(tvxhost::engine::writeData(p, *value)); });
     return MS::kSuccess;
 }
 
@@ -419,13 +346,8 @@ MStatus MDGModifier::newPlugValueString(const MPlug& plug, const MString& plugVa
     const Plug p = tvxAccess::plug(plug);
     if (p.isNull())
         return nullArgument();
-    const std::string text = tvxAccess::text(plugValue);
-    const auto before = std::make_shared<std::string>();
-    modifier->queue.push_back({[=] {
-                                   *before = tvxhost::engine::readString(p).value;
-                                   return plugStatus(tvxhost::engine::writeString(p, text));
-                               },
-                               [=] { return plugStatus(tvxhost::engine::writeString(p, *before)); }});
+    modifier->queue(
+        [p, text = tvxAccess::text(plugValue)] { return plugStatus(tvxhost::engine::writeString(p, text)); });
     return MS::kSuccess;
 }
 
@@ -435,12 +357,10 @@ MStatus MDGModifier::removeMultiInstance(const MPlug& plug, bool breakConnection
     const Plug element = tvxAccess::plug(plug);
     if (element.isNull() || !element.isElement())
         return element.isNull() ? nullArgument() : failure(StatusText::objectIsIncompatible);
-    modifier->queue.push_back(
-        {[=] {
-             if (!breakConnections && tvxhost::engine::isConnected(element))
-                 return failure(StatusText::unexpectedFailure);
-             return plugStatus(tvxhost::engine::removeElement(element.array(), element.logicalIndex()));
-         },
-         [] { return cannotTakeBack("MDGModifier::removeMultiInstance"); }});
+    modifier->queue([=] {
+        if (!breakConnections && tvxhost::engine::isConnected(element))
+            return failure(StatusText::unexpectedFailure);
+        return plugStatus(tvxhost::engine::removeElement(element.array(), element.logicalIndex()));
+    });
     return MS::kSuccess;
 }

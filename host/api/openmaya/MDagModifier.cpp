@@ -8,7 +8,6 @@
 
 using namespace tvxhost::api;
 using tvxhost::engine::DagNode;
-using tvxhost::engine::Node;
 using tvxhost::engine::NodeType;
 using tvxhost::engine::Ref;
 using tvxhost::engine::Scene;
@@ -61,17 +60,13 @@ MStatus MDagModifier::reparentNode(const MObject& node, const MObject& newParent
     DagNode* target = dagNodeOf(newParent);
     if (!target && !newParent.isNull())
         return failure(StatusText::objectIsIncompatible);
-    const Ref<Node> child(moved);
-    const Ref<Node> to(target);
-    const Ref<Node> from(moved->parents().front());
-    const auto move = [child](const Ref<Node>& source, const Ref<Node>& destination) {
+    const Ref<DagNode> child(moved);
+    const Ref<DagNode> to(target);
+    const Ref<DagNode> from(moved->parents().front());
+    tvxAccess::modifier(*this).queue([=] {
         if (!child->isAlive())
             return failure(StatusText::objectDoesNotExist);
-        return toStatus(Scene::current().reparent(*child->asDag(), source->asDag(),
-                                                  destination ? destination->asDag() : nullptr));
-    };
-    const Ref<Node> world(&Scene::current().world());
-    tvxAccess::modifier(*this).queue.push_back(
-        {[=] { return move(from, to); }, [=] { return move(to ? to : world, from); }});
+        return toStatus(Scene::current().reparent(*child, from.get(), to.get()));
+    });
     return MS::kSuccess;
 }

@@ -80,6 +80,38 @@ MStatus declareAttributes(NodeType& type, MInitializeFunction initialize)
     return initialize();
 }
 
+/// A command that ran and that can be undone. It lives as long as undo can come back to it.
+class CommandEdit final : public tvxhost::engine::Edit
+{
+public:
+    explicit CommandEdit(std::unique_ptr<MPxCommand> command, std::string name)
+        : m_command(std::move(command)), m_name(std::move(name))
+    {
+    }
+    void undo() override { call(&MPxCommand::undoIt); }
+    void redo() override { call(&MPxCommand::redoIt); }
+    bool isOf(const std::string& plugin) const override
+    {
+        const auto& all = sessionScene().pluginCommands;
+        const auto found = all.find(m_name);
+        return found != all.end() && found->second.plugin == plugin;
+    }
+
+private:
+    void call(MStatus (MPxCommand::*member)()) const
+    {
+        auto& editor = sessionScene().scriptEditor();
+        const RunningCommands running(m_name);
+        const int errorsBefore = editor.errors();
+        const MStatus status = (m_command.get()->*member)();
+        if (!status && editor.errors() == errorsBefore)
+            editor.error(describe(status));
+    }
+
+    std::unique_ptr<MPxCommand> m_command;
+    std::string m_name;
+};
+
 /// What a plug-in gives to register a command.
 struct CommandFactory
 {
@@ -95,7 +127,7 @@ bool CommandFactory::run(const std::vector<ScriptRunner::Result>& arguments,
                          ScriptRunner::Result& result) const
 {
     auto& editor = sessionScene().scriptEditor();
-    const std::unique_ptr<MPxCommand> command(static_cast<MPxCommand*>(creator()));
+    std::unique_ptr<MPxCommand> command(static_cast<MPxCommand*>(creator()));
     if (!command) {
         editor.error("Cannot make the command " + name);
         return false;
@@ -108,10 +140,16 @@ bool CommandFactory::run(const std::vector<ScriptRunner::Result>& arguments,
     tvxAccess::arguments(list) = argumentsOf(arguments);
     const RunningCommands running(name);
     const int errorsBefore = editor.errors();
-    const MStatus status = command->doIt(list);
+    const MStatus status = [&] {
+        // What it edits itself it takes back itself.
+        const tvxhost::engine::Journal::Into nothing(sessionScene().journal(), nullptr);
+        return command->doIt(list);
+    }();
     if (!status && editor.errors() == errorsBefore)
         editor.error(describe(status));
     result = RunningCommands::current();
+    if (status && command->isUndoable())
+        sessionScene().journal().record(std::make_unique<CommandEdit>(std::move(command), name));
     return status;
 }
 

@@ -172,6 +172,7 @@ PluginResult PluginLoader::unload(const std::string& nameOrPath, bool force)
 Outcome PluginLoader::stop(Plugin& plugin)
 {
     // Their code must be gone before the library is.
+    m_scene.journal().flushCodeOf(plugin.name);
     for (engine::NodeType* type : nodeTypes(plugin))
         m_scene.makeUnknown(*type);
     if (!call(plugin.m_library->uninitialize(), plugin))
@@ -219,7 +220,7 @@ bool PluginLoader::isInUse(const Plugin& plugin) const
 {
     const auto types = nodeTypes(plugin);
     return std::any_of(types.begin(), types.end(),
-                       [](const engine::NodeType* type) { return type->liveNodes > 0; });
+                       [](const engine::NodeType* type) { return type->liveNodes + type->waitingNodes > 0; });
 }
 
 Outcome PluginLoader::rename(Plugin& plugin, const std::string& wish, bool makeUnique)

@@ -1,12 +1,14 @@
-// What stands behind a MDGModifier: operations in a queue, done and undone in order.
+// What stands behind a MDGModifier: changes in a queue, and the edits of those that were made.
 #pragma once
 
 #include "status.h"
 
+#include "engine/journal.h"
+
 #include <maya/MTypes.h>
 
-#include <cstddef>
 #include <functional>
+#include <memory>
 #include <vector>
 
 namespace tvxhost::api {
@@ -16,34 +18,44 @@ namespace tvxhost::api {
 OPENMAYA_EXPORT void setStrictDisconnect(bool strict);
 OPENMAYA_EXPORT bool isDisconnectStrict();
 
+/// Copies share what was done: taking it back with one takes it back for all.
 struct Modifier
 {
-    /// One change; `revert` is only called after `perform` succeeded, and `perform` again only after
-    /// `revert`.
-    struct Operation
-    {
-        std::function<MStatus()> perform;
-        std::function<MStatus()> revert;
-        /// Called when the operation is forgotten without being done; may be empty.
-        std::function<void()> discard = nullptr;
-    };
+    /// Makes a change of the current scene.
+    using Change = std::function<MStatus()>;
 
-    Modifier() = default;
+    Modifier();
     Modifier(const Modifier&) = default;
     Modifier& operator=(const Modifier&) = default;
-    ~Modifier() { forgetRest(); }
+    ~Modifier();
 
-    /// Does what is queued and not done yet. When an operation fails, those before it stay done, and it is
-    /// forgotten with all that follow.
+    /// Does nothing yet.
+    void queue(Change change);
+    /// Makes a change now that counts as queued: doIt keeps it, and forgetting it takes it back.
+    MStatus queueMade(const Change& change);
+
+    /// Does again what undoIt took back, then what is queued. When a change fails, those before it stay, and
+    /// it is forgotten with all that follow.
     MStatus doIt();
-    /// Takes back what was done, last first.
+    /// Takes back what was done.
     MStatus undoIt();
 
-    std::vector<Operation> queue;
-    std::size_t done = 0; ///< how many of them, from the front
-
 private:
-    void forgetRest();
+    struct Queued
+    {
+        Change change;                      ///< empty for what is made already
+        std::shared_ptr<engine::Step> made; ///< its edits
+    };
+    struct Done
+    {
+        engine::Step edits;
+        bool isTakenBack = false;
+    };
+    static MStatus perform(const Change& change, engine::Step& edits);
+    void forgetQueue();
+
+    std::vector<Queued> m_queue;
+    std::shared_ptr<Done> m_done;
 };
 
 } // namespace tvxhost::api

@@ -8,8 +8,8 @@
 
 namespace tvxhost::api {
 
-/// Makes a node and queues its making: the node exists from now on, undoIt deletes it, and doIt after that
-/// makes another.
+/// Makes a node and queues its making: the node exists from now on, undoIt takes it away, and doIt after that
+/// brings it back.
 MObject queueNewNode(Modifier& modifier, engine::NodeType& type, engine::DagNode* parent,
                      MStatus* returnStatus);
 

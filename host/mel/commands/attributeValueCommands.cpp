@@ -217,7 +217,8 @@ Value stateValue(const Plug& plug, const ParsedCommand& call)
 class AtTime
 {
 public:
-    AtTime(engine::Scene& scene, double seconds) : m_scene(scene), m_before(scene.time())
+    AtTime(engine::Scene& scene, double seconds)
+        : m_scene(scene), m_notEdited(scene.journal(), nullptr), m_before(scene.time())
     {
         scene.setTime(seconds);
     }
@@ -227,6 +228,7 @@ public:
 
 private:
     engine::Scene& m_scene;
+    engine::Journal::Into m_notEdited;
     double m_before;
 };
 

@@ -207,6 +207,8 @@ Value fileInfo(CommandContext& context, const ParsedCommand& call)
     const auto findKey = [&](const std::string& key) {
         return std::find_if(all.begin(), all.end(), [&](const auto& entry) { return entry.first == key; });
     };
+    if (!call.queries())
+        sceneOf(context).journal().keep(all);
     if (call.has("remove")) {
         if (const auto entry = findKey(call.string("remove")); entry != all.end())
             all.erase(entry);

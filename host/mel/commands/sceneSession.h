@@ -35,6 +35,7 @@ public:
     explicit SceneSession(engine::Scene& scene, api::PluginLoader* plugins = nullptr);
 
     engine::Scene& scene() const { return m_scene; }
+    engine::Journal* journal() override { return &m_scene.journal(); }
     api::PluginLoader* plugins() const { return m_plugins; }
     InterfaceTree& interface() { return m_interface; }
 

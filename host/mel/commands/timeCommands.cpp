@@ -46,6 +46,7 @@ Value currentUnit(CommandContext& context, const ParsedCommand& call)
     engine::Units& units = sceneOf(context).units();
     if (call.queries())
         return unitName(units, call);
+    sceneOf(context).journal().keep(units);
     change(context, call, "linear", units.linear, engine::linearUnitNamed);
     change(context, call, "angle", units.angle, engine::angularUnitNamed);
     change(context, call, "time", units.time, engine::timeUnitNamed);
@@ -130,6 +131,7 @@ Value playbackOptions(CommandContext& context, const ParsedCommand& call)
     if (call.queries())
         return queryPlayback(context, call);
     Playback& playback = sceneOf(context).playback();
+    sceneOf(context).journal().keep(playback);
     for (const RangeEnd& end : kRangeEnds)
         if (const FlagUse* use = call.use(end.longName))
             (playback.*end.set)(toInternal(context, use->arguments.front(), ArgumentType::time));

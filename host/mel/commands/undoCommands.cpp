@@ -1,26 +1,119 @@
-// Undo: its switches are taken, undoing itself is refused.
+// Undo: undo, redo, undoInfo, flushUndo.
 #include "commandSupport.h"
 #include "sceneCommands.h"
+
+#include "engine/scriptEditor.h"
 
 namespace tvxhost::mel {
 
 namespace {
 
-Value undoInfo(CommandContext&, const ParsedCommand& call)
+using engine::Journal;
+
+Journal& journalOf(const CommandContext& context)
 {
-    // Nothing is recorded, so every query of the state answers off.
-    return call.queries() ? Value(call.has("undoName") || call.has("redoName") ? Value("") : Value(0))
-                          : Value();
+    return sceneOf(context).journal();
 }
 
-Value flushUndo(CommandContext&, const ParsedCommand&)
+std::string nameOfLast(const std::deque<engine::Step>& steps)
 {
+    return steps.empty() ? std::string() : steps.back().name;
+}
+
+void printQueue(const CommandContext& context)
+{
+    std::string text;
+    std::size_t number = 0;
+    for (const engine::Step& step : journalOf(context).undoable())
+        text += std::to_string(++number) + ": " + step.name + "\n";
+    context.editor().print(text);
+}
+
+/// What `undoInfo -query` answers, by flag.
+struct UndoQuestion
+{
+    const char* flag;
+    Value (*answer)(const CommandContext& context, const Journal& journal);
+};
+
+const UndoQuestion kQuestions[] = {
+    {"state", [](const CommandContext&, const Journal& journal) { return Value(journal.isOn()); }},
+    {"stateWithoutFlush",
+     [](const CommandContext&, const Journal& journal) { return Value(journal.isOn()); }},
+    {"infinity", [](const CommandContext&, const Journal& journal) { return Value(journal.isInfinite); }},
+    {"length",
+     [](const CommandContext&, const Journal& journal) { return Value(static_cast<int>(journal.length())); }},
+    {"chunkName", [](const CommandContext&, const Journal& journal) { return Value(journal.runningName()); }},
+    {"undoName",
+     [](const CommandContext&, const Journal& journal) { return Value(nameOfLast(journal.undoable())); }},
+    {"redoName",
+     [](const CommandContext&, const Journal& journal) { return Value(nameOfLast(journal.redoable())); }},
+    {"undoQueueEmpty",
+     [](const CommandContext&, const Journal& journal) { return Value(journal.undoable().empty()); }},
+    {"redoQueueEmpty",
+     [](const CommandContext&, const Journal& journal) { return Value(journal.redoable().empty()); }},
+    {"printQueue",
+     [](const CommandContext& context, const Journal&) {
+         printQueue(context);
+         return Value();
+     }},
+};
+
+Value queryUndo(const CommandContext& context, const ParsedCommand& call)
+{
+    const Journal& journal = journalOf(context);
+    for (const UndoQuestion& question : kQuestions)
+        if (call.has(question.flag))
+            return question.answer(context, journal);
+    return Value(static_cast<int>(journal.undoable().size()));
+}
+
+Value undoInfo(CommandContext& context, const ParsedCommand& call)
+{
+    if (call.queries())
+        return queryUndo(context, call);
+    Journal& journal = journalOf(context);
+    if (call.has("infinity"))
+        journal.isInfinite = call.boolean("infinity");
+    if (call.has("length")) {
+        if (call.integer("length") < 0)
+            context.fail("undoInfo: the length is less than 0");
+        journal.setLength(static_cast<std::size_t>(call.integer("length")));
+    }
+    if (call.has("stateWithoutFlush"))
+        journal.setOn(call.boolean("stateWithoutFlush"));
+    if (call.has("state")) {
+        journal.setOn(call.boolean("state"));
+        if (!journal.isOn())
+            journal.flush();
+    }
+    if (call.has("openChunk"))
+        journal.openChunk(call.string("chunkName"));
+    if (call.has("closeChunk"))
+        journal.closeChunk();
     return {};
 }
 
-Value refused(CommandContext& context, const ParsedCommand&)
+Value flushUndo(CommandContext& context, const ParsedCommand&)
 {
-    context.fail("'" + context.command() + "' is not implemented: edits cannot be taken back");
+    journalOf(context).flush();
+    return {};
+}
+
+Value undo(CommandContext& context, const ParsedCommand&)
+{
+    if (!journalOf(context).undo())
+        context.fail("There are no more commands to undo.");
+    context.editor().info("Undo: " + nameOfLast(journalOf(context).redoable()));
+    return {};
+}
+
+Value redo(CommandContext& context, const ParsedCommand&)
+{
+    if (!journalOf(context).redo())
+        context.fail("There are no more commands to redo.");
+    context.editor().info("Redo: " + nameOfLast(journalOf(context).undoable()));
+    return {};
 }
 
 } // namespace
@@ -29,21 +122,25 @@ void registerUndoCommands(CommandTable& table)
 {
     using A = ArgumentType;
     table.add({
-        makeCommand("undoInfo", "Switches the recording of edits",
-                    {valueFlag("st", "state", A::boolean, "on or off", kCreateQuery),
-                     valueFlag("swf", "stateWithoutFlush", A::boolean, "the same, keeping what is recorded",
-                               kCreateQuery),
-                     valueFlag("in", "infinity", A::boolean, "without a limit", kCreateQuery),
-                     valueFlag("l", "length", A::integer, "how many edits are kept", kCreateQuery),
-                     switchFlag("ock", "openChunk", "what follows is one edit"),
-                     switchFlag("cck", "closeChunk", "ends it"),
-                     valueFlag("cn", "chunkName", A::string, "its name", kCreateQuery),
-                     switchFlag("un", "undoName", "what undo would take back", kQuery),
-                     switchFlag("rn", "redoName", "what redo would do again", kQuery)},
-                    noArguments(), undoInfo, kQuery),
-        makeCommand("flushUndo", "Forgets the recorded edits", {}, noArguments(), flushUndo),
-        makeCommand("undo", "Takes the last edit back", {}, noArguments(), refused),
-        makeCommand("redo", "Does an edit again", {}, noArguments(), refused),
+        makeCommand(
+            "undoInfo", "Switches the recording of edits, and makes one step of several",
+            {valueFlag("st", "state", A::boolean, "on or off; off forgets what was recorded", kCreateQuery),
+             valueFlag("swf", "stateWithoutFlush", A::boolean, "the same, keeping what was recorded",
+                       kCreateQuery),
+             valueFlag("in", "infinity", A::boolean, "whether steps are kept without a limit", kCreateQuery),
+             valueFlag("l", "length", A::integer, "how many steps are kept", kCreateQuery),
+             switchFlag("ock", "openChunk", "what follows is one step"),
+             switchFlag("cck", "closeChunk", "ends it"),
+             valueFlag("cn", "chunkName", A::string, "the name of the step", kCreateQuery),
+             switchFlag("un", "undoName", "what undo would take back", kQuery),
+             switchFlag("rn", "redoName", "what redo would do again", kQuery),
+             switchFlag("uqe", "undoQueueEmpty", "whether there is nothing to take back", kQuery),
+             switchFlag("rqe", "redoQueueEmpty", "whether there is nothing to do again", kQuery),
+             switchFlag("pq", "printQueue", "prints the steps, the oldest first", kQuery)},
+            noArguments(), undoInfo, kQuery),
+        makeCommand("flushUndo", "Forgets the recorded steps", {}, noArguments(), flushUndo),
+        makeCommand("undo", "Takes the last step back", {}, noArguments(), undo),
+        makeCommand("redo", "Does again what was taken back last", {}, noArguments(), redo),
     });
 }
 

@@ -158,10 +158,4 @@ TEST_F(NodeCommandsTest, namespacesAreMadeAndSet)
     EXPECT_EQ(run("namespace -ex \"none\""), "0");
 }
 
-TEST_F(NodeCommandsTest, undoIsRefusedAloud)
-{
-    run("undoInfo -state on; flushUndo");
-    EXPECT_EQ(failure("undo"), "'undo' is not implemented: edits cannot be taken back");
-}
-
 } // namespace tvxhost::mel

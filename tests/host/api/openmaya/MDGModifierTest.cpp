@@ -168,12 +168,74 @@ TEST_F(Modifiers, ANodeThatIsNeverDoneGoesWithItsModifier)
     EXPECT_EQ(MFn::kInvalid, made.apiType());
 }
 
-TEST_F(Modifiers, DeletingCannotBeTakenBackAndSaysSo)
+TEST_F(Modifiers, TheNodeThatIsMadeAgainIsTheSame)
 {
-    modifier.deleteNode(b);
+    const MObject made = modifier.createNode("lambert");
+    modifier.renameNode(made, "paint");
     ASSERT_TRUE(modifier.doIt());
+    ASSERT_TRUE(modifier.undoIt());
+    EXPECT_FALSE(scene.findNode("paint"));
+    ASSERT_TRUE(modifier.doIt());
+    EXPECT_EQ("paint", text(MFnDependencyNode(made, nullptr).name()));
+}
+
+TEST_F(Modifiers, ADeletedNodeComesBackWithItsConnectionsAndItsHandles)
+{
+    modifier.connect(ax, bx);
+    ASSERT_TRUE(modifier.doIt());
+    by.setDouble(3.0);
+    MDGModifier deletion;
+    deletion.deleteNode(b);
+    ASSERT_TRUE(deletion.doIt());
     EXPECT_FALSE(scene.findNode("b"));
-    EXPECT_EQ(MS::kNotImplemented, modifier.undoIt().statusCode());
+    EXPECT_FALSE(ax.isConnected());
+    ASSERT_TRUE(deletion.undoIt());
+    EXPECT_EQ("b", text(MFnDependencyNode(b, nullptr).name()));
+    EXPECT_EQ(3.0, by.asDouble());
+    EXPECT_TRUE(bx.isDestination());
+    ASSERT_TRUE(deletion.doIt());
+    EXPECT_FALSE(scene.findNode("b"));
+}
+
+TEST_F(Modifiers, ARemovedAttributeComesBackWithItsValue)
+{
+    const MObject extra = MFnNumericAttribute().create("extra", "ex", MFnNumericData::kInt);
+    MFnDependencyNode(a, nullptr).addAttribute(extra);
+    plug(a, "extra").setInt(7);
+    modifier.removeAttribute(a, extra);
+    ASSERT_TRUE(modifier.doIt());
+    EXPECT_FALSE(MFnDependencyNode(a, nullptr).hasAttribute("extra"));
+    ASSERT_TRUE(modifier.undoIt());
+    EXPECT_EQ(7, plug(a, "extra").asInt());
+}
+
+TEST_F(Modifiers, ARemovedElementComesBack)
+{
+    MFnNumericAttribute list;
+    const MObject extra = list.create("list", "li", MFnNumericData::kInt);
+    list.setArray(true);
+    MFnDependencyNode(a, nullptr).addAttribute(extra);
+    const MPlug element = plug(a, "list").elementByLogicalIndex(5);
+    MPlug(element).setInt(9);
+    modifier.removeMultiInstance(element, true);
+    ASSERT_TRUE(modifier.doIt());
+    EXPECT_EQ(0u, plug(a, "list").numElements());
+    ASSERT_TRUE(modifier.undoIt());
+    EXPECT_EQ(1u, plug(a, "list").numElements());
+    EXPECT_EQ(9, element.asInt());
+}
+
+TEST_F(Modifiers, WhatAModifierDoesIsInNoStepOfUndo)
+{
+    scene.journal().setOn(true);
+    {
+        const tvxhost::engine::Journal::Command command(scene.journal(), "command");
+        modifier.newPlugValueDouble(ax, 4.0);
+        ASSERT_TRUE(modifier.doIt());
+    }
+    EXPECT_TRUE(scene.journal().undoable().empty());
+    ASSERT_TRUE(modifier.undoIt());
+    EXPECT_EQ(0.0, ax.asDouble());
 }
 
 TEST_F(Modifiers, AttributesAndLocksAreUndone)

@@ -2,8 +2,12 @@
 #include "../nodeFixture.h"
 
 #include <maya/MArgList.h>
+#include <maya/MDGModifier.h>
 #include <maya/MDoubleArray.h>
+#include <maya/MFnDependencyNode.h>
+#include <maya/MGlobal.h>
 #include <maya/MIntArray.h>
+#include <maya/MPlug.h>
 #include <maya/MPxCommand.h>
 #include <maya/MStringArray.h>
 #include <maya/MSyntax.h>
@@ -41,6 +45,33 @@ public:
         return what == "fail" ? MS::kFailure : MS::kSuccess;
     }
 };
+
+/// Adds one to a plug, as the guides have it: doIt prepares, redoIt does, undoIt takes back.
+class Raise : public MPxCommand
+{
+public:
+    static int alive;
+
+    static void* create() { return new Raise; }
+    Raise() { ++alive; }
+    ~Raise() override { --alive; }
+    bool isUndoable() const override { return m_isUndoable; }
+    MStatus doIt(const MArgList& args) override
+    {
+        const auto found = tvxhost::engine::Scene::current().findPlug(tvxAccess::text(args.asString(0)));
+        m_plug = tvxAccess::plug(found.value);
+        m_isUndoable = args.length() == 1;
+        return redoIt();
+    }
+    MStatus redoIt() override { return m_plug.setDouble(m_plug.asDouble() + 1.0); }
+    MStatus undoIt() override { return m_plug.setDouble(m_plug.asDouble() - 1.0); }
+
+private:
+    MPlug m_plug;
+    bool m_isUndoable = true;
+};
+
+int Raise::alive = 0;
 
 class PxCommands : public NodeFixture
 {
@@ -104,6 +135,90 @@ TEST_F(PxCommands, OutsideACommandThereIsNoResult)
     MStatus status;
     EXPECT_EQ(0, MPxCommand::currentIntResult(&status));
     EXPECT_FALSE(status);
+}
+
+namespace {
+
+class UndoneCommands : public PxCommands
+{
+protected:
+    UndoneCommands()
+    {
+        EXPECT_TRUE(MFnPlugin(pluginObject).registerCommand("raise", Raise::create));
+        scene.journal().setOn(true);
+    }
+
+    void raise(bool undoably)
+    {
+        const tvxhost::engine::Journal::Command step(scene.journal(), "raise");
+        std::vector<Result> arguments(undoably ? 1 : 2);
+        for (Result& argument : arguments) {
+            argument.kind = Result::Kind::string;
+            argument.strings = {"a.translateX"};
+        }
+        Result ignored;
+        EXPECT_TRUE(scene.pluginCommands.at("raise").run(arguments, ignored));
+    }
+    double value() { return MFnDependencyNode(a, nullptr).findPlug("tx", true).asDouble(); }
+
+    MObject a = make("transform", "a");
+};
+
+} // namespace
+
+TEST_F(UndoneCommands, TakeBackAndDoAgainThemselves)
+{
+    raise(true);
+    raise(true);
+    EXPECT_EQ(2.0, value());
+    ASSERT_TRUE(scene.journal().undo());
+    EXPECT_EQ(1.0, value());
+    ASSERT_TRUE(scene.journal().undo());
+    EXPECT_EQ(0.0, value());
+    ASSERT_TRUE(scene.journal().redo());
+    EXPECT_EQ(1.0, value());
+}
+
+TEST_F(UndoneCommands, LiveAsLongAsUndoCanComeBackToThem)
+{
+    raise(true);
+    EXPECT_EQ(1, Raise::alive);
+    scene.journal().flush();
+    EXPECT_EQ(0, Raise::alive);
+}
+
+TEST_F(UndoneCommands, AreGoneAtOnceWhenTheyCannotBeUndone)
+{
+    raise(false);
+    EXPECT_EQ(1.0, value());
+    EXPECT_EQ(0, Raise::alive);
+    EXPECT_TRUE(scene.journal().undoable().empty());
+}
+
+TEST_F(UndoneCommands, AreGoneAtOnceWhileUndoIsOff)
+{
+    scene.journal().setOn(false);
+    raise(true);
+    EXPECT_EQ(0, Raise::alive);
+}
+
+TEST_F(UndoneCommands, GoWithTheirPlugin)
+{
+    raise(true);
+    scene.journal().flushCodeOf("anotherPlugin");
+    EXPECT_EQ(1, Raise::alive);
+    scene.journal().flushCodeOf("testPlugin");
+    EXPECT_EQ(0, Raise::alive);
+    EXPECT_TRUE(scene.journal().undoable().empty());
+}
+
+TEST_F(UndoneCommands, SayThatTheyFailedToTakeBack)
+{
+    raise(true);
+    MPlug(MFnDependencyNode(a, nullptr).findPlug("tx", true)).setLocked(true);
+    ASSERT_TRUE(scene.journal().undo());
+    EXPECT_EQ(1u, shown(scene, tvxhost::engine::MessageKind::error).size());
+    EXPECT_EQ(1.0, value());
 }
 
 TEST(Syntax, FlagsAreDeclaredOnce)
