@@ -24,12 +24,22 @@ std::optional<int> smaller(std::optional<int> a, std::optional<int> b)
     return std::min(*a, *b);
 }
 
+/// Some places are empty: elements that have gone.
 std::optional<int> cellAfter(const Cell& array, int index)
 {
     const auto& cells = array.below();
-    const auto next =
-        std::upper_bound(cells.begin(), cells.end(), index,
-                         [](int i, const std::unique_ptr<Cell>& element) { return i < element->index(); });
+    const auto isThere = [](const std::unique_ptr<Cell>& element) { return element != nullptr; };
+    auto first = cells.begin();
+    auto last = cells.end();
+    while (first != last) {
+        const auto middle = first + (last - first) / 2;
+        const auto next = std::find_if(middle, last, isThere);
+        if (next == last || (*next)->index() > index)
+            last = middle;
+        else
+            first = next + 1;
+    }
+    const auto next = std::find_if(first, cells.end(), isThere);
     return next == cells.end() ? std::nullopt : std::optional<int>((*next)->index());
 }
 
@@ -58,9 +68,7 @@ bool hasElement(const engine::Plug& array, int index)
 std::size_t elementCount(const engine::Plug& array)
 {
     const Cell* cell = arrayCell(array);
-    if (!cell)
-        return 0;
-    return cell->below().size() + (cell->packed() ? cell->packed()->indices().size() : 0);
+    return cell ? cell->elementCount() : 0;
 }
 
 } // namespace tvxhost::api
