@@ -7,6 +7,7 @@
 #include "scene/uiUnits.h"
 
 #include <algorithm>
+#include <optional>
 
 namespace tvxhost::mel {
 
@@ -15,6 +16,77 @@ using engine::Node;
 using engine::SelectionItem;
 
 namespace {
+
+/// One question of `addAttr -q`.
+struct DeclarationQuestion
+{
+    const char* flag;
+    Value (*answer)(const Attribute& attribute, double perUi);
+};
+
+template <bool engine::AttributeFlags::*kMember>
+Value flagAnswer(const Attribute& attribute, double)
+{
+    return Value(attribute.flags.*kMember);
+}
+
+template <std::optional<double> Attribute::*kMember>
+Value limitAnswer(const Attribute& attribute, double perUi)
+{
+    return Value((attribute.*kMember).value_or(0.0) / perUi);
+}
+
+template <std::optional<double> Attribute::*kMember>
+Value hasAnswer(const Attribute& attribute, double)
+{
+    return Value((attribute.*kMember).has_value());
+}
+
+using Flags = engine::AttributeFlags;
+
+constexpr DeclarationQuestion kQuestions[] = {
+    {"defaultValue",
+     [](const Attribute& attribute, double perUi) { return Value(attribute.defaultNumber / perUi); }},
+    {"minValue", limitAnswer<&Attribute::minimum>},
+    {"maxValue", limitAnswer<&Attribute::maximum>},
+    {"softMinValue", limitAnswer<&Attribute::softMinimum>},
+    {"softMaxValue", limitAnswer<&Attribute::softMaximum>},
+    {"hasMinValue", hasAnswer<&Attribute::minimum>},
+    {"hasMaxValue", hasAnswer<&Attribute::maximum>},
+    {"hasSoftMinValue", hasAnswer<&Attribute::softMinimum>},
+    {"hasSoftMaxValue", hasAnswer<&Attribute::softMaximum>},
+    {"longName", [](const Attribute& attribute, double) { return Value(attribute.longName); }},
+    {"shortName", [](const Attribute& attribute, double) { return Value(attribute.shortName); }},
+    {"niceName", [](const Attribute& attribute, double) { return Value(attribute.niceName); }},
+    {"attributeType",
+     [](const Attribute& attribute, double) { return Value(scene::attributeTypeName(attribute)); }},
+    {"dataType",
+     [](const Attribute& attribute, double) {
+         return attribute.kind == engine::AttributeKind::typed ? Value(Value::Strings{attribute.typeName()})
+                                                               : Value(Value::Strings());
+     }},
+    {"enumName",
+     [](const Attribute& attribute, double) { return Value(scene::fieldsText(attribute.fields)); }},
+    {"parent", [](const Attribute& attribute,
+                  double) { return Value(attribute.parent ? attribute.parent->longName : std::string()); }},
+    {"numberOfChildren",
+     [](const Attribute& attribute, double) { return Value(static_cast<int>(attribute.children.size())); }},
+    {"category",
+     [](const Attribute& attribute, double) { return Value(Value::Strings(attribute.categories)); }},
+    {"disconnectBehaviour",
+     [](const Attribute& attribute, double) { return Value(attribute.disconnectBehaviour); }},
+    {"multi", flagAnswer<&Flags::array>},
+    {"indexMatters", flagAnswer<&Flags::indexMatters>},
+    {"keyable", flagAnswer<&Flags::keyable>},
+    {"hidden", flagAnswer<&Flags::hidden>},
+    {"readable", flagAnswer<&Flags::readable>},
+    {"writable", flagAnswer<&Flags::writable>},
+    {"storable", flagAnswer<&Flags::storable>},
+    {"cachedInternally", flagAnswer<&Flags::cached>},
+    {"internalSet", flagAnswer<&Flags::internal>},
+    {"usedAsColor", flagAnswer<&Flags::usedAsColor>},
+    {"usedAsFilename", flagAnswer<&Flags::usedAsFilename>},
+};
 
 /// `addAttr -q`: what a declaration says.
 Value queryDeclaration(CommandContext& context, const ParsedCommand& call)
@@ -25,27 +97,11 @@ Value queryDeclaration(CommandContext& context, const ParsedCommand& call)
     if (item.plug.isNull())
         context.fail("No attribute was specified");
     const Attribute& attribute = *item.plug.attribute();
-    const double factor = scene::internalPerUi(attribute, sceneOf(context).units());
-    if (call.has("defaultValue"))
-        return Value(attribute.defaultNumber / factor);
-    for (const auto& [flag, limit] :
-         {std::pair("minValue", attribute.minimum), std::pair("maxValue", attribute.maximum),
-          std::pair("softMinValue", attribute.softMinimum), std::pair("softMaxValue", attribute.softMaximum)})
-        if (call.has(flag))
-            return limit ? Value(*limit / factor) : Value(0.0);
-    if (call.has("longName"))
-        return Value(attribute.longName);
-    if (call.has("shortName"))
-        return Value(attribute.shortName);
-    if (call.has("niceName"))
-        return Value(attribute.niceName);
-    if (call.has("attributeType"))
-        return Value(scene::attributeTypeName(attribute));
-    if (call.has("keyable"))
-        return Value(attribute.flags.keyable);
-    if (call.has("enumName"))
-        return Value(scene::fieldsText(attribute.fields));
-    return {};
+    const double perUi = scene::internalPerUi(attribute, sceneOf(context).units());
+    for (const DeclarationQuestion& question : kQuestions)
+        if (call.has(question.flag))
+            return question.answer(attribute, perUi);
+    context.fail("addAttr: nothing was asked");
 }
 
 Value editDeclarations(CommandContext& context, const ParsedCommand& call)
@@ -98,6 +154,13 @@ CommandSpec addAttrCommand()
     for (const char* name :
          {"enumName", "defaultValue", "minValue", "maxValue", "softMinValue", "softMaxValue", "niceName"})
         flagNamed(spec, name).modes |= kEdit;
+    const std::vector<FlagSpec> questions = {
+        switchFlag("hnv", "hasMinValue", "whether it has a hard minimum", kQuery),
+        switchFlag("hxv", "hasMaxValue", "whether it has a hard maximum", kQuery),
+        switchFlag("hsn", "hasSoftMinValue", "whether it has a soft minimum", kQuery),
+        switchFlag("hsx", "hasSoftMaxValue", "whether it has a soft maximum", kQuery),
+    };
+    spec.flags.insert(spec.flags.end(), questions.begin(), questions.end());
     spec.queryable = true;
     spec.editable = true;
     spec.handler = ParsedHandler(addAttr);
@@ -118,10 +181,25 @@ void deleteAttribute(CommandContext& context, Node& node, Attribute& attribute)
         context.fail("deleteAttr: " + removed.text);
 }
 
+Value addedNames(const std::vector<SelectionItem>& items)
+{
+    Value::Strings list;
+    for (const SelectionItem& item : items)
+        for (const auto& attribute : item.node->dynamicAttributes())
+            list.push_back(attribute->longName);
+    return Value(std::move(list));
+}
+
 Value deleteAttr(CommandContext& context, const ParsedCommand& call)
 {
+    std::vector<std::string> names = call.names();
+    if (call.has("name"))
+        names.push_back(call.string("name"));
+    const std::vector<SelectionItem> items = itemsOrSelection(context, names);
+    if (call.queries())
+        return addedNames(items);
     const std::string attribute = call.string("attribute");
-    for (const SelectionItem& item : itemsOrSelection(context, call.names())) {
+    for (const SelectionItem& item : items) {
         if (attribute.empty() && item.plug.isNull())
             context.fail("deleteAttr: no attribute was specified");
         Attribute* found = attribute.empty() ? item.plug.attribute() : item.node->findAttribute(attribute);
@@ -140,7 +218,9 @@ void registerAttributeCommands(CommandTable& table)
     table.add({
         addAttrCommand(),
         makeCommand("deleteAttr", "Deletes attributes that were added to nodes",
-                    {valueFlag("at", "attribute", A::string, "the attribute's name")}, names(), deleteAttr),
+                    {valueFlag("at", "attribute", A::string, "the attribute's name"),
+                     valueFlag("n", "name", A::name, "the node")},
+                    names(), deleteAttr, kQuery),
     });
 }
 

@@ -3,6 +3,7 @@
 #include "sceneCommands.h"
 
 #include "engine/glob.h"
+#include "engine/renameAttribute.h"
 
 #include <algorithm>
 #include <cctype>
@@ -226,6 +227,24 @@ Value aliasAttr(CommandContext& context, const ParsedCommand& call)
     return {};
 }
 
+// renameAttr
+
+/// The name by which the call found the attribute is the one that it changes.
+Value renameAttr(CommandContext& context, const ParsedCommand& call)
+{
+    const std::vector<std::string> names = call.names();
+    const Plug plug = plugNamed(context, names[0]);
+    Attribute& attribute = *plug.attribute();
+    const std::string used = names[0].substr(names[0].rfind('.') + 1);
+    const bool isShort = used == attribute.shortName && used != attribute.longName;
+    const engine::Outcome renamed =
+        engine::renameAttribute(*plug.node(), attribute, names[1],
+                                isShort ? engine::AttributeName::shortName : engine::AttributeName::longName);
+    if (!renamed)
+        context.fail("renameAttr: " + renamed.text);
+    return Value(names[1]);
+}
+
 } // namespace
 
 std::string niceNameOf(const Attribute& attribute)
@@ -258,6 +277,8 @@ void registerAttributeNameCommands(CommandTable& table)
                     names(1, 1), attributeName),
         makeCommand("aliasAttr", "Gives attributes further names",
                     {switchFlag("rm", "remove", "takes the alias away")}, names(), aliasAttr, kAllModes),
+        makeCommand("renameAttr", "Gives an attribute that was added to a node another name", {}, names(2, 2),
+                    renameAttr),
     });
 }
 

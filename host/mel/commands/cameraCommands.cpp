@@ -237,7 +237,7 @@ Value lookThru(CommandContext& context, const ParsedCommand& call)
 {
     InterfaceTree& interface = sessionOf(context).interface();
     if (call.queries())
-        return Value(interface.viewCamera);
+        return Value(interface.viewCamera.empty() ? "persp" : interface.viewCamera);
     const std::vector<std::string> words = call.names();
     if (words.empty())
         context.fail("lookThru: which camera?");

@@ -72,8 +72,8 @@ public:
     InterfaceElement* currentCollection() const { return m_collection; }
     void setCurrentCollection(InterfaceElement* element) { m_collection = element; }
 
-    /// The camera that the view shows.
-    std::string viewCamera = "persp";
+    /// The camera that the view shows; empty until one is chosen: persp, or what a scene has instead.
+    std::string viewCamera;
 
 private:
     void collect(const std::vector<std::unique_ptr<InterfaceElement>>& elements, const std::string& name,

@@ -75,17 +75,26 @@ Value namespaceInfo(CommandContext& context, const ParsedCommand& call)
     return Value(shown(space, call));
 }
 
+constexpr const char* kStays = "a namespace stays as long as the scene; rename its nodes";
+
 } // namespace
 
 void registerNamespaceCommands(CommandTable& table)
 {
     using A = ArgumentType;
     table.add({
-        makeCommand("namespace", "Makes namespaces and sets the current one",
-                    {valueFlag("add", "add", A::string, "makes one below the current one"),
-                     valueFlag("set", "set", A::string, "makes it the current one"),
-                     valueFlag("ex", "exists", A::string, "whether it exists", kCreateQuery)},
-                    noArguments(), setNamespace, kQuery),
+        makeCommand(
+            "namespace", "Makes namespaces and sets the current one",
+            {valueFlag("add", "add", A::string, "makes one below the current one"),
+             valueFlag("set", "set", A::string, "makes it the current one"),
+             valueFlag("ex", "exists", A::string, "whether it exists", kCreateQuery | kQueryWithArguments),
+             refusedFlag("rm", "removeNamespace", kStays), refusedFlag("ren", "rename", kStays),
+             refusedFlag("mv", "moveNamespace", kStays),
+             refusedFlag("mnp", "mergeNamespaceWithParent", kStays),
+             refusedFlag("mnr", "mergeNamespaceWithRoot", kStays),
+             refusedFlag("dnc", "deleteNamespaceContent", kStays),
+             refusedFlag("rel", "relativeNames", "names are always told from the root")},
+            noArguments(), setNamespace, kQuery),
         makeCommand("namespaceInfo", "Tells about a namespace, the current one unless one is named",
                     {switchFlag("cur", "currentNamespace", "the current one"),
                      switchFlag("fn", "fullName", "its name with all that it is in"),

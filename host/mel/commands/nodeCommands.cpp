@@ -2,6 +2,9 @@
 #include "commandSupport.h"
 #include "sceneCommands.h"
 
+#include "api/support/apiTypeNames.h"
+#include "api/support/apiTypes.h"
+
 #include <algorithm>
 
 namespace tvxhost::mel {
@@ -82,6 +85,8 @@ Value nodeType(CommandContext& context, const ParsedCommand& call)
         type = &typeNamed(context, name);
     else
         type = &itemNamed(context, name).node->type();
+    if (call.has("apiType"))
+        return Value(api::apiTypeName(static_cast<int>(api::apiTypeOf(*type))));
     if (call.has("derived")) {
         Value::Strings derived;
         for (const engine::NodeType* candidate : scene.types().all())
@@ -150,7 +155,8 @@ void registerNodeCommands(CommandTable& table)
         makeCommand("nodeType", "Tells a node's type",
                     {switchFlag("i", "inherited", "the types it derives from, the first one first"),
                      switchFlag("d", "derived", "the types that derive from it"),
-                     switchFlag("itn", "isTypeName", "the name is that of a type")},
+                     switchFlag("itn", "isTypeName", "the name is that of a type"),
+                     switchFlag("api", "apiType", "the type in the programming interface")},
                     names(1, 1), nodeType),
         makeCommand(
             "objectType", "Tells an object's type, or whether it is of one",

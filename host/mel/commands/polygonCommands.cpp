@@ -217,81 +217,12 @@ CommandSpec specOf(const Primitive& primitive)
         kAllModes);
 }
 
-// polyEvaluate
-
-/// What is counted of a mesh.
-struct Measure
-{
-    const char* shortName;
-    const char* longName;
-    const char* help;
-    std::size_t (*count)(const engine::MeshData& mesh);
-};
-
-/// A face with n corners is n - 2 triangles, each hole two more.
-std::size_t trianglesOf(const engine::MeshData& mesh)
-{
-    std::size_t count = 0;
-    for (std::size_t face = 0; face < mesh.faces.size(); ++face)
-        if (const std::size_t loops = mesh.faces.loopCount(face); loops > 0)
-            count += mesh.faces.corners(face).size() + 2 * loops - 4;
-    return count;
-}
-
-constexpr Measure kMeasures[] = {
-    {"v", "vertex", "number of vertices", [](const engine::MeshData& mesh) { return mesh.points.size(); }},
-    {"e", "edge", "number of edges", [](const engine::MeshData& mesh) { return mesh.edges.size(); }},
-    {"f", "face", "number of faces", [](const engine::MeshData& mesh) { return mesh.faces.size(); }},
-    {"t", "triangle", "number of triangles", trianglesOf},
-};
-
-/// The mesh of an item: its own or the one below it; null when there is none.
-const engine::MeshData* meshOf(const engine::SelectionItem& item)
-{
-    DagNode* dag = item.node->asDag();
-    if (!dag)
-        return nullptr;
-    if (dag->isTransform())
-        for (DagNode* child : dag->children())
-            if (child->type().isA("mesh") && !child->isIntermediate())
-                return engine::meshOf(*child);
-    return engine::meshOf(*dag);
-}
-
-Value polyEvaluate(CommandContext& context, const ParsedCommand& call)
-{
-    const bool asksAll = call.flags.empty();
-    Value::Integers counts;
-    std::string text;
-    for (const engine::SelectionItem& item : itemsOrSelection(context, call.names())) {
-        const engine::MeshData* mesh = meshOf(item);
-        if (!mesh)
-            continue;
-        for (const Measure& measure : kMeasures)
-            if (asksAll || call.has(measure.longName)) {
-                counts.push_back(static_cast<int>(measure.count(*mesh)));
-                text += (text.empty() ? "" : " ") + std::string(measure.longName) + "=" +
-                        std::to_string(counts.back());
-            }
-    }
-    if (counts.empty())
-        return Value("Nothing counted : no polygonal object is selected.");
-    if (asksAll)
-        return Value(text);
-    return counts.size() == 1 ? Value(counts.front()) : Value(std::move(counts));
-}
-
 } // namespace
 
 void registerPolygonCommands(CommandTable& table)
 {
     for (const Primitive& primitive : primitives())
         table.add({specOf(primitive)});
-    std::vector<FlagSpec> measures;
-    for (const Measure& measure : kMeasures)
-        measures.push_back(switchFlag(measure.shortName, measure.longName, measure.help));
-    table.add({makeCommand("polyEvaluate", "Counts what meshes are made of", std::move(measures), names(),
-                           polyEvaluate)});
 }
 
 } // namespace tvxhost::mel

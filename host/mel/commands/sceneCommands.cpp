@@ -30,6 +30,7 @@ void registerSceneCommands(CommandTable& table)
                                        registerMakeIdentityCommands,
                                        registerXformCommands,
                                        registerParticleCommands,
+                                       registerPolyEvaluateCommands,
                                        registerPolygonCommands,
                                        registerTimeCommands,
                                        registerKeyframeCommands,

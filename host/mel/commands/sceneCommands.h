@@ -28,6 +28,7 @@ void registerTransformCommands(CommandTable& table);
 void registerMakeIdentityCommands(CommandTable& table);
 void registerXformCommands(CommandTable& table);
 void registerParticleCommands(CommandTable& table);
+void registerPolyEvaluateCommands(CommandTable& table);
 void registerPolygonCommands(CommandTable& table);
 void registerTimeCommands(CommandTable& table);
 void registerKeyframeCommands(CommandTable& table);

@@ -56,6 +56,34 @@ TEST_F(AttributeNameCommandsTest, declarationsAnswerFurtherQuestions)
                 ElementsAre("translateY", "translateZ"));
 }
 
+TEST_F(AttributeNameCommandsTest, addedAttributesGetOtherNames)
+{
+    run("addAttr -ln \"weight\" -sn \"w\" n; setAttr n.weight 3; connectAttr n.weight n.tx");
+    EXPECT_EQ(run("renameAttr n.weight \"mass\""), "mass");
+    EXPECT_EQ(run("getAttr n.mass"), "3");
+    EXPECT_EQ(run("getAttr n.w"), "3");
+    EXPECT_EQ(run("connectionInfo -sfd n.tx"), "n.mass");
+    run("renameAttr n.w \"kg\"");
+    EXPECT_THAT(strings("listAttr -ud -shortNames n"), ElementsAre("kg"));
+    EXPECT_EQ(failure("renameAttr n.mass \"translateY\""),
+              "renameAttr: 'n' has an attribute named 'translateY'");
+    EXPECT_EQ(failure("renameAttr n.mass \"1st\""), "renameAttr: '1st' is not a legal name");
+    EXPECT_EQ(failure("renameAttr n.tx \"x\""), "renameAttr: 'translateX' was not added to 'n'");
+}
+
+TEST_F(AttributeNameCommandsTest, declarationsAreAskedFor)
+{
+    run("addAttr -ln \"part\" -min 0 -k true n; addAttr -ln \"note\" -dt \"string\" -h true n");
+    EXPECT_EQ(run("addAttr -q -hasMinValue n.part"), "1");
+    EXPECT_EQ(run("addAttr -q -hasMaxValue n.part"), "0");
+    EXPECT_EQ(run("addAttr -q -hidden n.note"), "1");
+    EXPECT_EQ(run("addAttr -q -keyable n.part"), "1");
+    EXPECT_THAT(strings("addAttr -q -dataType n.note"), ElementsAre("string"));
+    EXPECT_THAT(strings("deleteAttr -q n"), ElementsAre("part", "note"));
+    run("deleteAttr -name n -attribute note");
+    EXPECT_THAT(strings("listAttr -ud n"), ElementsAre("part"));
+}
+
 TEST_F(AttributeNameCommandsTest, objectTypesAreTold)
 {
     EXPECT_EQ(run("objectType n"), "transform");
@@ -63,6 +91,7 @@ TEST_F(AttributeNameCommandsTest, objectTypesAreTold)
     EXPECT_EQ(run("objectType -isAType dagNode n"), "1");
     EXPECT_EQ(run("objectType -isType dagNode n"), "0");
     EXPECT_EQ(run("objectType -typeFromTag `objectType -typeTag n`"), "transform");
+    EXPECT_EQ(run("nodeType -apiType n"), "kTransform");
     EXPECT_EQ(run("objectType -tagFromType transform"), run("objectType -typeTag n"));
 }
 

@@ -24,6 +24,11 @@ protected:
         ASSERT_TRUE(type) << type.outcome.text;
         type.value->classification = classification;
     }
+
+    bool satisfies(const std::string& type, const std::string& wanted)
+    {
+        return run("getClassification -satisfies \"" + wanted + "\" " + type) == "1";
+    }
 };
 
 TEST_F(ClassificationCommandsTest, theClassificationIsOneStringOrNone)
@@ -36,27 +41,27 @@ TEST_F(ClassificationCommandsTest, theClassificationIsOneStringOrNone)
 
 TEST_F(ClassificationCommandsTest, aPartIsSatisfiedByWhatIsBelowIt)
 {
-    EXPECT_EQ(run("getClassification -satisfies \"shader:texture\" paint"), "1");
-    EXPECT_EQ(run("getClassification -sat \"shader/reflective/phong:texture\" paint"), "1");
-    EXPECT_EQ(run("getClassification -sat \"texture:shader/reflective\" paint"), "1");
-    EXPECT_EQ(run("getClassification -sat \"shader/reflective/phong/deep:texture\" paint"), "0");
-    EXPECT_EQ(run("getClassification -sat \"shade:texture\" paint"), "0");
+    EXPECT_TRUE(satisfies("paint", "shader:texture"));
+    EXPECT_TRUE(satisfies("paint", "shader/reflective/phong:texture"));
+    EXPECT_TRUE(satisfies("paint", "texture:shader/reflective"));
+    EXPECT_FALSE(satisfies("paint", "shader/reflective/phong/deep:texture"));
+    EXPECT_FALSE(satisfies("paint", "shade:texture"));
 }
 
 TEST_F(ClassificationCommandsTest, everyCategoryOfTheTypeCounts)
 {
-    EXPECT_EQ(run("getClassification -sat \"shader\" paint"), "0");
-    EXPECT_EQ(run("getClassification -sat \"shader:texture:light\" paint"), "0");
-    EXPECT_EQ(run("getClassification -sat \"shader\" marker"), "0");
+    EXPECT_FALSE(satisfies("paint", "shader"));
+    EXPECT_FALSE(satisfies("paint", "shader:texture:light"));
+    EXPECT_FALSE(satisfies("marker", "shader"));
 }
 
 TEST_F(ClassificationCommandsTest, theSwatchIsNoCategoryButCanBeAskedFor)
 {
-    EXPECT_EQ(run("getClassification -sat \"utility\" mixer"), "1");
-    EXPECT_EQ(run("getClassification -sat \"utility/general\" mixer"), "1");
-    EXPECT_EQ(run("getClassification -sat \"utility/general:swatch/mixerSwatch\" mixer"), "1");
-    EXPECT_EQ(run("getClassification -sat \"utility/general:swatch/otherSwatch\" mixer"), "0");
-    EXPECT_EQ(run("getClassification -sat \"swatch\" mixer"), "0");
+    EXPECT_TRUE(satisfies("mixer", "utility"));
+    EXPECT_TRUE(satisfies("mixer", "utility/general"));
+    EXPECT_TRUE(satisfies("mixer", "utility/general:swatch/mixerSwatch"));
+    EXPECT_FALSE(satisfies("mixer", "utility/general:swatch/otherSwatch"));
+    EXPECT_FALSE(satisfies("mixer", "swatch"));
 }
 
 TEST_F(ClassificationCommandsTest, typesAreListedByClassification)

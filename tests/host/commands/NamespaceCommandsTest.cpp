@@ -36,4 +36,14 @@ TEST_F(NamespaceCommandsTest, aNamespaceTellsItsNames)
     EXPECT_EQ(failure("namespaceInfo -parent nowhere"), "namespaceInfo: there is no namespace 'nowhere'");
 }
 
+TEST_F(NamespaceCommandsTest, whatCannotBeDoneIsSaid)
+{
+    EXPECT_EQ(
+        failure("namespace -removeNamespace crew"),
+        "Flag '-removeNamespace' of namespace is refused: a namespace stays as long as the scene; rename its "
+        "nodes");
+    EXPECT_EQ(run("namespace -exists crew"), "1");
+    EXPECT_EQ(run("namespace -exists nowhere"), "0");
+}
+
 } // namespace tvxhost::mel

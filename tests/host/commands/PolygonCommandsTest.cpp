@@ -149,4 +149,18 @@ TEST_F(PolygonCommandsTest, RoundCapsAreNotDoneAndSaySo)
     EXPECT_TRUE(isTold);
 }
 
+TEST_F(PolygonCommandsTest, meshesAreMeasured)
+{
+    run("polyCube -w 1 -h 2 -d 3; setAttr pCube1.s 2 2 2");
+    EXPECT_EQ(run("polyEvaluate -area pCube1"), "22");
+    EXPECT_EQ(run("polyEvaluate -worldArea pCube1"), "88");
+    EXPECT_EQ(run("polyEvaluate -shell pCube1"), "1");
+    EXPECT_THAT(numbers("polyEvaluate -boundingBox pCube1"),
+                testing::ElementsAre(-0.5, 0.5, -1.0, 1.0, -1.5, 1.5));
+    EXPECT_EQ(failure("polyEvaluate -faceArea pCube1"),
+              "Flag '-faceArea' of polyEvaluate is refused: components are counted by what is selected of "
+              "them: use "
+              "ls -flatten");
+}
+
 } // namespace tvxhost::mel

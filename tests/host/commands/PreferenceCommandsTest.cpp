@@ -58,6 +58,23 @@ TEST_F(PreferenceCommandsTest, aboutTellsTheVersion)
     EXPECT_EQ(run("about -batch"), "1");
 }
 
+TEST_F(PreferenceCommandsTest, aboutTellsTheSystem)
+{
+    EXPECT_EQ(run("about -is64"), "1");
+    EXPECT_EQ(run("about -windows"), "0");
+    EXPECT_EQ(run("about -codeset"), "UTF-8");
+    EXPECT_THAT(run("about -operatingSystemVersion"), testing::StartsWith("Linux "));
+    EXPECT_THAT(run("about -currentDate"), testing::MatchesRegex("[0-9]+/[0-9]+/[0-9]+"));
+}
+
+TEST_F(PreferenceCommandsTest, theFoldersOfTheUserAreBelowThePreferences)
+{
+    session.preferencesFolder = "/home/someone/maya";
+    EXPECT_EQ(run("internalVar -userPrefDir"), "/home/someone/maya/");
+    EXPECT_EQ(run("internalVar -userShelfDir"), "/home/someone/maya/shelves/");
+    EXPECT_EQ(failure("internalVar"), "internalVar: nothing was asked");
+}
+
 TEST_F(PreferenceCommandsTest, everyCommandOfTheSceneHasHelp)
 {
     for (const std::string& name : table.names()) {

@@ -34,11 +34,10 @@ TEST_F(WindowPreferenceCommandsTest, topComesBeforeLeft)
     EXPECT_EQ(run("windowPref -exists w"), "1");
     EXPECT_THAT(integers("windowPref -q -tlc w"), ElementsAre(10, 20));
     EXPECT_THAT(integers("windowPref -q -wh w"), ElementsAre(300, 200));
-    EXPECT_EQ(run("windowPref -q -topEdge w"), "10");
-    EXPECT_EQ(run("windowPref -q -leftEdge w"), "20");
-    EXPECT_EQ(run("windowPref -q -width w"), "300");
-    EXPECT_EQ(run("windowPref -q -height w"), "200");
-    EXPECT_EQ(run("windowPref -q -max w"), "0");
+    const std::pair<const char*, const char*> answers[] = {
+        {"topEdge", "10"}, {"leftEdge", "20"}, {"width", "300"}, {"height", "200"}, {"maximized", "0"}};
+    for (const auto& [question, answer] : answers)
+        EXPECT_EQ(run(std::string("windowPref -q -") + question + " w"), answer) << question;
 }
 
 TEST_F(WindowPreferenceCommandsTest, aScriptMakesAndEditsIt)
@@ -53,9 +52,8 @@ TEST_F(WindowPreferenceCommandsTest, aScriptMakesAndEditsIt)
 
 TEST_F(WindowPreferenceCommandsTest, whatWasNeverStoredIsNotFound)
 {
-    EXPECT_EQ(failure("windowPref -q -topEdge w"), "windowPref: Object 'w' not found.");
-    EXPECT_EQ(failure("windowPref -e -topEdge 3 w"), "windowPref: Object 'w' not found.");
-    EXPECT_EQ(failure("windowPref -r w"), "windowPref: Object 'w' not found.");
+    for (const char* words : {"-q -topEdge", "-e -topEdge 3", "-r"})
+        EXPECT_EQ(failure(std::string("windowPref ") + words + " w"), "windowPref: Object 'w' not found.");
     EXPECT_EQ(run("windowPref -exists w"), "0");
     EXPECT_EQ(failure("windowPref -te 3"), "windowPref needs the name of a window");
 }

@@ -1,0 +1,221 @@
+// polyEvaluate: what meshes are made of, and how large they are.
+#include "commandSupport.h"
+#include "sceneCommands.h"
+
+#include "engine/mesh.h"
+
+#include <Imath/ImathBox.h>
+
+#include <numeric>
+#include <optional>
+#include <tuple>
+
+namespace tvxhost::mel {
+
+using engine::DagNode;
+using engine::Vec3d;
+
+namespace {
+
+/// A mesh and where it stands.
+struct Subject
+{
+    const engine::MeshData& mesh;
+    engine::Matrix toWorld;
+};
+
+// Counts
+
+/// What is counted of a mesh.
+struct Measure
+{
+    const char* shortName;
+    const char* longName;
+    const char* help;
+    std::size_t (*count)(const engine::MeshData& mesh);
+};
+
+/// A face with n corners is n - 2 triangles, each hole two more.
+std::size_t trianglesOf(const engine::MeshData& mesh)
+{
+    std::size_t count = 0;
+    for (std::size_t face = 0; face < mesh.faces.size(); ++face)
+        if (const std::size_t loops = mesh.faces.loopCount(face); loops > 0)
+            count += mesh.faces.corners(face).size() + 2 * loops - 4;
+    return count;
+}
+
+/// The one vertex that stands for all that hang together with this one.
+std::int32_t rootOf(std::vector<std::int32_t>& above, std::int32_t vertex)
+{
+    while (above[static_cast<std::size_t>(vertex)] != vertex) {
+        std::int32_t& next = above[static_cast<std::size_t>(vertex)];
+        next = above[static_cast<std::size_t>(next)];
+        vertex = next;
+    }
+    return vertex;
+}
+
+/// Pieces that do not hang together.
+std::size_t shellsOf(const engine::MeshData& mesh)
+{
+    std::vector<std::int32_t> above(mesh.points.size());
+    std::iota(above.begin(), above.end(), 0);
+    std::size_t shells = mesh.points.size();
+    for (const engine::MeshData::Edge& edge : mesh.edges) {
+        const std::int32_t from = rootOf(above, edge.from);
+        const std::int32_t to = rootOf(above, edge.to);
+        if (from == to)
+            continue;
+        above[static_cast<std::size_t>(from)] = to;
+        --shells;
+    }
+    return shells;
+}
+
+constexpr Measure kMeasures[] = {
+    {"v", "vertex", "number of vertices", [](const engine::MeshData& mesh) { return mesh.points.size(); }},
+    {"e", "edge", "number of edges", [](const engine::MeshData& mesh) { return mesh.edges.size(); }},
+    {"f", "face", "number of faces", [](const engine::MeshData& mesh) { return mesh.faces.size(); }},
+    {"t", "triangle", "number of triangles", trianglesOf},
+    {"s", "shell", "number of pieces that do not hang together", shellsOf},
+};
+
+/// What is told when nothing is asked.
+constexpr std::size_t kUsualMeasures = 4;
+
+// Sizes
+
+/// Half the sum of the cross products along the loops: holes run the other way, and take away.
+double areaOf(const engine::MeshData& mesh, const engine::Matrix& to)
+{
+    double area = 0.0;
+    const auto pointAt = [&](std::int32_t corner) {
+        return Vec3d(mesh.points[static_cast<std::size_t>(mesh.startOf(corner))]) * to;
+    };
+    for (std::size_t face = 0; face < mesh.faces.size(); ++face) {
+        Vec3d sum(0.0);
+        for (std::size_t i = 0; i < mesh.faces.loopCount(face); ++i) {
+            const auto loop = mesh.faces.loop(face, i);
+            const Vec3d first = pointAt(*loop.begin());
+            for (const std::int32_t* corner = loop.begin(); corner != loop.end(); ++corner) {
+                const std::int32_t* next = corner + 1 == loop.end() ? loop.begin() : corner + 1;
+                sum += (pointAt(*corner) - first).cross(pointAt(*next) - first);
+            }
+        }
+        area += 0.5 * sum.length();
+    }
+    return area;
+}
+
+Value::Numbers boxOf(const engine::MeshData& mesh)
+{
+    Imath::Box3d box;
+    for (const auto& point : mesh.points)
+        box.extendBy(Vec3d(point));
+    return {box.min.x, box.max.x, box.min.y, box.max.y, box.min.z, box.max.z};
+}
+
+struct Size
+{
+    const char* shortName;
+    const char* longName;
+    const char* help;
+    Value::Numbers (*numbers)(const Subject& subject);
+};
+
+constexpr Size kSizes[] = {
+    {"a", "area", "area of the faces, as they were modelled",
+     [](const Subject& subject) { return Value::Numbers{areaOf(subject.mesh, engine::Matrix())}; }},
+    {"wa", "worldArea", "area of the faces in the world",
+     [](const Subject& subject) { return Value::Numbers{areaOf(subject.mesh, subject.toWorld)}; }},
+    {"b", "boundingBox", "least and greatest x, y, z, as they were modelled",
+     [](const Subject& subject) { return boxOf(subject.mesh); }},
+};
+
+// The command
+
+std::optional<Subject> subjectOf(const engine::SelectionItem& item)
+{
+    if (!item.isDag())
+        return std::nullopt;
+    DagNode* shape = item.path.node();
+    if (shape->isTransform())
+        for (DagNode* child : shape->children())
+            if (child->type().isA("mesh") && !child->isIntermediate()) {
+                shape = child;
+                break;
+            }
+    const engine::MeshData* mesh = engine::meshOf(*shape);
+    if (!mesh)
+        return std::nullopt;
+    return Subject{*mesh, item.path.inclusiveMatrix()};
+}
+
+std::string describe(const engine::MeshData& mesh)
+{
+    std::string text;
+    for (std::size_t i = 0; i < kUsualMeasures; ++i)
+        text += (text.empty() ? "" : " ") + std::string(kMeasures[i].longName) + "=" +
+                std::to_string(kMeasures[i].count(mesh));
+    return text;
+}
+
+template <class T>
+Value oneOrAll(std::vector<T> values)
+{
+    return values.size() == 1 ? Value(values.front()) : Value(std::move(values));
+}
+
+Value polyEvaluate(CommandContext& context, const ParsedCommand& call)
+{
+    Value::Integers counts;
+    Value::Numbers sizes;
+    std::string text;
+    for (const engine::SelectionItem& item : itemsOrSelection(context, call.names())) {
+        const std::optional<Subject> subject = subjectOf(item);
+        if (!subject)
+            continue;
+        text += (text.empty() ? "" : " ") + describe(subject->mesh);
+        for (const Measure& measure : kMeasures)
+            if (call.has(measure.longName))
+                counts.push_back(static_cast<int>(measure.count(subject->mesh)));
+        for (const Size& size : kSizes)
+            if (call.has(size.longName))
+                for (const double number : size.numbers(*subject))
+                    sizes.push_back(number);
+    }
+    if (text.empty())
+        return Value("Nothing counted : no polygonal object is selected.");
+    if (call.flags.empty())
+        return Value(text);
+    if (sizes.empty())
+        return oneOrAll(std::move(counts));
+    sizes.insert(sizes.begin(), counts.begin(), counts.end());
+    return oneOrAll(std::move(sizes));
+}
+
+} // namespace
+
+void registerPolyEvaluateCommands(CommandTable& table)
+{
+    std::vector<FlagSpec> flags;
+    for (const Measure& measure : kMeasures)
+        flags.push_back(switchFlag(measure.shortName, measure.longName, measure.help));
+    for (const Size& size : kSizes)
+        flags.push_back(switchFlag(size.shortName, size.longName, size.help));
+    const char* const noTextures = "the host keeps no texture coordinates of history";
+    const char* const noComponents = "components are counted by what is selected of them: use ls -flatten";
+    for (const auto& [shortName, longName, why] :
+         {std::tuple("uv", "uvcoord", noTextures), std::tuple("uvc", "uvComponent", noTextures),
+          std::tuple("b2", "boundingBox2d", noTextures), std::tuple("us", "uvShell", noTextures),
+          std::tuple("vc", "vertexComponent", noComponents), std::tuple("ec", "edgeComponent", noComponents),
+          std::tuple("fc", "faceComponent", noComponents),
+          std::tuple("tc", "triangleComponent", noComponents),
+          std::tuple("bc", "boundingBoxComponent", noComponents), std::tuple("fa", "faceArea", noComponents)})
+        flags.push_back(refusedFlag(shortName, longName, why));
+    table.add({makeCommand("polyEvaluate", "Counts and measures what meshes are made of", std::move(flags),
+                           names(), polyEvaluate)});
+}
+
+} // namespace tvxhost::mel
