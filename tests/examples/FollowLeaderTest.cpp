@@ -19,7 +19,7 @@ protected:
     }
 };
 
-TEST_F(FollowLeader, LinesUp)
+TEST_F(FollowLeader, LinesUpAndTakesItBack)
 {
     const ProgramResult result = run({"--script", script("followLeader.mel")});
     EXPECT_EQ(result.errors, "");
@@ -27,7 +27,45 @@ TEST_F(FollowLeader, LinesUp)
     EXPECT_EQ(result.output, "apart: (0 0 0) (0 0 0) (0 0 0) (0 7 0)\n"
                              "made: first_translateX second_translateX\n"
                              "following: (10 0 0) (12 0 0) (14 0 0) (0 7 0)\n"
-                             "third too: (10 0 0) (12 0 0) (14 0 0) (14.5 0.5 0)\n");
+                             "third too: (10 0 0) (12 0 0) (14 0 0) (14.5 0.5 0)\n"
+                             "Undo: followLeader -leader \"second\" -axis \"x\" -axis \"y\" -gap 0.5\n"
+                             "third alone: (10 0 0) (12 0 0) (14 0 0) (0 7 0)\n"
+                             "Redo: followLeader -leader \"second\" -axis \"x\" -axis \"y\" -gap 0.5\n"
+                             "third again: (10 0 0) (12 0 0) (14 0 0) (14.5 0.5 0)\n");
+}
+
+TEST_F(FollowLeader, IsTakenBackWholeAndDoneAgainWithTheSameNodes)
+{
+    const std::string told = "print (stringArrayToString(`ls -type plusMinusAverage`, \" \") + \": \" + "
+                             "`getAttr b.tx` + \" \" + `getAttr b.ty` + \"\\n\")";
+    const ProgramResult result =
+        run({"-e",
+             "undoInfo -state on; group -empty -name a; group -empty -name b; setAttr b.ty 5; select -clear;",
+             "-e",
+             "followLeader -axis x -axis y -gap 3 a b",
+             "-e",
+             told,
+             "-e",
+             "undo",
+             "-e",
+             told,
+             "-e",
+             "redo",
+             "-e",
+             told,
+             "-e",
+             "undo",
+             "-e",
+             "redo",
+             "-e",
+             told});
+    EXPECT_EQ(result.errors, "");
+    EXPECT_EQ(linesWith(result.output, ": "),
+              (std::vector<std::string>{
+                  "b_translateX b_translateY: 3 3", "Undo: followLeader -axis x -axis y -gap 3 a b", ": 0 5",
+                  "Redo: followLeader -axis x -axis y -gap 3 a b", "b_translateX b_translateY: 3 3",
+                  "Undo: followLeader -axis x -axis y -gap 3 a b",
+                  "Redo: followLeader -axis x -axis y -gap 3 a b", "b_translateX b_translateY: 3 3"}));
 }
 
 TEST_F(FollowLeader, IsSavedAsNodesOfMayaAndReadAgain)
