@@ -79,7 +79,8 @@ try {
         std::cerr << "tvxBench: --rounds needs a number above 0\n";
         return 2;
     }
-    // Memory stays with the process, as in a long session: asking the system for it anew is no row's business.
+    // Memory stays with the process, as in a long session: asking the system for it anew is no row's
+    // business.
     mallopt(M_TRIM_THRESHOLD, INT_MAX);
     int none = 0;
     benchmark::Initialize(&none, argv);

@@ -347,7 +347,7 @@ void CellStore::put(std::unique_ptr<Cell> root)
 namespace {
 
 /// One step on the way from the top to a plug: into a child, or into an element of the array just reached.
-struct Step
+struct WayStep
 {
     Attribute* attribute;
     int index; ///< of the element to take, when `isElement`
@@ -370,12 +370,12 @@ public:
         }
     }
 
-    const Step* begin() const { return m_steps.data() + m_first; }
-    const Step* end() const { return m_steps.data() + m_steps.size(); }
+    const WayStep* begin() const { return m_steps.data() + m_first; }
+    const WayStep* end() const { return m_steps.data() + m_steps.size(); }
 
 private:
     static constexpr std::size_t kMaxSteps = Attribute::kMaxNesting + Plug::kMaxDepth;
-    std::array<Step, kMaxSteps> m_steps;
+    std::array<WayStep, kMaxSteps> m_steps;
     std::size_t m_first = kMaxSteps;
 };
 
@@ -384,7 +384,7 @@ private:
 Cell* CellStore::findNearest(const Plug& plug) const
 {
     Cell* cell = nullptr;
-    for (const Step& step : Way(plug)) {
+    for (const WayStep& step : Way(plug)) {
         Cell* next = !cell            ? find(*step.attribute)
                      : step.isElement ? cell->findElement(step.index)
                                       : cell->findChild(*step.attribute);
@@ -405,7 +405,7 @@ Cell* CellStore::find(const Plug& plug) const
 Cell* CellStore::make(const Plug& plug)
 {
     Cell* cell = nullptr;
-    for (const Step& step : Way(plug)) {
+    for (const WayStep& step : Way(plug)) {
         if (step.isElement && step.index < 0)
             return nullptr;
         cell = !cell            ? &make(*step.attribute)
@@ -422,7 +422,7 @@ Plug CellStore::firstMissingElement(const Plug& plug) const
     const Way way(plug);
     const Cell* cell = nullptr;
     bool isLost = false; // what comes next has no cell
-    for (const Step& step : way) {
+    for (const WayStep& step : way) {
         if (!step.isElement) {
             if (!isLost)
                 cell = cell ? cell->findChild(*step.attribute) : find(*step.attribute);
@@ -435,7 +435,7 @@ Plug CellStore::firstMissingElement(const Plug& plug) const
         if (cell)
             continue;
         Plug element(m_node, *step.attribute);
-        for (const Step* above = way.begin(); above <= &step; ++above)
+        for (const WayStep* above = way.begin(); above <= &step; ++above)
             if (above->isElement)
                 element.selectIndex(*above->attribute, above->index);
         return element;

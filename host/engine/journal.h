@@ -91,7 +91,8 @@ public:
     class Command;
     /// Whether the next command to begin would name a step.
     bool namesNext() const { return m_isOn && m_depth == m_chunks; }
-    /// Makes one step of all that follow until the matching end; empty: named by the first command. They nest.
+    /// Makes one step of all that follow until the matching end; empty: named by the first command. They
+    /// nest.
     void openChunk(const std::string& name);
     void closeChunk();
     /// Makes one step of those that end while it lives: what a script did that ran as a whole.
@@ -139,7 +140,7 @@ private:
     Step m_step;
     std::size_t m_depth = 0;  ///< of commands and chunks
     std::size_t m_chunks = 0; ///< of chunks
-    std::string m_command; ///< the outermost that runs
+    std::string m_command;    ///< the outermost that runs
     std::size_t m_length = kDefaultLength;
     std::size_t m_groups = 0;
     std::size_t m_groupStart = 0;

@@ -185,8 +185,7 @@ void tellBehaviours(const Plug& source, const Plug& destination,
 
 void tellConnection(Happening what, const Plug& source, const Plug& destination)
 {
-    source.node()->scene().observers().tell(
-        {what, destination.node(), source.node(), &destination, &source});
+    source.node()->scene().observers().tell({what, destination.node(), source.node(), &destination, &source});
 }
 
 void outdateDestination(Cell& cell)

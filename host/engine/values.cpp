@@ -166,7 +166,8 @@ bool storeDataAt(const Plug& plug, Ref<Data> data, bool wasSet)
 void tellIfAdded(const Plug& element)
 {
     if (!element.isNull())
-        element.node()->scene().observers().tell({Happening::elementAdded, element.node(), nullptr, &element});
+        element.node()->scene().observers().tell(
+            {Happening::elementAdded, element.node(), nullptr, &element});
 }
 
 Plug missingElement(const Plug& plug)

@@ -14,8 +14,8 @@ Ref<Data> storedData(const Plug& plug);
 /// Remembers that a value of the node is about to change, whoever stores it.
 void noteEdit(const Plug& plug);
 
-/// The outermost array element that storing at a plug would add, when anybody wants to be told; null when it adds
-/// none. To be asked before, and told after.
+/// The outermost array element that storing at a plug would add, when anybody wants to be told; null when it
+/// adds none. To be asked before, and told after.
 Plug missingElement(const Plug& plug);
 void tellIfAdded(const Plug& element);
 

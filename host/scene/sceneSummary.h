@@ -25,7 +25,7 @@ struct SceneSummary
     std::vector<std::string> plugins; ///< that the file requires, in its order, each once
     std::size_t connections = 0;      ///< made
     std::size_t keptStatements = 0;   ///< not understood and kept as they stood, to be saved again
-    std::size_t peakMemory = 0; ///< bytes of memory that the process has had at most; 0: not asked for
+    std::size_t peakMemory = 0;       ///< bytes of memory that the process has had at most; 0: not asked for
     std::size_t warnings = 0;
     std::size_t errors = 0;
 };

@@ -18,11 +18,16 @@ struct KindRow
 };
 
 constexpr KindRow kKinds[] = {
-    {MFnAnimCurve::kTangentFixed, TangentKind::fixed},       {MFnAnimCurve::kTangentLinear, TangentKind::linear},
-    {MFnAnimCurve::kTangentFlat, TangentKind::flat},         {MFnAnimCurve::kTangentSmooth, TangentKind::spline},
-    {MFnAnimCurve::kTangentStep, TangentKind::step},         {MFnAnimCurve::kTangentSlow, TangentKind::slow},
-    {MFnAnimCurve::kTangentFast, TangentKind::fast},         {MFnAnimCurve::kTangentClamped, TangentKind::clamped},
-    {MFnAnimCurve::kTangentPlateau, TangentKind::plateau},   {MFnAnimCurve::kTangentStepNext, TangentKind::stepNext},
+    {MFnAnimCurve::kTangentFixed, TangentKind::fixed},
+    {MFnAnimCurve::kTangentLinear, TangentKind::linear},
+    {MFnAnimCurve::kTangentFlat, TangentKind::flat},
+    {MFnAnimCurve::kTangentSmooth, TangentKind::spline},
+    {MFnAnimCurve::kTangentStep, TangentKind::step},
+    {MFnAnimCurve::kTangentSlow, TangentKind::slow},
+    {MFnAnimCurve::kTangentFast, TangentKind::fast},
+    {MFnAnimCurve::kTangentClamped, TangentKind::clamped},
+    {MFnAnimCurve::kTangentPlateau, TangentKind::plateau},
+    {MFnAnimCurve::kTangentStepNext, TangentKind::stepNext},
     {MFnAnimCurve::kTangentAuto, TangentKind::automatic},
 };
 
