@@ -9,6 +9,7 @@
 #include "api/listing/interfaceFunctions.h"
 #include "api/support/faults.h"
 #include "engine/atomicFile.h"
+#include "engine/observers.h"
 #include "mel/checker.h"
 #include "scene/sceneText.h"
 #include "viewport/png.h"
@@ -61,6 +62,7 @@ public:
         }
         savePreferences();
         finishWindows();
+        m_session.scene().observers().tell({engine::Happening::quitting});
         listCalls();
         return m_session.editor().errors() == 0 ? 0 : 1;
     }

@@ -1,6 +1,7 @@
 // PluginLoader: finds, loads and unloads plug-ins, and knows what each of them registered.
 #include "pluginLoader.h"
 
+#include "engine/observers.h"
 #include "library.h"
 #include "support/access.h"
 #include "support/builtInAttributes.h"
@@ -69,6 +70,14 @@ bool call(Library::EntryPoint entryPoint, const Plugin& plugin)
     }
 }
 
+void tell(engine::Scene& scene, engine::Happening what, const fs::path& file, const std::string& name = {})
+{
+    engine::Event event{what};
+    event.text = file.string();
+    event.name = name;
+    scene.observers().tell(event);
+}
+
 } // namespace
 
 Plugin::Plugin(std::string pluginName, fs::path libraryFile)
@@ -127,6 +136,7 @@ PluginResult PluginLoader::load(const std::string& nameOrPath, const std::string
         return {{}, say(present->name, "is already loaded."), present->name};
     const engine::Ref<Plugin> plugin(
         new Plugin(uniqueName(wishedName.empty() ? nameOf(*file) : wishedName), *file));
+    tell(m_scene, engine::Happening::pluginLoadBegun, *file);
     const Outcome started = start(*plugin);
     if (!started) {
         if (plugin->m_library)
@@ -134,6 +144,7 @@ PluginResult PluginLoader::load(const std::string& nameOrPath, const std::string
         return {started, {}, plugin->name};
     }
     runInterface(plugin->interfaceProcedures.creation, plugin->interfaceProcedures.batchCreation);
+    tell(m_scene, engine::Happening::pluginLoadDone, *file, plugin->name);
     return {{}, {}, plugin->name};
 }
 
@@ -165,8 +176,12 @@ PluginResult PluginLoader::unload(const std::string& nameOrPath, bool force)
         return {{Reason::inUse, say(plugin->name, "cannot be unloaded because it is still in use.")},
                 {},
                 plugin->name};
+    tell(m_scene, engine::Happening::pluginUnloadBegun, plugin->file, plugin->name);
     runInterface(plugin->interfaceProcedures.deletion, plugin->interfaceProcedures.batchDeletion);
-    return {stop(*plugin), {}, plugin->name};
+    const Outcome stopped = stop(*plugin);
+    if (stopped)
+        tell(m_scene, engine::Happening::pluginUnloadDone, plugin->file, plugin->name);
+    return {stopped, {}, plugin->name};
 }
 
 Outcome PluginLoader::stop(Plugin& plugin)

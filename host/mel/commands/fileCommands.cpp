@@ -34,7 +34,8 @@ void checkUnsaved(CommandContext& context, const ParsedCommand& call)
 Value newFile(CommandContext& context, const ParsedCommand& call)
 {
     checkUnsaved(context, call);
-    sceneOf(context).newScene();
+    if (const auto outcome = sessionOf(context).newScene(); !outcome)
+        context.fail(outcome.text);
     return Value("");
 }
 

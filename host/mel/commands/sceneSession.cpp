@@ -5,11 +5,32 @@
 
 #include "api/plugins/pluginLoader.h"
 #include "engine/atomicFile.h"
+#include "engine/observers.h"
 #include "scene/references.h"
 
 namespace tvxhost::mel {
 
+using engine::Happening;
 using engine::Outcome;
+
+namespace {
+
+void tell(engine::Scene& scene, Happening what, const std::filesystem::path& file = {})
+{
+    engine::Event event{what};
+    event.text = file.string();
+    scene.observers().tell(event);
+}
+
+/// Asks those who may forbid it.
+Outcome mayDo(engine::Scene& scene, Happening check, const std::filesystem::path& file = {})
+{
+    if (scene.observers().allow(check, file.string()))
+        return {};
+    return {engine::Reason::failed, "File operation cancelled by user supplied callback."};
+}
+
+} // namespace
 
 SceneSession::SceneSession(engine::Scene& scene, api::PluginLoader* plugins)
     : workspace(std::filesystem::current_path()), jobs(scene), m_scene(scene), m_plugins(plugins)
@@ -90,15 +111,35 @@ scene::ReadOptions SceneSession::readOptions(Interpreter& interpreter)
 
 scene::ReadResult SceneSession::open(Interpreter& interpreter, const std::filesystem::path& file)
 {
-    scene::ReadResult result = scene::openScene(m_scene, file, readOptions(interpreter));
+    scene::ReadResult result;
+    result.outcome = mayDo(m_scene, Happening::openChecked, file);
+    if (!result.outcome)
+        return result;
+    tell(m_scene, Happening::openBegun, file);
+    tell(m_scene, Happening::readBegun, file);
+    result = scene::openScene(m_scene, file, readOptions(interpreter));
     lastSummary = result.summary;
+    if (!result.outcome)
+        return result;
+    tell(m_scene, Happening::readDone, file);
+    tell(m_scene, Happening::openDone, file);
     return result;
 }
 
 scene::ReadResult SceneSession::import(Interpreter& interpreter, const std::filesystem::path& file)
 {
-    scene::ReadResult result = scene::importScene(m_scene, file, readOptions(interpreter));
+    scene::ReadResult result;
+    result.outcome = mayDo(m_scene, Happening::importChecked, file);
+    if (!result.outcome)
+        return result;
+    tell(m_scene, Happening::importBegun, file);
+    tell(m_scene, Happening::readBegun, file);
+    result = scene::importScene(m_scene, file, readOptions(interpreter));
     lastSummary = result.summary;
+    if (!result.outcome)
+        return result;
+    tell(m_scene, Happening::readDone, file);
+    tell(m_scene, Happening::importDone, file);
     return result;
 }
 
@@ -109,14 +150,30 @@ void SceneSession::loadReference(Interpreter& interpreter, engine::Reference& re
     scene::loadReference(m_scene, reference, readOptions(interpreter), states, summary);
 }
 
+engine::Outcome SceneSession::newScene()
+{
+    if (Outcome outcome = mayDo(m_scene, Happening::newChecked); !outcome)
+        return outcome;
+    tell(m_scene, Happening::newBegun);
+    m_scene.newScene();
+    tell(m_scene, Happening::newDone);
+    return {};
+}
+
 engine::Outcome SceneSession::saveAs(const std::filesystem::path& file)
 {
+    if (Outcome outcome = mayDo(m_scene, Happening::saveChecked, file); !outcome)
+        return outcome;
+    tell(m_scene, Happening::saveBegun, file);
     scene::WriteOptions options;
     options.pluginVersion = [this](const std::string& name) {
         const api::Plugin* plugin = m_plugins ? m_plugins->findLoaded(name) : nullptr;
         return plugin ? plugin->version : std::string();
     };
-    return scene::saveScene(m_scene, file, options);
+    Outcome outcome = scene::saveScene(m_scene, file, options);
+    if (outcome)
+        tell(m_scene, Happening::saveDone, file);
+    return outcome;
 }
 
 void SceneSession::declareGlobals(Interpreter& interpreter) const

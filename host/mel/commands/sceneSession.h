@@ -70,6 +70,9 @@ public:
     /// Writes them all, or only what has changed.
     engine::Outcome savePreferences(bool onlyChanged);
 
+    /// An empty scene: `file -new`. Like opening, importing and saving it is told to the scene's observers,
+    /// who may forbid it.
+    engine::Outcome newScene();
     /// Opens a file: `file -open`. A failure is a file that is no scene; what is wrong inside has been shown.
     scene::ReadResult open(Interpreter& interpreter, const std::filesystem::path& file);
     scene::ReadResult import(Interpreter& interpreter, const std::filesystem::path& file);

@@ -2,6 +2,7 @@
 #include "commandSupport.h"
 #include "sceneCommands.h"
 
+#include "engine/observers.h"
 #include "engine/scriptEditor.h"
 
 namespace tvxhost::mel {
@@ -100,9 +101,22 @@ Value flushUndo(CommandContext& context, const ParsedCommand&)
     return {};
 }
 
+/// Goes one step; false when there is none. A selection that comes back is told like any other.
+bool travel(CommandContext& context, bool (Journal::*step)(), engine::Happening what)
+{
+    engine::Scene& scene = sceneOf(context);
+    const engine::SelectionList selection = scene.selection();
+    if (!(scene.journal().*step)())
+        return false;
+    if (!(selection == scene.selection()))
+        scene.observers().tell({engine::Happening::selectionChanged});
+    scene.observers().tell({what});
+    return true;
+}
+
 Value undo(CommandContext& context, const ParsedCommand&)
 {
-    if (!journalOf(context).undo())
+    if (!travel(context, &Journal::undo, engine::Happening::undone))
         context.fail("There are no more commands to undo.");
     context.editor().info("Undo: " + nameOfLast(journalOf(context).redoable()));
     return {};
@@ -110,7 +124,7 @@ Value undo(CommandContext& context, const ParsedCommand&)
 
 Value redo(CommandContext& context, const ParsedCommand&)
 {
-    if (!journalOf(context).redo())
+    if (!travel(context, &Journal::redo, engine::Happening::redone))
         context.fail("There are no more commands to redo.");
     context.editor().info("Redo: " + nameOfLast(journalOf(context).undoable()));
     return {};
