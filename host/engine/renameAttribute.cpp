@@ -2,7 +2,6 @@
 #include "renameAttribute.h"
 
 #include "observers.h"
-#include "observers.h"
 #include "scene.h"
 
 #include <algorithm>
