@@ -1,4 +1,5 @@
 // What the scene's observers are told of files and of undo.
+#include "../support/temporaryFolder.h"
 #include "CommandFixture.h"
 
 #include "engine/observers.h"
@@ -16,12 +17,6 @@ using testing::IsEmpty;
 class FileEventsTest : public CommandFixture
 {
 protected:
-    FileEventsTest() : file(std::filesystem::path(testing::TempDir()) / "fileEvents.ma")
-    {
-        std::filesystem::remove(file);
-    }
-    ~FileEventsTest() override { std::filesystem::remove(file); }
-
     void hear(Happening what, const std::string& name)
     {
         scene.observers().add({what}, [this, name](const Event& event) {
@@ -35,7 +30,8 @@ protected:
     std::string save() { return "file -rename \"" + file.string() + "\"; file -save -type mayaAscii"; }
     std::vector<std::string> takeHeard() { return std::exchange(heard, {}); }
 
-    std::filesystem::path file;
+    const test::TemporaryFolder folder;
+    const std::filesystem::path file = folder / "fileEvents.ma";
     std::vector<std::string> heard;
 };
 
