@@ -14,9 +14,11 @@
 
 #include <algorithm>
 #include <array>
+#include <cstdint>
 #include <map>
 #include <memory>
 #include <set>
+#include <utility>
 
 using namespace tvxhost::api;
 using tvxhost::api::test::LibraryFunction;
@@ -27,10 +29,19 @@ constexpr auto kCode = MStatus::kLicenseFailure; // which the host gives for no 
 
 /// Room for what a pointer or reference among the arguments may point to, all zero.
 using Room = std::array<char, 4096>;
-constexpr std::size_t kArguments = 14;
+/// More than any function of the interface has, with the object and the room for the result.
+constexpr std::size_t kArguments = 24;
+using Rooms = std::array<Room, kArguments>;
 
-using AnyFunction = void (*)(void*, void*, void*, void*, void*, void*, void*, void*, void*, void*, void*,
-                             void*, void*, void*);
+template <std::size_t>
+using Argument = void*;
+
+template <std::size_t... places>
+void callWith(const void* address, Rooms& rooms, std::index_sequence<places...>)
+{
+    using AnyFunction = void (*)(Argument<places>...);
+    reinterpret_cast<AnyFunction>(reinterpret_cast<std::uintptr_t>(address))(&rooms[places]...);
+}
 
 bool isStatus(const Room& room, MStatus::MStatusCode code)
 {
@@ -51,17 +62,13 @@ enum Answer : int
 /// all functions.
 Answer answerOf(const LibraryFunction& function)
 {
-    std::vector<std::unique_ptr<Room>> rooms;
-    for (std::size_t i = 0; i < kArguments; ++i)
-        rooms.push_back(std::make_unique<Room>());
+    const auto rooms = std::make_unique<Rooms>();
     faults::record(true);
     faults::failCall(function.name, 0, kCode);
-    const auto call = reinterpret_cast<AnyFunction>(function.address);
-    call(&*rooms[0], &*rooms[1], &*rooms[2], &*rooms[3], &*rooms[4], &*rooms[5], &*rooms[6], &*rooms[7],
-         &*rooms[8], &*rooms[9], &*rooms[10], &*rooms[11], &*rooms[12], &*rooms[13]);
+    callWith(function.address, *rooms, std::make_index_sequence<kArguments>());
     const auto isIn = [&rooms](MStatus::MStatusCode code) {
-        return std::any_of(rooms.begin(), rooms.end(),
-                           [code](const auto& room) { return isStatus(*room, code); });
+        return std::any_of(rooms->begin(), rooms->end(),
+                           [code](const Room& room) { return isStatus(room, code); });
     };
     // What the host does not do fails at every call.
     if (isIn(MStatus::kNotImplemented))
