@@ -56,21 +56,6 @@ bool DagNode::isTransform() const
     return !type().isShape && type().name != "world";
 }
 
-DagNode* DagNode::childAt(std::size_t i) const
-{
-    constexpr std::size_t kNodeAhead = 8, kChildrenAhead = 4;
-    if (i + kNodeAhead < m_children.size()) {
-        const DagNode* later = m_children[i + kNodeAhead];
-        __builtin_prefetch(later);
-        __builtin_prefetch(&later->m_parents);
-        __builtin_prefetch(&later->m_children);
-        const DagNode* soon = m_children[i + kChildrenAhead];
-        if (!soon->m_children.empty())
-            __builtin_prefetch(soon->m_children.front());
-    }
-    return m_children[i];
-}
-
 bool DagNode::isIntermediate()
 {
     Attribute* attribute = m_mayBeIntermediate ? type().intermediateObject() : nullptr;

@@ -164,10 +164,6 @@ public:
     /// In DAG order, shapes and transforms mixed.
     const std::vector<DagNode*>& children() const { return m_children; }
 
-    /// The i-th child. Children are mostly asked for one after the other, so those that come next, and what
-    /// is directly below them, are on their way into the processor's cache.
-    DagNode* childAt(std::size_t i) const;
-
     /// Reads the attribute without evaluating anything.
     bool isIntermediate();
     /// The local matrix of a transform (identity for shapes), row vectors, centimetres and radians inside.

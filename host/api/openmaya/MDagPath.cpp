@@ -212,7 +212,7 @@ MObject MDagPath::child(unsigned int i, MStatus* ReturnStatus) const
     TVX_API_CALL_OR("MDagPath::child", ReturnStatus, MObject());
     const auto* place = valid(path, ReturnStatus);
     if (place && i < place->node()->children().size())
-        return tvxAccess::handle(place->node()->childAt(i));
+        return tvxAccess::handle(place->node()->children()[i]);
     if (place)
         api::give(ReturnStatus, failure(StatusText::noElementAtIndex));
     return MObject();

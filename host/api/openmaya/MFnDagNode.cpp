@@ -250,12 +250,7 @@ MObject MFnDagNode::child(unsigned int i, MStatus* ReturnStatus) const
 {
     TVX_API_CALL_OR("MFnDagNode::child", ReturnStatus, MObject());
     const DagNode* node = dagNodeOf(*this);
-    if (!requireAttached(node, ReturnStatus))
-        return MObject();
-    if (i < node->children().size())
-        return tvxAccess::handle(node->childAt(i));
-    give(ReturnStatus, failure(StatusText::noElementAtIndex));
-    return MObject();
+    return requireAttached(node, ReturnStatus) ? nodeAt(node->children(), i, ReturnStatus) : MObject();
 }
 
 // Children stand in the order of parenting: one cannot be put before others.
