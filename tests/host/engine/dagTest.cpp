@@ -142,6 +142,15 @@ TEST_F(DagTest, PathsGrowAndShrinkAlongTheDag)
     EXPECT_FALSE(DagPath().isValid());
 }
 
+TEST_F(DagTest, APathThatWasMovedFromIsNoneAnyMore)
+{
+    DagPath path = DagPath::firstTo(makeTransform("a"));
+    EXPECT_TRUE(path.isValid());
+    const DagPath taken = std::move(path);
+    EXPECT_TRUE(taken.isValid());
+    EXPECT_FALSE(path.isValid());
+}
+
 TEST_F(DagTest, TheShapeBelowIsTheFirstThatIsNotIntermediate)
 {
     DagNode& a = makeTransform("a");

@@ -94,6 +94,20 @@ TEST_F(JournalTest, aDeletedNodeKeepsItsPlaceAmongTheOthers)
     EXPECT_TRUE(c.isAlive());
 }
 
+TEST_F(JournalTest, aPathIsValidWhileAllItsNodesAreThere)
+{
+    const DagPath path = DagPath::firstTo(c);
+    const DagPath elsewhere = DagPath::firstTo(b);
+    EXPECT_TRUE(path.isValid());
+    asCommand([&] { ASSERT_TRUE(scene.deleteNode(a)); });
+    EXPECT_FALSE(path.isValid());
+    EXPECT_TRUE(elsewhere.isValid());
+    scene.journal().undo();
+    EXPECT_TRUE(path.isValid());
+    scene.journal().redo();
+    EXPECT_FALSE(path.isValid());
+}
+
 TEST_F(JournalTest, aNodeThatWasTakenBackIsTheSameWhenItIsMadeAgain)
 {
     Ref<Node> made;
