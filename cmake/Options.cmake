@@ -5,6 +5,8 @@ option(TVX_BUILD_BENCH "Build the benchmarks (they need optimised code to mean a
 option(TVX_SCALABLE_MALLOC
        "Link TBB's allocator proxy; off where another tool must own malloc (sanitizers)" ON)
 option(TVX_COVERAGE "Instrument for gcov" OFF)
+option(TVX_TEST_PER_PROGRAM
+       "Run each test program whole; a process per case costs minutes where the code is instrumented" OFF)
 set(TVX_SANITIZE "" CACHE STRING
     "Sanitizers to build everything with, as -fsanitize= takes them: address,undefined or thread")
 set(MAYA_LOCATION "" CACHE PATH "A Maya installation to build the plug-in for")
