@@ -3,6 +3,7 @@
 
 #include "engine/scene.h"
 #include "support/apiCall.h"
+#include "support/curveSet.h"
 #include "support/notImplemented.h"
 
 using namespace tvxhost;
@@ -47,6 +48,24 @@ MStatus refuse(const char* name)
 {
     TVX_API_CALL(name);
     return notImplemented(name);
+}
+
+using Tangent = MFnAnimCurve::TangentType;
+
+Tangent globalTangent(const char* name, Tangent api::GlobalTangents::*side, MStatus* returnStatus)
+{
+    TVX_API_CALL_OR(name, returnStatus, MFnAnimCurve::kTangentGlobal);
+    api::giveSuccess(returnStatus);
+    return api::globalTangents().*side;
+}
+
+MStatus setGlobalTangent(const char* name, Tangent api::GlobalTangents::*side, Tangent type)
+{
+    TVX_API_CALL(name);
+    if (!api::tangentKind(type))
+        return failure(MS::kInvalidParameter, StatusText::unexpectedFailure);
+    api::globalTangents().*side = type;
+    return MS::kSuccess;
 }
 
 } // namespace
@@ -217,4 +236,24 @@ MStatus MAnimControl::setAutoKeyMode(bool)
 MStatus MAnimControl::setWeightedTangents(bool)
 {
     return refuse("MAnimControl::setWeightedTangents");
+}
+
+MFnAnimCurve::TangentType MAnimControl::globalInTangentType(MStatus* ReturnStatus)
+{
+    return globalTangent("MAnimControl::globalInTangentType", &api::GlobalTangents::in, ReturnStatus);
+}
+
+MStatus MAnimControl::setGlobalInTangentType(const MFnAnimCurve::TangentType& tangentType)
+{
+    return setGlobalTangent("MAnimControl::setGlobalInTangentType", &api::GlobalTangents::in, tangentType);
+}
+
+MFnAnimCurve::TangentType MAnimControl::globalOutTangentType(MStatus* ReturnStatus)
+{
+    return globalTangent("MAnimControl::globalOutTangentType", &api::GlobalTangents::out, ReturnStatus);
+}
+
+MStatus MAnimControl::setGlobalOutTangentType(const MFnAnimCurve::TangentType& tangentType)
+{
+    return setGlobalTangent("MAnimControl::setGlobalOutTangentType", &api::GlobalTangents::out, tangentType);
 }

@@ -93,7 +93,9 @@ struct TangentKinds
 
 TangentKinds kindsOf(MFnAnimCurve::TangentType in, MFnAnimCurve::TangentType out)
 {
-    return {api::tangentKind(in), api::tangentKind(out)};
+    const api::GlobalTangents& globals = api::globalTangents();
+    return {api::tangentKind(in == MFnAnimCurve::kTangentGlobal ? globals.in : in),
+            api::tangentKind(out == MFnAnimCurve::kTangentGlobal ? globals.out : out)};
 }
 
 /// Adds or sets a key; a key that is there keeps what is not given.

@@ -42,10 +42,14 @@ engine::UnitKind unitOf(const engine::Node& curve, const char* plug)
 
 } // namespace
 
+GlobalTangents& globalTangents()
+{
+    static GlobalTangents tangents;
+    return tangents;
+}
+
 std::optional<TangentKind> tangentKind(MFnAnimCurve::TangentType type)
 {
-    if (type == MFnAnimCurve::kTangentGlobal)
-        return TangentKind::automatic;
     for (const KindRow& row : kKinds)
         if (row.type == type)
             return row.kind;

@@ -108,7 +108,10 @@ DeclaredFunction functionOf(const std::string& className, const std::string& dec
     function.returnsStatus =
         trimmed(std::regex_replace(declaration.substr(0, place.begin), specifiers, "")) == "MStatus";
     function.takesStatus = parameters.find("MStatus*") != std::string::npos;
-    function.isInline = isInline || declaration.find("= default") != std::string::npos;
+    // Pure virtual functions are in no library either.
+    const std::string_view specifier = std::string_view(declaration).substr(behind);
+    function.isInline = isInline || declaration.find("= default") != std::string::npos ||
+                        specifier.find("= 0") != std::string_view::npos;
     return function;
 }
 

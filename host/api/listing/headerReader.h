@@ -14,7 +14,7 @@ struct DeclaredFunction
     unsigned int parameters = 0;
     bool returnsStatus = false; ///< its result is an MStatus
     bool takesStatus = false;   ///< it has an MStatus* to write to
-    bool isInline = false;      ///< defined in the header, so that no library has it
+    bool isInline = false;      ///< defined in the header, or pure virtual: no library has it
 };
 
 /// The public functions of all classes that a header defines, in the order of their declarations; deleted

@@ -275,6 +275,45 @@ MStatus MDGModifier::unlinkExtensionAttributeFromPlugin(const MObject&, const MO
     return notImplemented("MDGModifier::unlinkExtensionAttributeFromPlugin");
 }
 
+MStatus MDGModifier::addExtensionAttribute(const MNodeClass&, const MObject&)
+{
+    return notImplemented("MDGModifier::addExtensionAttribute");
+}
+
+MStatus MDGModifier::removeExtensionAttribute(const MNodeClass&, const MObject&)
+{
+    return notImplemented("MDGModifier::removeExtensionAttribute");
+}
+
+MStatus MDGModifier::removeExtensionAttributeIfUnset(const MNodeClass&, const MObject&)
+{
+    return notImplemented("MDGModifier::removeExtensionAttributeIfUnset");
+}
+
+bool MDGModifier::checkCompoundAttrs(const TattributeList&, const Tstring&, const Tstring&)
+{
+    notImplemented("MDGModifier::checkCompoundAttrs");
+    return false;
+}
+
+bool MDGModifier::attrExistsAtNode(TdependNode*, Tattribute*)
+{
+    notImplemented("MDGModifier::attrExistsAtNode");
+    return false;
+}
+
+// Metadata
+
+MStatus MDGModifier::setMetadata(const MObject&, const adsk::Data::Associations&)
+{
+    return notImplemented("MDGModifier::setMetadata");
+}
+
+MStatus MDGModifier::deleteMetadata(const MObject&)
+{
+    return notImplemented("MDGModifier::deleteMetadata");
+}
+
 // Commands
 
 MStatus MDGModifier::commandToExecute(const MString& command)

@@ -8,6 +8,7 @@
 #include <maya/MTypeId.h>
 #include <maya/MUuid.h>
 
+#include "support/attributeLists.h"
 #include "support/nodeSet.h"
 #include "support/notImplemented.h"
 #include "support/plugCall.h"
@@ -32,22 +33,6 @@ MObject create(MFnDependencyNode& set, NodeType* type, const std::string& name, 
         return MObject();
     tvxAccess::attach(set, made.value);
     return tvxAccess::handle(made.value);
-}
-
-void appendWithChildren(Attribute* attribute, std::vector<Attribute*>& all)
-{
-    all.push_back(attribute);
-    for (const auto& child : attribute->children)
-        appendWithChildren(child.get(), all);
-}
-
-/// Every attribute, each followed by its children.
-std::vector<Attribute*> allAttributes(const Node& node)
-{
-    std::vector<Attribute*> all;
-    for (Attribute* attribute : node.attributes())
-        appendWithChildren(attribute, all);
-    return all;
 }
 
 MObject attributeAt(const MFnDependencyNode& set, const char* name, unsigned int index, MStatus* returnStatus)

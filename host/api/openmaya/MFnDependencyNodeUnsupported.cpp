@@ -1,4 +1,5 @@
 // MFnDependencyNode: members that the host does not do: flags, icons, metadata, timing.
+#include <maya/MCallbackIdArray.h>
 #include <maya/MDoubleArray.h>
 #include <maya/MFnDependencyNode.h>
 #include <maya/MStringArray.h>
@@ -107,4 +108,9 @@ double MFnDependencyNode::dgTimer(const MdgTimerMetric, const MdgTimerType, MSta
 MStatus MFnDependencyNode::dgCallbacks(const MdgTimerType, MStringArray&, MDoubleArray&)
 {
     return notImplemented("MFnDependencyNode::dgCallbacks");
+}
+
+MStatus MFnDependencyNode::dgCallbackIds(const MdgTimerType, const MString&, MCallbackIdArray&, MDoubleArray&)
+{
+    return notImplemented("MFnDependencyNode::dgCallbackIds");
 }

@@ -445,3 +445,10 @@ MStatus MFnMesh::validateMetadata(MString&) const
     TVX_API_CALL("MFnMesh::validateMetadata");
     return notImplemented("MFnMesh::validateMetadata");
 }
+
+bool MFnMesh::getMeshForIntersection(MSpace::Space, MFloatPoint&, MFloatVector&, void*&,
+                                     MStatus* ReturnStatus)
+{
+    notImplemented("MFnMesh::getMeshForIntersection", ReturnStatus);
+    return false;
+}

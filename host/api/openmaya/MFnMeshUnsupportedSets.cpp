@@ -607,3 +607,15 @@ MString MFnMesh::createColorSetWithNameDataMesh(const MString&, bool, MColorRepr
     notImplemented("MFnMesh::createColorSetWithNameDataMesh", ReturnStatus);
     return MString();
 }
+
+bool MFnMesh::getUVSetIndex(const MString*, int&) const
+{
+    notImplemented("MFnMesh::getUVSetIndex");
+    return false;
+}
+
+bool MFnMesh::getColorSetIndex(const MString*, int&) const
+{
+    notImplemented("MFnMesh::getColorSetIndex");
+    return false;
+}

@@ -213,3 +213,54 @@ MStatus MFnPlugin::registerTransform(const MString&, const MTypeId&, MCreatorFun
 {
     return notImplemented("MFnPlugin::registerTransform");
 }
+
+MStatus MFnPlugin::registerTransform(const MString&, const MTypeId&, MCreatorFunction, MInitializeFunction,
+                                     MCreateXformMatrixFunction, const MTypeId&, const MString*)
+{
+    return notImplemented("MFnPlugin::registerTransform");
+}
+
+MStatus MFnPlugin::registerData(const MString&, const MTypeId&, MCreatorFunction, MPxData::Type)
+{
+    return notImplemented("MFnPlugin::registerData");
+}
+
+MStatus MFnPlugin::deregisterData(const MTypeId&)
+{
+    return notImplemented("MFnPlugin::deregisterData");
+}
+
+MStatus MFnPlugin::registerUI(PyObject*, PyObject*, PyObject*, PyObject*)
+{
+    return notImplemented("MFnPlugin::registerUI(PyObject)");
+}
+
+MStatus MFnPlugin::registerRenderPassImpl(const MString&, MRenderPassDef*, MCreatorFunction, bool)
+{
+    return notImplemented("MFnPlugin::registerRenderPassImpl");
+}
+
+MStatus MFnPlugin::deregisterRenderPassImpl(const MString&)
+{
+    return notImplemented("MFnPlugin::deregisterRenderPassImpl");
+}
+
+MStatus MFnPlugin::registerMaterialInfo(const MString&, MMaterialInfoFactoryFnPtr)
+{
+    return notImplemented("MFnPlugin::registerMaterialInfo");
+}
+
+MStatus MFnPlugin::unregisterMaterialInfo(const MString&)
+{
+    return notImplemented("MFnPlugin::unregisterMaterialInfo");
+}
+
+MStatus MFnPlugin::registerBakeEngine(const MString&, MBakeEngineCreatorFnPtr)
+{
+    return notImplemented("MFnPlugin::registerBakeEngine");
+}
+
+MStatus MFnPlugin::unregisterBakeEngine(const MString&)
+{
+    return notImplemented("MFnPlugin::unregisterBakeEngine");
+}

@@ -189,3 +189,20 @@ bool MItMeshPolygon::isStarlike(MStatus* ReturnStatus)
     notImplemented("MItMeshPolygon::isStarlike", ReturnStatus);
     return false;
 }
+
+bool MItMeshPolygon::getUVSetIndex(const MString*, int&) const
+{
+    notImplemented("MItMeshPolygon::getUVSetIndex");
+    return false;
+}
+
+bool MItMeshPolygon::updateColorSet(const MString*, int&)
+{
+    notImplemented("MItMeshPolygon::updateColorSet");
+    return false;
+}
+
+void MItMeshPolygon::resetColorSetToPrevious(const MString*, int)
+{
+    notImplemented("MItMeshPolygon::resetColorSetToPrevious");
+}

@@ -91,3 +91,20 @@ MStatus MItMeshVertex::getColorIndices(MIntArray&, const MString*) const
     TVX_API_CALL("MItMeshVertex::getColorIndices");
     return notImplemented("MItMeshVertex::getColorIndices");
 }
+
+bool MItMeshVertex::getUVSetIndex(const MString*, int&) const
+{
+    notImplemented("MItMeshVertex::getUVSetIndex");
+    return false;
+}
+
+bool MItMeshVertex::updateColorSet(const MString*, int&) const
+{
+    notImplemented("MItMeshVertex::updateColorSet");
+    return false;
+}
+
+void MItMeshVertex::resetColorSetToPrevious(const MString*, int) const
+{
+    notImplemented("MItMeshVertex::resetColorSetToPrevious");
+}

@@ -3,6 +3,7 @@
 #include <maya/MMessage.h>
 
 #include "support/callbacks.h"
+#include "support/notImplemented.h"
 
 using namespace tvxhost::api;
 using tvxhost::engine::Node;
@@ -87,4 +88,19 @@ bool MMessage::registeringCallableScript()
 const char* MMessage::className()
 {
     return "MMessage";
+}
+
+void MMessage::addNode(MMessageNodePtr)
+{
+    notImplemented("MMessage::addNode");
+}
+
+void MMessage::removeNode(MMessageNodePtr)
+{
+    notImplemented("MMessage::removeNode");
+}
+
+void MMessage::addQtUICallback(QObject*)
+{
+    notImplemented("MMessage::addQtUICallback");
 }

@@ -29,7 +29,16 @@ struct CurveChanges
     static CurveChanges& of(MAnimCurveChange& change) { return *change.changes; }
 };
 
+/// The kinds of tangents that kTangentGlobal stands for, in this session.
+struct GlobalTangents
+{
+    MFnAnimCurve::TangentType in = MFnAnimCurve::kTangentAuto;
+    MFnAnimCurve::TangentType out = MFnAnimCurve::kTangentAuto;
+};
+GlobalTangents& globalTangents();
+
 /// The kinds of tangents of the API and of the engine; empty for those that are none of the host's.
+/// kTangentGlobal is none by itself.
 std::optional<engine::TangentKind> tangentKind(MFnAnimCurve::TangentType type);
 MFnAnimCurve::TangentType tangentType(engine::TangentKind kind);
 

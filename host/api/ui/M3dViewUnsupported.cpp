@@ -158,3 +158,70 @@ void M3dView::setMultipleDrawPassCount(unsigned int)
 {
     notImplemented("M3dView::setMultipleDrawPassCount");
 }
+
+// What a window of the window system would have
+
+Display* M3dView::display(MStatus* ReturnStatus)
+{
+    TVX_API_CALL_OR("M3dView::display", ReturnStatus, nullptr);
+    notImplemented("M3dView::display", ReturnStatus);
+    return nullptr;
+}
+
+MGLContext M3dView::glxContext(MStatus* ReturnStatus)
+{
+    TVX_API_CALL_OR("M3dView::glxContext", ReturnStatus, nullptr);
+    notImplemented("M3dView::glxContext", ReturnStatus);
+    return nullptr;
+}
+
+MNativeWindowHdl M3dView::applicationShell(MStatus* ReturnStatus)
+{
+    TVX_API_CALL_OR("M3dView::applicationShell", ReturnStatus, 0);
+    notImplemented("M3dView::applicationShell", ReturnStatus);
+    return 0;
+}
+
+QWidget* M3dView::widget(MStatus* ReturnStatus) const
+{
+    TVX_API_CALL_OR("M3dView::widget", ReturnStatus, nullptr);
+    notImplemented("M3dView::widget", ReturnStatus);
+    return nullptr;
+}
+
+MNativeWindowHdl M3dView::window(MStatus* ReturnStatus)
+{
+    TVX_API_CALL_OR("M3dView::window", ReturnStatus, 0);
+    notImplemented("M3dView::window", ReturnStatus);
+    return 0;
+}
+
+// Pictures in memory
+
+MStatus M3dView::refresh(MPxGlBuffer&)
+{
+    TVX_API_CALL("M3dView::refresh");
+    return notImplemented("M3dView::refresh(MPxGlBuffer)");
+}
+
+MStatus M3dView::refresh(MPxGlBuffer& buffer, bool)
+{
+    return refresh(buffer);
+}
+
+MStatus M3dView::refresh(MPxGlBuffer& buffer, bool, const MMatrix&)
+{
+    return refresh(buffer);
+}
+
+MStatus M3dView::readColorBuffer(MImage&, bool)
+{
+    TVX_API_CALL("M3dView::readColorBuffer");
+    return notImplemented("M3dView::readColorBuffer");
+}
+
+MStatus M3dView::writeColorBuffer(const MImage&, short, short) const
+{
+    TVX_API_CALL("M3dView::writeColorBuffer");
+    return notImplemented("M3dView::writeColorBuffer");
+}

@@ -13,6 +13,15 @@
 
 #include <GL/gl.h>
 
+class MImage;
+class MPxGlBuffer;
+class QWidget;
+
+// What the window system calls a connection, a context and a window.
+typedef struct _XDisplay Display;
+typedef struct __GLXcontextRec* MGLContext;
+typedef unsigned long MNativeWindowHdl;
+
 /// A viewport: its size, camera, colours and display options, and the way to draw into it. Copies stand for
 /// the same viewport. Positions are pixels from the lower left.
 class OPENMAYAUI_EXPORT M3dView
@@ -150,6 +159,13 @@ public:
     /// Where the view is on the screen.
     void getScreenPosition(int& x, int& y, MStatus* ReturnStatus = nullptr) const;
 
+    /// What the window system knows of the view. The host's views are no windows: null, kNotImplemented.
+    Display* display(MStatus* ReturnStatus = nullptr);
+    MGLContext glxContext(MStatus* ReturnStatus = nullptr);
+    static MNativeWindowHdl applicationShell(MStatus* ReturnStatus = nullptr);
+    QWidget* widget(MStatus* ReturnStatus = nullptr) const;
+    MNativeWindowHdl window(MStatus* ReturnStatus = nullptr);
+
     /// Size in pixels.
     int portWidth(MStatus* ReturnStatus = nullptr);
     int portHeight(MStatus* ReturnStatus = nullptr);
@@ -236,6 +252,15 @@ public:
     /// Redraws at once, this view or all of them; `force` also when nothing has changed.
     MStatus refresh(bool all = false, bool force = false);
     MStatus refresh(bool all, bool force, bool offscreen);
+
+    /// The same into a plug-in's own buffer: kNotImplemented.
+    MStatus refresh(MPxGlBuffer& buffer);
+    MStatus refresh(MPxGlBuffer& buffer, bool offscreen);
+    MStatus refresh(MPxGlBuffer& buffer, bool offscreen, const MMatrix& projectionMatrix);
+
+    /// The picture as an image: kNotImplemented.
+    MStatus readColorBuffer(MImage& image, bool readRGBA = false);
+    MStatus writeColorBuffer(const MImage& image, short x = 0, short y = 0) const;
 
     /// The lights that the view uses.
     MStatus getLightCount(unsigned int& count, bool visible = true);

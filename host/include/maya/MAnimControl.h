@@ -1,6 +1,7 @@
 // MAnimControl: the current time and playing.
 #pragma once
 
+#include <maya/MFnAnimCurve.h>
 #include <maya/MStatus.h>
 #include <maya/MTime.h>
 #include <maya/MTypes.h>
@@ -80,6 +81,13 @@ public:
     /// Whether new curves have weighted tangents.
     static bool weightedTangents(MStatus* ReturnStatus = nullptr);
     static MStatus setWeightedTangents(bool weightState);
+
+    /// The kinds of tangents of keys that are added with kTangentGlobal; at first kTangentAuto.
+    /// kInvalidParameter for kTangentGlobal itself and for what is no kind.
+    static MFnAnimCurve::TangentType globalInTangentType(MStatus* ReturnStatus = nullptr);
+    static MStatus setGlobalInTangentType(const MFnAnimCurve::TangentType& tangentType);
+    static MFnAnimCurve::TangentType globalOutTangentType(MStatus* ReturnStatus = nullptr);
+    static MStatus setGlobalOutTangentType(const MFnAnimCurve::TangentType& tangentType);
 
 private:
     friend class tvxAccess;

@@ -10,9 +10,14 @@
 
 class MAngle;
 class MDistance;
+class MNodeClass;
 class MPlug;
 class MTime;
 class MTypeId;
+class Tattribute;
+class TattributeList;
+class TdependNode;
+class Tstring;
 
 /// Queues changes of the graph. doIt() makes them, undoIt() takes them back, and doIt() after that makes them
 /// again; a second doIt() makes only those queued since. Queueing fails with kInvalidParameter when an
@@ -61,6 +66,15 @@ public:
     MStatus linkExtensionAttributeToPlugin(const MObject& plugin, const MObject& attribute);
     MStatus unlinkExtensionAttributeFromPlugin(const MObject& mPlugin, const MObject& mAttribute);
 
+    /// Attributes of all nodes of a type: kNotImplemented.
+    MStatus addExtensionAttribute(const MNodeClass& nodeClass, const MObject& attribute);
+    MStatus removeExtensionAttribute(const MNodeClass& nodeClass, const MObject& attribute);
+    MStatus removeExtensionAttributeIfUnset(const MNodeClass& nodeClass, const MObject& attribute);
+
+    /// Metadata: kNotImplemented.
+    MStatus setMetadata(const MObject& node, const adsk::Data::Associations& metadata);
+    MStatus deleteMetadata(const MObject& node);
+
     /// Runs a MEL command.
     MStatus commandToExecute(const MString& command);
 
@@ -97,6 +111,10 @@ protected:
     MDGModifier(const MDGModifier& other);
 
     MDGModifier& operator=(const MDGModifier& rhs);
+
+    /// For Maya's own use: kNotImplemented, false.
+    bool checkCompoundAttrs(const TattributeList&, const Tstring&, const Tstring&);
+    bool attrExistsAtNode(TdependNode*, Tattribute*);
 
 private:
     friend class tvxAccess;

@@ -17,6 +17,7 @@ class MFloatMatrix;
 class MFloatVector;
 class MMatrix;
 class MPlug;
+class MPxData;
 class MString;
 class MUintArray;
 class MVector;
@@ -140,6 +141,11 @@ public:
 
     /// Stores a data object; kFailure when it is of the wrong type.
     MStatus set(const MObject& data);
+
+    /// A plug-in's own data, which the host does not keep: kNotImplemented, null.
+    MStatus set(MPxData* data);
+    MStatus setMPxData(MPxData* data);
+    MPxData* asPluginData() const;
 
     /// As set, by name.
     void setBool(bool value);

@@ -1124,5 +1124,8 @@ public:
         kLast = 1106,
     };
 
+    /// Of the type kInvalid.
+    MFn();
+
     Type nodeType;
 };

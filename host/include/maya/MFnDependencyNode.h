@@ -11,7 +11,10 @@
 #include <maya/MTypes.h>
 #include <maya/MUuid.h>
 
+class MCallbackIdArray;
 class MDoubleArray;
+class MExternalContentInfoTable;
+class MExternalContentLocationTable;
 class MObjectArray;
 class MPlugArray;
 class MPxNode;
@@ -209,6 +212,21 @@ public:
     double dgTimer(const MdgTimerMetric timerMetric, const MdgTimerType timerType,
                    MStatus* ReturnStatus = nullptr) const;
     MStatus dgCallbacks(const MdgTimerType type, MStringArray& callbackName, MDoubleArray& value);
+    MStatus dgCallbackIds(const MdgTimerType type, const MString& callbackName, MCallbackIdArray& callbackId,
+                          MDoubleArray& value);
+
+    /// The files that the node needs, as its type tells them; of a type that tells none the paths in the
+    /// attributes that are used as file names, each under the attribute's long name.
+    MStatus getExternalContent(MExternalContentInfoTable& table) const;
+
+    /// Adds the path in one attribute; kInvalidParameter for an attribute that the node has not, that is no
+    /// text, or that is there already.
+    MStatus addExternalContentForFileAttr(MExternalContentInfoTable& table, const MObject& attr) const;
+
+    /// Has the node take its files from elsewhere, or the one in an attribute: kInvalidParameter when it is
+    /// not in the table.
+    MStatus setExternalContentForFileAttr(const MObject& attr, const MExternalContentLocationTable& table);
+    MStatus setExternalContent(const MExternalContentLocationTable& table);
 
     /// The name of this class.
     static const char* className();

@@ -566,6 +566,11 @@ public:
 protected:
     bool objectChanged(MFn::Type tp, MStatus* ReturnStatus) override;
 
+    /// For Maya's own use: kNotImplemented, false.
+    bool getUVSetIndex(const MString* uvSetName, int& uvSet) const;
+    bool getColorSetIndex(const MString* colorSetName, int& colorSet) const;
+    bool getMeshForIntersection(MSpace::Space, MFloatPoint&, MFloatVector&, void*&, MStatus*);
+
 private:
     friend class tvxAccess;
 

@@ -5,6 +5,7 @@
 #include <maya/MFn.h>
 #include <maya/MFnBase.h>
 #include <maya/MObject.h>
+#include <maya/MPxData.h>
 #include <maya/MPxNode.h>
 #include <maya/MStatus.h>
 #include <maya/MString.h>
@@ -24,6 +25,17 @@ char MApiVersion[] = TVX_VERSION_TEXT(MAYA_API_VERSION);
 #undef TVX_VERSION_TEXT
 #undef TVX_TEXT_OF
 #endif
+
+class MPxBakeEngine;
+class MPxMaterialInformation;
+class MPxTransformationMatrix;
+class MRenderPassDef;
+typedef struct _object PyObject;
+
+/// Make instances of a plug-in's classes; Maya owns and deletes them.
+typedef MPxTransformationMatrix* (*MCreateXformMatrixFunction)();
+typedef MPxMaterialInformation* (*MMaterialInfoFactoryFnPtr)(MObject&);
+typedef MPxBakeEngine* (*MBakeEngineCreatorFnPtr)();
 
 /// A plug-in as seen by its entry points: registers what it adds when it is loaded, and takes it back when it
 /// is unloaded. When a plug-in makes several of these, vendor and version are those of the first.
@@ -155,10 +167,33 @@ public:
                               MCreatorFunction xformCreatorFunction, const MTypeId& xformId,
                               const MString* classification = nullptr);
 
+    MStatus registerTransform(const MString& typeName, const MTypeId& typeId,
+                              MCreatorFunction creatorFunction, MInitializeFunction initFunction,
+                              MCreateXformMatrixFunction xformCreatorFunction, const MTypeId& xformId,
+                              const MString* classification = nullptr);
+
+    /// Adds a type of data of its own, or removes it.
+    MStatus registerData(const MString& typeName, const MTypeId& typeId, MCreatorFunction creatorFunction,
+                         MPxData::Type type = MPxData::kData);
+    MStatus deregisterData(const MTypeId& typeId);
+
+    /// What rendering can be extended by.
+    MStatus registerRenderPassImpl(const MString& passImplId, MRenderPassDef* passDef,
+                                   MCreatorFunction creatorFunction, bool overload = false);
+    MStatus deregisterRenderPassImpl(const MString& passImplId);
+    MStatus registerMaterialInfo(const MString& type, MMaterialInfoFactoryFnPtr fnPtr);
+    MStatus unregisterMaterialInfo(const MString& typeName);
+    MStatus registerBakeEngine(const MString& typeName, MBakeEngineCreatorFnPtr fnPtr);
+    MStatus unregisterBakeEngine(const MString& typeName);
+
     /// Names of MEL procedures: Maya runs the first when the plug-in is loaded and the second when it is
     /// unloaded; in batch mode the last two.
     MStatus registerUI(const MString& creationProc, const MString& deletionProc,
                        const MString& creationBatchProc = "", const MString& deletionBatchProc = "");
+
+    /// The same with functions of Python.
+    MStatus registerUI(PyObject* creationProc, PyObject* deletionProc, PyObject* creationBatchProc = nullptr,
+                       PyObject* deletionBatchProc = nullptr);
 
     /// The name of this class.
     static const char* className();

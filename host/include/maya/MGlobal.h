@@ -3,6 +3,7 @@
 
 #include <maya/MFn.h>
 #include <maya/MObject.h>
+#include <maya/MSelectionMask.h>
 #include <maya/MStatus.h>
 #include <maya/MString.h>
 #include <maya/MTransformationMatrix.h>
@@ -14,6 +15,7 @@ class MDagPath;
 class MDoubleArray;
 class MIntArray;
 class MObjectArray;
+class MRichSelection;
 class MSelectionList;
 class MStringArray;
 class MTime;
@@ -84,6 +86,24 @@ public:
     static MStatus getLiveList(MSelectionList& dest);
     static MStatus getHiliteList(MSelectionList& dest);
     static MStatus setHiliteList(MSelectionList& src);
+
+    /// The selection with its mirror image, which is empty here. Without `defaultToActiveSelection` only one
+    /// that is more than the plain selection counts: kFailure.
+    static MStatus getRichSelection(MRichSelection& dest, bool defaultToActiveSelection = true);
+
+    /// Replaces the selection. Cannot be undone.
+    static MStatus setRichSelection(const MRichSelection& src);
+
+    /// What the user's cursor can select among objects, components, animation and the rest. The host keeps
+    /// the masks; it selects by name only.
+    static MSelectionMask objectSelectionMask(MStatus* ReturnStatus = nullptr);
+    static MStatus setObjectSelectionMask(const MSelectionMask& mask);
+    static MSelectionMask componentSelectionMask(MStatus* ReturnStatus = nullptr);
+    static MStatus setComponentSelectionMask(const MSelectionMask& mask);
+    static MSelectionMask animSelectionMask(MStatus* ReturnStatus = nullptr);
+    static MStatus setAnimSelectionMask(const MSelectionMask& mask);
+    static MSelectionMask miscSelectionMask(MStatus* ReturnStatus = nullptr);
+    static MStatus setMiscSelectionMask(const MSelectionMask& mask);
 
     /// Replaces the selection or combines with it. Cannot be undone.
     static MStatus setActiveSelectionList(const MSelectionList& src,

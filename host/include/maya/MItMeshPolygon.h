@@ -165,6 +165,12 @@ public:
     /// The name of this class.
     static const char* className();
 
+protected:
+    /// For Maya's own use: kNotImplemented, false.
+    bool getUVSetIndex(const MString* uvSetName, int& uvSet) const;
+    bool updateColorSet(const MString* colorSetName, int& prevSetId);
+    void resetColorSetToPrevious(const MString* colorSetName, int prevSetId);
+
 private:
     friend class tvxAccess;
 

@@ -116,6 +116,12 @@ public:
     /// The name of this class.
     static const char* className();
 
+protected:
+    /// For Maya's own use: kNotImplemented, false.
+    bool getUVSetIndex(const MString* uvSetName, int& uvSet) const;
+    bool updateColorSet(const MString* colorSetName, int& prevSetId) const;
+    void resetColorSetToPrevious(const MString* colorSetName, int prevSetId) const;
+
 private:
     friend class tvxAccess;
 

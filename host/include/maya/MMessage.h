@@ -18,6 +18,10 @@ class MStringArray;
 class MTime;
 class MUintArray;
 class MUuid;
+class QObject;
+
+/// What Maya keeps of a callback.
+typedef struct MMessageNode* MMessageNodePtr;
 
 /// Base class of those with which callbacks are registered. A callback is a function and a pointer that it is
 /// given; it is called on the main thread, may add and remove callbacks, itself included, and edit the scene.
@@ -96,4 +100,10 @@ public:
     /// Obsolete: ids are larger than the elements of these arrays.
     static MStatus removeCallbacks(MIntArray& ids);
     static MStatus nodeCallbacks(MObject& node, MIntArray& ids);
+
+protected:
+    /// For Maya's own use: kNotImplemented.
+    static void addNode(MMessageNodePtr node);
+    static void removeNode(MMessageNodePtr node);
+    static void addQtUICallback(QObject* client);
 };

@@ -15,6 +15,7 @@
 class MDataBlock;
 class MIntArray;
 class MPlugArray;
+class MPxData;
 class MStringArray;
 
 /// A plug names an attribute of a node, with the indices of elements where it stands inside arrays. Copies
@@ -195,6 +196,9 @@ public:
     MStatus setValue(const MString& value);
     MStatus setValue(const char* value);
 
+    /// A plug-in's own data, which the host does not keep: kNotImplemented.
+    MStatus setValue(MPxData* data);
+
     /// The plug's own data as an object, not a copy.
     MObject asMObject(MDGContext& ctx = MDGContext::fsNormal, MStatus* ReturnStatus = nullptr) const;
     MDataHandle asMDataHandle(MDGContext& ctx = MDGContext::fsNormal, MStatus* ReturnStatus = nullptr) const;
@@ -215,6 +219,7 @@ public:
 
     /// As setValue.
     MStatus setMObject(MObject& val);
+    MStatus setMPxData(MPxData* data);
     MStatus setMDataHandle(MDataHandle& handle);
     MStatus setDouble(double value);
     MStatus setFloat(float value);

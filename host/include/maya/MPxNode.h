@@ -162,6 +162,11 @@ public:
     virtual void getExternalContent(MExternalContentInfoTable& table) const;
     virtual void setExternalContent(const MExternalContentLocationTable& table);
 
+    /// For those two: the path in one attribute of this node, under the attribute's long name. False for an
+    /// attribute that holds none, or a key that is there already, or is not.
+    bool addExternalContentForFileAttr(MExternalContentInfoTable& table, const MObject& attr) const;
+    bool setExternalContentForFileAttr(const MObject& attr, const MExternalContentLocationTable& table);
+
     /// For Maya's own use of the protected members below.
     MDataBlock _forceCache(MDGContext& ctx = MDGContext::fsNormal) { return forceCache(ctx); }
     void _setMPSafe(bool flag) { setMPSafe(flag); }

@@ -27,6 +27,7 @@ struct SyntaxTable;    ///< MSyntax
 struct Transformation; ///< MTransformationMatrix
 struct View;           ///< M3dView
 
+struct ContentTable;       ///< MExternalContentInfoTable, MExternalContentLocationTable
 struct FileObject;         ///< MFileObject
 struct GraphIteration;     ///< MItDependencyGraph
 struct ParsedArguments;    ///< MArgParser, MArgDatabase

@@ -2,6 +2,7 @@
 #include "../sceneFixture.h"
 
 #include <maya/MAnimControl.h>
+#include <maya/MFnAnimCurve.h>
 #include <maya/MTime.h>
 
 namespace tvxhost::api::test {
@@ -64,6 +65,25 @@ TEST_F(MAnimControlTest, TellsHowItWouldPlay)
     EXPECT_EQ(MAnimControl::playbackBy(), 2.0);
     EXPECT_EQ(MAnimControl::setPlaybackSpeed(1.0), MS::kSuccess);
     EXPECT_EQ(MAnimControl::playbackSpeed(), 1.0);
+}
+
+TEST_F(MAnimControlTest, KeysTakeTheGlobalTangentsOfTheSession)
+{
+    EXPECT_EQ(MAnimControl::globalInTangentType(), MFnAnimCurve::kTangentAuto);
+    EXPECT_EQ(MAnimControl::setGlobalInTangentType(MFnAnimCurve::kTangentLinear), MS::kSuccess);
+    EXPECT_EQ(MAnimControl::setGlobalOutTangentType(MFnAnimCurve::kTangentStep), MS::kSuccess);
+    EXPECT_EQ(MAnimControl::setGlobalOutTangentType(MFnAnimCurve::kTangentGlobal), MS::kInvalidParameter);
+    MFnAnimCurve curve;
+    curve.create(MFnAnimCurve::kAnimCurveTU);
+    curve.addKeyframe(MTime(1, MTime::kFilm), 1.0);
+    curve.addKeyframe(MTime(2, MTime::kFilm), 2.0, MFnAnimCurve::kTangentFlat, MFnAnimCurve::kTangentGlobal);
+    EXPECT_EQ(curve.inTangentType(0), MFnAnimCurve::kTangentLinear);
+    EXPECT_EQ(curve.outTangentType(0), MFnAnimCurve::kTangentStep);
+    EXPECT_EQ(curve.inTangentType(1), MFnAnimCurve::kTangentFlat);
+    EXPECT_EQ(curve.outTangentType(1), MFnAnimCurve::kTangentStep);
+    EXPECT_EQ(MAnimControl::setGlobalInTangentType(MFnAnimCurve::kTangentAuto), MS::kSuccess);
+    EXPECT_EQ(MAnimControl::setGlobalOutTangentType(MFnAnimCurve::kTangentAuto), MS::kSuccess);
+    EXPECT_EQ(MAnimControl::globalOutTangentType(), MFnAnimCurve::kTangentAuto);
 }
 
 TEST_F(MAnimControlTest, NothingPlays)

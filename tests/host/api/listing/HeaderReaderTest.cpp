@@ -32,6 +32,8 @@ public:
     const MString name() const;
     MThing& operator=(const MThing& other);
     bool operator()(int a, int b) const;
+    virtual void copy(int from = 0) = 0;
+    virtual void write(int to = 0);
     MThing(const MThing&) = delete;
 
 protected:
@@ -60,7 +62,7 @@ TEST(HeaderReader, FindsThePublicFunctions)
     EXPECT_THAT(described(functionsIn(kHeader)),
                 ElementsAre("MThing::MThing/0", "MThing::MThing/2p", "MThing::~MThing/0",
                             "MThing::isGood/2pi", "MThing::doIt/2r", "MThing::name/0", "MThing::operator=/1",
-                            "MThing::operator()/2"));
+                            "MThing::operator()/2", "MThing::copy/1i", "MThing::write/1"));
 }
 
 TEST(HeaderReader, FindsNothingWhereThereIsNoClass)
