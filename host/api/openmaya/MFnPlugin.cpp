@@ -4,7 +4,6 @@
 #include <maya/MFnPlugin.h>
 
 #include "plugins/pluginLoader.h"
-#include "support/pluginSyntax.h"
 #include "support/arguments.h"
 #include "support/builtInAttributes.h"
 #include "support/commandState.h"
@@ -288,11 +287,9 @@ MStatus MFnPlugin::registerCommand(const MString& commandName, MCreatorFunction 
     if (!creatorFunction)
         return failure(StatusText::nullArgument);
     const CommandFactory factory{tvxAccess::text(commandName), creatorFunction, createSyntaxFunction};
-    PluginCommand command{factory.name, plugin->name, [factory](const auto& arguments, auto& result) {
-                              return factory.run(arguments, result);
-                          }};
-    if (createSyntaxFunction)
-        command.syntax = [createSyntaxFunction] { return tvxhost::api::describeSyntax(createSyntaxFunction()); };
+    const PluginCommand command{factory.name, plugin->name, [factory](const auto& arguments, auto& result) {
+                                    return factory.run(arguments, result);
+                                }};
     if (factory.name.empty() || !sessionScene().pluginCommands.emplace(factory.name, command).second)
         return failure(StatusText::unexpectedFailure);
     plugin->commands.push_back(factory.name);
