@@ -38,6 +38,10 @@ set(CMAKE_LIBRARY_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/lib)
 set(CMAKE_ARCHIVE_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/lib)
 set(TVX_PLUGIN_DIRECTORY ${CMAKE_BINARY_DIR}/plug-ins)
 
+if(WIN32)
+  # Some of Maya's headers include windows.h there, whose macros min and max stand in the way of std::min.
+  add_compile_definitions(NOMINMAX)
+endif()
 if(MSVC)
   add_compile_options(/W4 /WX /permissive- /utf-8)
 else()
