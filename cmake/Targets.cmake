@@ -40,6 +40,9 @@ function(tvx_plugin target)
     VISIBILITY_INLINES_HIDDEN ON
     LIBRARY_OUTPUT_DIRECTORY ${TVX_PLUGIN_DIRECTORY}
     INSTALL_RPATH "$ORIGIN:$ORIGIN/../lib")
+  if(MSVC)
+    target_link_options(${target} PRIVATE /export:initializePlugin /export:uninitializePlugin)
+  endif()
   if(WIN32)
     set_target_properties(${target} PROPERTIES SUFFIX ".mll")
   elseif(APPLE)
@@ -49,10 +52,17 @@ function(tvx_plugin target)
   endif()
 endfunction()
 
-# tvx_headers_alone(TARGET source...): sources that include one header each, to see that it needs no other. That
-# they compile is the whole test, to which a sanitizer adds nothing.
+# tvx_headers_alone(TARGET header...): for each header a source that includes it twice and nothing else, to see that it
+# needs no other and guards itself. A header is given as it is included: <...> or "...". That they compile is the
+# whole test, to which a sanitizer adds nothing.
 function(tvx_headers_alone target)
-  add_library(${target} OBJECT ${ARGN})
+  foreach(header IN LISTS ARGN)
+    string(REGEX MATCH "([A-Za-z0-9_]+)\\.h" found "${header}")
+    set(source ${CMAKE_CURRENT_BINARY_DIR}/${target}/${CMAKE_MATCH_1}.cpp)
+    file(CONFIGURE OUTPUT ${source} CONTENT "#include ${header}\n#include ${header}\n")
+    list(APPEND sources ${source})
+  endforeach()
+  add_library(${target} OBJECT ${sources})
   tvx_warnings(${target})
   if(TVX_SANITIZE)
     set_property(TARGET ${target} PROPERTY EXCLUDE_FROM_ALL ON)

@@ -1,17 +1,23 @@
-# The plug-in's sources stand on Maya, the core library, TBB, OpenGL, Qt and the standard library, and on nothing
-# of the host.
+# The sources of the plug-in and the core library stand on Maya, the core library, TBB, OpenGL, Qt and the standard
+# library, and neither include nor name anything of the host.
 #   SOURCE_DIR  the sources
-file(GLOB_RECURSE sources ${SOURCE_DIR}/core/*.cpp ${SOURCE_DIR}/core/*.h ${SOURCE_DIR}/global/*.cpp
-     ${SOURCE_DIR}/global/*.h ${SOURCE_DIR}/rendering/*.cpp ${SOURCE_DIR}/rendering/*.h)
+foreach(folder IN ITEMS core global rendering tvxCore)
+  file(GLOB_RECURSE found ${SOURCE_DIR}/${folder}/*.cpp ${SOURCE_DIR}/${folder}/*.h)
+  list(APPEND sources ${found})
+endforeach()
 list(LENGTH sources count)
 if(count LESS 10)
   message(FATAL_ERROR "only ${count} sources found in ${SOURCE_DIR}")
 endif()
 
-set(own "\"(core|global|rendering)/")
+set(own "\"((core|global|rendering)/|[A-Za-z]+\\.h\")")
 set(others "<(maya/M|tvxCore/|tbb/|GL/gl\\.h|OpenGL/gl\\.h|Q[A-Za-z]+>|[a-z_]+>|(fcntl|io|share|sys/stat|unistd|windows)\\.h>)")
 set(entryUnits "")
 foreach(source IN LISTS sources)
+  file(READ ${source} text)
+  if(text MATCHES "tvxhost|TvxHost|TVX_BUILD_HOST")
+    message(SEND_ERROR "${source}: ${CMAKE_MATCH_0}")
+  endif()
   file(STRINGS ${source} includes REGEX "^ *# *include")
   foreach(include IN LISTS includes)
     if(NOT include MATCHES "include (${own}|${others})")
