@@ -3,7 +3,7 @@
 // Every function draws in the current modelview space and the current colour, and needs a current GL context:
 // a locator calls them from its draw, between beginGL and endGL, on the drawing thread. Lengths are in units
 // of that space; Y is up and the ground is the plane y = 0. A primitive changes no GL state and leaves the
-// matrix stack as it was, unless it says otherwise. A shape of 0 segments is an empty glBegin and glEnd.
+// matrix stack as it was, unless it says otherwise. A circle of 0 segments is an empty glBegin and glEnd.
 #pragma once
 
 namespace tarvox::crowd {
@@ -41,7 +41,8 @@ void drawPyramid(float halfBase, float height, bool filled);
 void drawRectangle(float halfX, float y, float halfZ, bool filled);
 
 /// Draws the side of a cylinder that stands on the ground about the Y axis; with `capped` also a disc at each
-/// end. The side has `segments` quads, and none when the count is above 2147483647.
+/// end. The side has `segments` quads, a single edge when there are none, and nothing when the count is above
+/// 2147483647.
 void drawCylinder(float radius, float height, unsigned int segments, bool capped);
 
 /// Draws an arrow head on the ground that points along +X, its tip at `radius` from the origin and its back a
