@@ -39,7 +39,8 @@ Points candidatesOf(const Points& points)
         const std::size_t count = std::min(kBlock, points.size() - begin);
         // A loop of its own, so that a compiler tests several points at once.
         for (std::size_t i = 0; i < count; ++i)
-            wanted[i] = isFinite(block[i]) & !octagon.surelyHolds(block[i]);
+            wanted[i] =
+                static_cast<unsigned char>(int{isFinite(block[i])} & int{!octagon.surelyHolds(block[i])});
         for (std::size_t i = 0; i < count; ++i)
             candidates.add(withPlainZeros(block[i]), wanted[i]);
     }

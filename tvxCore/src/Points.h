@@ -13,9 +13,10 @@ namespace tarvox::core {
 using Point = Vector2<float>;
 using Points = std::vector<Point>;
 
+// Without a short cut, which would be a branch.
 inline bool isWithin(Point p, float largest)
 {
-    return (std::fabs(p.x) <= largest) & (std::fabs(p.y) <= largest);
+    return int{std::fabs(p.x) <= largest} & int{std::fabs(p.y) <= largest};
 }
 
 inline bool isFinite(Point p)
