@@ -32,6 +32,7 @@ struct FileObject;         ///< MFileObject
 struct GraphIteration;     ///< MItDependencyGraph
 struct ParsedArguments;    ///< MArgParser, MArgDatabase
 struct SelectionIteration; ///< MItSelectionList
+struct Tesselation;        ///< MTesselationParams
 } // namespace api
 
 } // namespace tvxhost
