@@ -21,17 +21,15 @@ protected:
 
 TEST_F(FollowLeader, LinesUpAndTakesItBack)
 {
-    const ProgramResult result = run({"--script", script("followLeader.mel")});
-    EXPECT_EQ(result.errors, "");
-    EXPECT_EQ(result.exitCode, 0);
-    EXPECT_EQ(result.output, "apart: (0 0 0) (0 0 0) (0 0 0) (0 7 0)\n"
-                             "made: first_translateX second_translateX\n"
-                             "following: (10 0 0) (12 0 0) (14 0 0) (0 7 0)\n"
-                             "third too: (10 0 0) (12 0 0) (14 0 0) (14.5 0.5 0)\n"
-                             "Undo: followLeader -leader \"second\" -axis \"x\" -axis \"y\" -gap 0.5\n"
-                             "third alone: (10 0 0) (12 0 0) (14 0 0) (0 7 0)\n"
-                             "Redo: followLeader -leader \"second\" -axis \"x\" -axis \"y\" -gap 0.5\n"
-                             "third again: (10 0 0) (12 0 0) (14 0 0) (14.5 0.5 0)\n");
+    expectPrinted("followLeader.mel",
+                  "apart: (0 0 0) (0 0 0) (0 0 0) (0 7 0)\n"
+                  "made: first_translateX second_translateX\n"
+                  "following: (10 0 0) (12 0 0) (14 0 0) (0 7 0)\n"
+                  "third too: (10 0 0) (12 0 0) (14 0 0) (14.5 0.5 0)\n"
+                  "Undo: followLeader -leader \"second\" -axis \"x\" -axis \"y\" -gap 0.5\n"
+                  "third alone: (10 0 0) (12 0 0) (14 0 0) (0 7 0)\n"
+                  "Redo: followLeader -leader \"second\" -axis \"x\" -axis \"y\" -gap 0.5\n"
+                  "third again: (10 0 0) (12 0 0) (14 0 0) (14.5 0.5 0)\n");
 }
 
 TEST_F(FollowLeader, IsTakenBackWholeAndDoneAgainWithTheSameNodes)
@@ -70,9 +68,7 @@ TEST_F(FollowLeader, IsTakenBackWholeAndDoneAgainWithTheSameNodes)
 
 TEST_F(FollowLeader, IsSavedAsNodesOfMayaAndReadAgain)
 {
-    const std::string scene = file("line.ma");
-    const ProgramResult saved = run({"--script", script("followLeader.mel"), "--save", scene});
-    EXPECT_EQ(saved.exitCode, 0) << saved.errors;
+    const std::string scene = sceneMadeBy("followLeader.mel", "line.ma");
     EXPECT_EQ(nodeText(contentsOf(scene), "second_translateX"),
               "createNode plusMinusAverage -n \"second_translateX\";\n"
               "\tsetAttr -s 2 \".i1[1]\" 4;\n");

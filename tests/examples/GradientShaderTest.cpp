@@ -8,31 +8,26 @@ using GradientShader = ExampleRun;
 
 TEST_F(GradientShader, ColoursAMaterial)
 {
-    const ProgramResult result = run({"--script", script("gradientShader.mel")});
-    EXPECT_EQ(result.errors, "");
-    EXPECT_EQ(result.exitCode, 0);
-    EXPECT_EQ(result.output, "empty 0.5: 0 0 0, alpha 1\n"
-                             "at -1: 1 0.5 0, alpha 1\n"
-                             "at -0.75: 1 0.5 0, alpha 1\n"
-                             "at -0.5: 1 0.5 0, alpha 1\n"
-                             "at -0.25: 1 0.5 0, alpha 1\n"
-                             "at 0: 1 0.5 0, alpha 1\n"
-                             "at 0.25: 0.875 0.375 0.25, alpha 0.75\n"
-                             "at 0.5: 0.75 0.25 0.5, alpha 0.5\n"
-                             "at 0.75: 0.5 0.375 0.75, alpha 0.25\n"
-                             "at 1: 0.25 0.5 1, alpha 0\n"
-                             "at 1.25: 0.25 0.5 1, alpha 0\n"
-                             "at 1.5: 0.25 0.5 1, alpha 0\n"
-                             "at 1.75: 0.25 0.5 1, alpha 0\n"
-                             "at 2: 0.25 0.5 1, alpha 0\n"
-                             "stepped 0.25: 1 0.5 0, alpha 0.75\n");
+    expectPrinted("gradientShader.mel", "empty 0.5: 0 0 0, alpha 1\n"
+                                        "at -1: 1 0.5 0, alpha 1\n"
+                                        "at -0.75: 1 0.5 0, alpha 1\n"
+                                        "at -0.5: 1 0.5 0, alpha 1\n"
+                                        "at -0.25: 1 0.5 0, alpha 1\n"
+                                        "at 0: 1 0.5 0, alpha 1\n"
+                                        "at 0.25: 0.875 0.375 0.25, alpha 0.75\n"
+                                        "at 0.5: 0.75 0.25 0.5, alpha 0.5\n"
+                                        "at 0.75: 0.5 0.375 0.75, alpha 0.25\n"
+                                        "at 1: 0.25 0.5 1, alpha 0\n"
+                                        "at 1.25: 0.25 0.5 1, alpha 0\n"
+                                        "at 1.5: 0.25 0.5 1, alpha 0\n"
+                                        "at 1.75: 0.25 0.5 1, alpha 0\n"
+                                        "at 2: 0.25 0.5 1, alpha 0\n"
+                                        "stepped 0.25: 1 0.5 0, alpha 0.75\n");
 }
 
 TEST_F(GradientShader, IsSavedWithItsRampsAndReadAgain)
 {
-    const std::string scene = file("sunset.ma");
-    const ProgramResult saved = run({"--script", script("gradientShader.mel"), "--save", scene});
-    EXPECT_EQ(saved.exitCode, 0) << saved.errors;
+    const std::string scene = sceneMadeBy("gradientShader.mel", "sunset.ma");
     EXPECT_THAT(contentsOf(scene),
                 testing::HasSubstr("\nrequires -nodeType \"gradientShader\" \"gradientShader\" "
                                    "\"1.0\";\n"));

@@ -47,19 +47,14 @@ protected:
 
 TEST_F(RulerLocator, IsAsLongAsItIsTold)
 {
-    const ProgramResult result = run({"--script", script("rulerLocator.mel")});
-    EXPECT_EQ(result.errors, "");
-    EXPECT_EQ(result.exitCode, 0);
-    EXPECT_EQ(result.output, "metre: from 0 1 to 100 6\n"
-                             "yard: from 0 -1 to 91.44 3\n"
-                             "the yard is 91.44 centimetres long\n");
+    expectPrinted("rulerLocator.mel", "metre: from 0 1 to 100 6\n"
+                                      "yard: from 0 -1 to 91.44 3\n"
+                                      "the yard is 91.44 centimetres long\n");
 }
 
 TEST_F(RulerLocator, IsSavedInCentimetresAndReadAgain)
 {
-    const std::string scene = file("rulers.ma");
-    const ProgramResult saved = run({"--script", script("rulerLocator.mel"), "--save", scene});
-    EXPECT_EQ(saved.exitCode, 0) << saved.errors;
+    const std::string scene = sceneMadeBy("rulerLocator.mel", "rulers.ma");
     EXPECT_EQ(nodeText(contentsOf(scene), "yardShape"),
               "createNode rulerLocator -n \"yardShape\" -p \"yard\";\n"
               "\tsetAttr -k off \".v\";\n"

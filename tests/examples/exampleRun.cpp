@@ -22,6 +22,22 @@ std::string ExampleRun::script(const std::string& name)
     return sourceRoot() / "examples" / name;
 }
 
+void ExampleRun::expectPrinted(const std::string& scriptName, const std::string& output)
+{
+    const ProgramResult result = run({"--script", script(scriptName)});
+    EXPECT_EQ(result.errors, "");
+    EXPECT_EQ(result.exitCode, 0);
+    EXPECT_EQ(result.output, output);
+}
+
+std::string ExampleRun::sceneMadeBy(const std::string& scriptName, const std::string& name) const
+{
+    const std::string scene = file(name);
+    const ProgramResult saved = run({"--script", script(scriptName), "--save", scene});
+    EXPECT_EQ(saved.exitCode, 0) << saved.errors;
+    return scene;
+}
+
 void ExampleRun::expectReadingAndSavingChangesNothing(const std::string& scene)
 {
     std::filesystem::create_directory(file("again"));

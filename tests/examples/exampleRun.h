@@ -21,6 +21,12 @@ protected:
     /// The example's script, as an argument for the program.
     static std::string script(const std::string& name);
 
+    /// Expects a script of the examples to print a text, and nothing to go wrong.
+    static void expectPrinted(const std::string& scriptName, const std::string& output);
+
+    /// Runs a script of the examples and saves the scene; the file, which is to be called `name`.
+    std::string sceneMadeBy(const std::string& scriptName, const std::string& name) const;
+
     /// Reads a scene that finds its plug-in by itself, and expects it to be saved as it was.
     void expectReadingAndSavingChangesNothing(const std::string& scene);
 
