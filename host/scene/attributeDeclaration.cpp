@@ -179,6 +179,13 @@ const char* truth(bool value)
 }
 
 /// Writes a switch when it differs from what a new attribute has.
+/// A flag and its value, between which a line may end too.
+void addFlag(LineBreaker& line, const std::string& flag, const std::string& value)
+{
+    line.word(flag, LineBreaker::Blank::behind);
+    line.word(value, LineBreaker::Blank::behind);
+}
+
 void addSwitch(LineBreaker& line, const AttributeFlags& flags, const char* shortName)
 {
     const auto* row =
@@ -186,41 +193,45 @@ void addSwitch(LineBreaker& line, const AttributeFlags& flags, const char* short
             return std::string_view(candidate.shortName) == shortName;
         });
     const bool value = flags.*row->member;
-    if (value != AttributeFlags().*row->member)
-        line.word('-' + std::string(shortName) + (row->isBare ? "" : std::string(" ") + truth(value)));
+    if (value == AttributeFlags().*row->member)
+        return;
+    line.word('-' + std::string(shortName), LineBreaker::Blank::behind);
+    if (!row->isBare)
+        line.word(truth(value), LineBreaker::Blank::behind);
 }
 
 void addNumbers(LineBreaker& line, const Attribute& attribute, const engine::Units& units)
 {
     const double factor = internalPerUi(attribute, units);
     if (attribute.defaultNumber != 0.0)
-        line.word("-dv " + doubleText(attribute.defaultNumber / factor));
+        addFlag(line, "-dv", doubleText(attribute.defaultNumber / factor));
     for (const LimitRow& limit : kLimits)
         if (const std::optional<double>& value = attribute.*limit.member)
-            line.word('-' + std::string(limit.shortName) + ' ' + doubleText(*value / factor));
+            addFlag(line, '-' + std::string(limit.shortName), doubleText(*value / factor));
     if (attribute.kind == AttributeKind::enumeration)
-        line.word("-en " + mel::quoted(fieldsText(attribute.fields)));
+        addFlag(line, "-en", mel::quoted(fieldsText(attribute.fields)));
 }
 
 void addNames(LineBreaker& line, const Attribute& attribute)
 {
-    line.word("-sn " + mel::quoted(attribute.shortName));
-    line.word("-ln " + mel::quoted(attribute.longName));
+    addFlag(line, "-sn", mel::quoted(attribute.shortName));
+    addFlag(line, "-ln", mel::quoted(attribute.longName));
     if (!attribute.niceName.empty())
-        line.word("-nn " + mel::quoted(attribute.niceName));
+        addFlag(line, "-nn", mel::quoted(attribute.niceName));
     for (const std::string& category : attribute.categories)
-        line.word("-ct " + mel::quoted(category));
+        addFlag(line, "-ct", mel::quoted(category));
 }
 
 void addType(LineBreaker& line, const Attribute& attribute)
 {
     if (attribute.kind != AttributeKind::typed) {
-        line.word("-at " + mel::quoted(attributeTypeName(attribute)));
+        line.word("-at " + mel::quoted(attributeTypeName(attribute)), LineBreaker::Blank::behind);
         return;
     }
     const bool isPlugin = attribute.dataType == engine::DataType::plugin;
     line.word("-dt " +
-              mel::quoted(isPlugin ? attribute.pluginDataType : engine::dataTypeName(attribute.dataType)));
+                  mel::quoted(isPlugin ? attribute.pluginDataType : engine::dataTypeName(attribute.dataType)),
+              LineBreaker::Blank::behind);
 }
 
 } // namespace
@@ -316,26 +327,27 @@ Outcome editDeclaration(const mel::ParsedCommand& flags, const engine::Units& un
 
 std::string addAttrLine(const Attribute& attribute, const engine::Units& units)
 {
+    constexpr std::size_t kIndent = 1; // it stands behind a tab
     std::string text = "addAttr";
-    LineBreaker line(text);
+    LineBreaker line(text, kIndent);
     if (attribute.disconnectBehaviour != 2)
-        line.word("-dcb " + std::to_string(attribute.disconnectBehaviour));
+        addFlag(line, "-dcb", std::to_string(attribute.disconnectBehaviour));
     // A new attribute keeps its value, and Maya says so on every line.
     for (const char* name : {"is", "r", "w", "s"})
         addSwitch(line, attribute.flags, name);
-    line.word(std::string("-ci ") + truth(attribute.flags.cached));
+    addFlag(line, "-ci", truth(attribute.flags.cached));
     for (const char* name : {"uac", "uaf", "h", "k"})
         addSwitch(line, attribute.flags, name);
     if (attribute.flags.array)
-        line.word("-m");
+        line.word("-m", LineBreaker::Blank::behind);
     addSwitch(line, attribute.flags, "im");
     addNames(line, attribute);
     addNumbers(line, attribute, units);
     addType(line, attribute);
     if (attribute.parent)
-        line.word("-p " + mel::quoted(attribute.parent->longName));
+        addFlag(line, "-p", mel::quoted(attribute.parent->longName));
     if (!attribute.children.empty())
-        line.word("-nc " + std::to_string(attribute.children.size()));
+        addFlag(line, "-nc", std::to_string(attribute.children.size()));
     text += ';';
     return text;
 }

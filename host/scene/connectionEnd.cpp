@@ -30,11 +30,17 @@ Expected<Plug> connectionEnd(engine::Scene& scene, const std::string& name)
     return found;
 }
 
+std::string fileName(const engine::Node& node)
+{
+    engine::DagNode* dag = const_cast<engine::Node&>(node).asDag();
+    const bool isUnique = !dag || node.scene().findNode(":" + node.name());
+    return isUnique ? node.name() : engine::DagPath::firstTo(*dag).fullName();
+}
+
 std::string referenceName(const engine::Node& node)
 {
-    const std::string name = node.scene().shortestName(node);
-    const bool isOfEveryScene = node.isDefaultNode || (node.isShared && node.asDag());
-    return isOfEveryScene && name.find('|') == std::string::npos ? ":" + name : name;
+    const std::string name = fileName(node);
+    return (node.isDefaultNode || node.isShared) && name[0] != '|' ? ":" + name : name;
 }
 
 std::string connectionName(const Plug& plug, bool nextAvailable)

@@ -1,4 +1,4 @@
-// LineBreaker: long lists of values over several lines, as scene files hold them.
+// LineBreaker: long statements over several lines, as scene files hold them.
 #pragma once
 
 #include <cstddef>
@@ -12,13 +12,26 @@ namespace tvxhost::scene {
 class LineBreaker
 {
 public:
-    /// `text` holds the beginning of the statement; its current line counts from the last line end.
-    explicit LineBreaker(std::string& text);
+    /// Where the blank between two words goes when the line breaks there.
+    enum class Blank
+    {
+        before, ///< begins the new line
+        behind  ///< ends the old one
+    };
+
+    /// `text` holds the beginning of the statement; its current line counts from the last line end, and
+    /// `indent` characters before that.
+    explicit LineBreaker(std::string& text, std::size_t indent = 0);
     /// Appends " word".
-    void word(std::string_view word);
+    void word(std::string_view word, Blank blank = Blank::before);
+    /// Appends the semicolon.
+    void end();
 
 private:
-    static constexpr std::size_t kLongLine = 90;
+    static constexpr std::size_t kLongLine = 80;
+
+    bool isLong(std::size_t more) const { return m_text.size() + more >= m_lineStart + kLongLine; }
+    void breakLine();
 
     std::string& m_text;
     std::size_t m_lineStart;

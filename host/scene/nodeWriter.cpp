@@ -6,10 +6,12 @@
 #include "connectionEnd.h"
 #include "curveText.h"
 #include "lineBreaker.h"
+#include "numberText.h"
 #include "plugTarget.h"
 #include "polyFaces.h"
 #include "typedData.h"
 #include "uiUnits.h"
+#include "valueLines.h"
 #include "valueText.h"
 
 #include "engine/data.h"
@@ -54,8 +56,11 @@ std::string stateFlags(const Plug& plug)
     // The lock of a plug that is fed goes with its connection: nothing could be connected to it otherwise.
     if (state.locked && engine::sourceOf(plug).isNull())
         add("l", true);
-    if (state.keyable && *state.keyable != own.keyable)
-        add("k", *state.keyable);
+    // An added attribute that is keyable is told to be so twice.
+    const bool isAddedKeyable = own.dynamic && own.keyable && !plug.attribute()->parent && !plug.isElement();
+    if (state.keyable.value_or(own.keyable) != own.keyable ||
+        (isAddedKeyable && state.keyable.value_or(true)))
+        add("k", state.keyable.value_or(true));
     if (state.channelBox && *state.channelBox != own.channelBox)
         add("cb", *state.channelBox);
     return flags;
@@ -114,12 +119,90 @@ std::vector<double> numbersOf(const Plug& plug)
     return numbers ? numbers.value : std::vector<double>();
 }
 
-/// Groups of a mesh whose lists Maya writes without a type.
-constexpr std::array<std::string_view, 2> kBareGroups = {"vrts", "edge"};
-
-bool isBare(const Attribute& attribute)
+/// How the lists of an array are written.
+struct ListForm
 {
-    return std::find(kBareGroups.begin(), kBareGroups.end(), attribute.longName) != kBareGroups.end();
+    bool isTyped = false;        ///< the first one names its type
+    bool isTypedAgain = false;   ///< each further one too
+    bool isWhole = false;        ///< a line does not end within an element
+    bool isMesh = false;         ///< numbers have the form of those of a mesh
+    std::size_t blanksAgain = 1; ///< before the values of further ones
+    ValueLines::Style style;
+};
+
+ListForm meshForm(bool isTyped, bool isTypedAgain, std::size_t blanks, std::size_t blanksAgain, bool isWhole)
+{
+    ListForm form;
+    form.isMesh = true;
+    form.isTyped = isTyped;
+    form.isTypedAgain = isTypedAgain;
+    form.isWhole = isWhole;
+    form.blanksAgain = blanksAgain;
+    form.style.leads = true;
+    form.style.blanks = blanks;
+    return form;
+}
+
+/// The lists of a mesh have forms of their own: points, edges, UVs, normals.
+ListForm listForm(const Attribute& attribute)
+{
+    const std::string& name = attribute.longName;
+    if (name == "vrts" || name == "edge")
+        return meshForm(false, false, 2, 1, true);
+    if (name == "uvSetPoints")
+        return meshForm(true, false, 1, 1, false);
+    if (name == "normals")
+        return meshForm(true, true, 2, 2, false);
+    ListForm form;
+    form.isTyped = isGroup(attribute);
+    form.style = listStyle(attribute);
+    return form;
+}
+
+/// Adds the numbers of one element. `inList`: of several elements or numbers.
+void addElement(ValueLines& lines, const ListForm& form, const std::vector<Attribute*>& leaves, bool inList,
+                const Plug& plug)
+{
+    const engine::Units& units = plug.node()->scene().units();
+    const std::vector<double> numbers = numbersOf(plug);
+    std::string element;
+    for (std::size_t i = 0; i < std::min(numbers.size(), leaves.size()); ++i) {
+        const Attribute& leaf = *leaves[i];
+        const bool isFlag = leaf.number == engine::NumberKind::boolean && leaves.size() == 1;
+        std::string word;
+        if (form.isMesh && leaf.number == engine::NumberKind::single)
+            appendMeshFloat(word, static_cast<float>(numbers[i]));
+        else
+            word = leafText(leaf, numbers[i], units, inList && !isFlag);
+        if (!form.isWhole)
+            lines.add(word);
+        else
+            element += (element.empty() ? "" : " ") + word;
+    }
+    if (form.isWhole)
+        lines.add(element);
+}
+
+/// Lists of the weights of points, which Maya writes point by point.
+bool holdsWeights(const Attribute& attribute)
+{
+    return attribute.longName == "weightList" && attribute.children.size() == 1 &&
+           attribute.children.front()->isArray() &&
+           attribute.children.front()->kind == AttributeKind::numeric;
+}
+
+std::string weightText(const Plug& weight)
+{
+    const auto number = engine::readNumber(weight);
+    const Attribute& attribute = *weight.attribute();
+    return leafText(attribute, number ? number.value.asReal() : 0.0, weight.node()->scene().units(), true);
+}
+
+/// Whether a list of all elements can be written: of groups only when there is no gap and none before.
+bool makesLists(const Attribute& attribute, const std::vector<int>& elements)
+{
+    return !isGroup(attribute) || listForm(attribute).isMesh ||
+           static_cast<std::size_t>(elements.back()) + 1 == elements.size();
 }
 
 std::string typeFlag(const Attribute& attribute)
@@ -184,13 +267,20 @@ const engine::KeptData* faceAt(const Plug& plug)
 void NodeWriter::writeNode(engine::Node& node)
 {
     const std::string& type = node.unknownType.empty() ? node.type().name : node.unknownType;
-    m_out += "createNode " + type + (node.isShared ? " -s" : "") + " -n " + mel::quoted(node.name());
+    std::string text =
+        "createNode " + type + (node.isShared ? " -s" : "") + " -n " + mel::quoted(node.name());
+    LineBreaker words(text);
     const engine::DagNode* dag = node.asDag();
+    std::string parentName;
     if (const auto parent = parentNames.find(&node); parent != parentNames.end())
-        m_out += " -p " + mel::quoted(parent->second);
+        parentName = parent->second;
     else if (dag && !dag->parents().empty() && !dag->parents().front()->isWorld())
-        m_out += " -p " + mel::quoted(m_scene.shortestName(*dag->parents().front()));
-    m_out += ";\n";
+        parentName = fileName(*dag->parents().front());
+    if (!parentName.empty()) {
+        words.word("-p", LineBreaker::Blank::behind);
+        words.word(mel::quoted(parentName));
+    }
+    m_out += text + ";\n";
     line("rename -uid " + mel::quoted(node.uuid()) + ";");
     // Geometry that a shape holds as a whole is in its attributes only while they are written.
     engine::Step inAttributes;
@@ -216,13 +306,35 @@ bool NodeWriter::writeLines(engine::Node& node)
         for (Attribute* attribute : inFileOrder(node))
             writePlug(Plug(node, *attribute));
     }
+    writeLinkSizes(node);
     for (const std::string& kept : node.keptLines)
-        line(kept);
+        if (kept.rfind("lockNode", 0) == 0)
+            m_out += kept + '\n';
+        else
+            line(kept);
     if (const auto reference = references.find(&node); reference != references.end())
         writeEdits(reference->second);
     if (node.isLockedNode && !isPlaceholder(node))
         m_out += "lockNode -l 1 ;\n";
     return m_out.size() != before;
+}
+
+/// The links of a light linker are kept as the statements that make them; their number stands with the node.
+void NodeWriter::writeLinkSizes(const engine::Node& node)
+{
+    if (node.type().name != "lightLinker")
+        return;
+    constexpr std::array<std::pair<std::string_view, const char*>, 4> kLinks = {
+        {{"link", "lnk"}, {"ignore", "ign"}, {"shadowLink", "slnk"}, {"shadowIgnore", "sign"}}};
+    for (const auto& [kind, path] : kLinks) {
+        const std::string start =
+            "relationship " + mel::quoted(kind) + ' ' + mel::quoted(referenceName(node)) + ' ';
+        const auto count =
+            std::count_if(m_scene.keptConnections.begin(), m_scene.keptConnections.end(),
+                          [&](const std::string& statement) { return statement.rfind(start, 0) == 0; });
+        if (count > 1)
+            line("setAttr" + sizeFlag(static_cast<std::size_t>(count)) + pathText(path) + ";");
+    }
 }
 
 void NodeWriter::writeEdits(const ReferenceText& text)
@@ -301,10 +413,11 @@ std::string NodeWriter::plainWords(const Plug& plug)
     if (isGroup(attribute)) {
         const std::vector<Attribute*> leaves = numberLeaves(*plug.attribute());
         const std::vector<double> numbers = numbersOf(plug);
-        std::string words = typeFlag(attribute);
+        const std::string type = typeFlag(attribute);
+        ValueLines lines({}, widthBefore(filePath(plug), type) + 1);
         for (std::size_t i = 0; i < std::min(leaves.size(), numbers.size()); ++i)
-            words += ' ' + leafText(*leaves[i], numbers[i], m_scene.units(), true);
-        return words + ' ';
+            lines.add(leafText(*leaves[i], numbers[i], m_scene.units(), true));
+        return type + lines.text() + ' ';
     }
     if (isNumeric(attribute)) {
         const auto number = engine::readNumber(plug);
@@ -317,7 +430,7 @@ std::string NodeWriter::plainWords(const Plug& plug)
     if (data.value->type() == engine::DataType::string)
         return " -type \"string\" " +
                stringText(static_cast<const engine::StringData&>(*data.value).value.str());
-    return dataWords(*data.value);
+    return dataWords(*data.value, filePath(plug));
 }
 
 void NodeWriter::writeArray(const Plug& array)
@@ -337,13 +450,15 @@ void NodeWriter::writeArray(const Plug& array)
                 writePlug(array.element(index));
         return;
     }
+    if (attribute.kind == AttributeKind::typed && attribute.dataType == engine::DataType::polyFaces)
+        return writeFaces(array, elements);
+    if (holdsWeights(attribute) && !isSpecialAnywhere(array, elements))
+        return writeWeights(array, elements);
     const std::size_t start = m_out.size();
     const std::size_t leaves = isFlat(attribute) ? numberLeaves(*array.attribute()).size() : 0;
     std::vector<std::string> runs;
     if (leaves > 0)
         runs = numberRuns(array, elements, leaves);
-    else if (attribute.kind == AttributeKind::typed && attribute.dataType == engine::DataType::polyFaces)
-        runs = faceRuns(array, elements);
     const bool isOne = runs.size() == 1 && elements.size() > 1;
     for (const std::string& run : runs)
         line("setAttr" + (isOne ? sizeFlag(elements.size()) : std::string()) + run);
@@ -359,6 +474,19 @@ void NodeWriter::writeArray(const Plug& array)
     }
     if (written > 1 && !isOne)
         m_out.insert(start, "\tsetAttr" + sizeFlag(written) + pathText(filePath(array)) + ";\n");
+    if (leaves > 0)
+        writeConnectedSize(array, elements);
+}
+
+/// Arrays of numbers tell once more how many elements are connected.
+void NodeWriter::writeConnectedSize(const Plug& array, const std::vector<int>& elements)
+{
+    const auto count = std::count_if(elements.begin(), elements.end(), [&](int index) {
+        const Plug element = array.element(index);
+        return engine::isFedAnywhere(element) || engine::isConnected(element);
+    });
+    if (count > 1)
+        line("setAttr" + sizeFlag(static_cast<std::size_t>(count)) + pathText(filePath(array)) + ";");
 }
 
 std::vector<std::string> NodeWriter::numberRuns(const Plug& array, const std::vector<int>& elements,
@@ -371,42 +499,99 @@ std::vector<std::string> NodeWriter::numberRuns(const Plug& array, const std::ve
     };
     const Attribute& attribute = *array.attribute();
     const std::vector<Attribute*> leafAttributes = numberLeaves(*array.attribute());
-    const bool isTyped = isGroup(attribute) && !isBare(attribute);
+    const ListForm form = listForm(attribute);
+    const std::size_t longest =
+        makesLists(attribute, elements) ? std::max<std::size_t>(1, kValuesPerStatement / leaves) : 1;
+    std::vector<std::pair<std::size_t, std::size_t>> spans;
+    forEachRun(elements, longest, fits,
+               [&](std::size_t begin, std::size_t end) { spans.emplace_back(begin, end); });
+    // A list that is all there is to write tells the number of elements.
+    const bool hasSize = spans.size() == 1 && elements.size() > 1;
     std::vector<std::string> runs;
-    forEachRun(elements, std::max<std::size_t>(1, kValuesPerStatement / leaves), fits,
-               [&](std::size_t begin, std::size_t end) {
-                   const bool isList = leaves > 1 || end - begin > 1;
-                   std::string run = rangeText(array, elements[begin], elements[end - 1]);
-                   run += isTyped ? typeFlag(attribute) : isList ? " " : "";
-                   LineBreaker words(run);
-                   for (std::size_t i = begin; i < end; ++i) {
-                       const std::vector<double> numbers = numbersOf(array.element(elements[i]));
-                       for (std::size_t leaf = 0; leaf < std::min(numbers.size(), leaves); ++leaf)
-                           words.word(
-                               leafText(*leafAttributes[leaf], numbers[leaf], m_scene.units(), isList));
-                   }
-                   runs.push_back(run + (isTyped && end - begin == 1 ? " ;" : ";"));
-               });
+    for (const auto& [begin, end] : spans) {
+        const bool isSingle = end - begin == 1;
+        const bool isTyped = form.isTyped && (runs.empty() || form.isTypedAgain || longest == 1);
+        const std::string type = isTyped ? typeFlag(attribute) : std::string();
+        ValueLines::Style style = form.style;
+        if (!runs.empty())
+            style.blanks = form.blanksAgain;
+        if (isSingle && (isTyped || (leaves == 1 && !hasSize)))
+            style.blanks = 1;
+        ValueLines lines(style, countBefore(filePath(array), hasSize, type));
+        for (std::size_t i = begin; i < end; ++i)
+            addElement(lines, form, leafAttributes, leaves > 1 || !isSingle, array.element(elements[i]));
+        runs.push_back(rangeText(array, elements[begin], elements[end - 1]) + type + lines.text() +
+                       (isTyped && isSingle ? " ;" : ";"));
+    }
     return runs;
 }
 
-std::vector<std::string> NodeWriter::faceRuns(const Plug& array, const std::vector<int>& elements)
+void NodeWriter::writeFaces(const Plug& array, const std::vector<int>& elements)
 {
-    std::vector<std::string> runs;
+    struct List
+    {
+        std::string range;
+        std::string faces;
+    };
+    std::vector<List> lists;
+    std::size_t edges = 0;
     const auto fits = [&](int index) { return faceAt(array.element(index)) != nullptr; };
     forEachRun(elements, kValuesPerStatement, fits, [&](std::size_t begin, std::size_t end) {
-        std::size_t edges = 0;
-        std::string faces;
+        List& list = lists.emplace_back();
+        list.range = rangeText(array, elements[begin], elements[end - 1]);
         for (std::size_t i = begin; i < end; ++i) {
             const engine::KeptData& face = *faceAt(array.element(elements[i]));
             edges += edgesOf(face.text);
-            faces += "\n\t\t" + face.text;
+            list.faces += "\n\t\t" + face.text;
         }
-        runs.push_back(" -ch " + std::to_string(edges) +
-                       rangeText(array, elements[begin], elements[end - 1]) + " -type \"" +
-                       std::string(kPolyFacesType) + "\" " + faces + ";");
     });
-    return runs;
+    const std::string sizes =
+        (elements.size() > 1 ? sizeFlag(elements.size()) : std::string()) + " -ch " + std::to_string(edges);
+    if (lists.size() > 1)
+        line("setAttr" + sizes + pathText(filePath(array)) + ";");
+    for (const List& list : lists) {
+        const bool isFirst = &list == &lists.front();
+        line("setAttr" + (lists.size() == 1 ? sizes : std::string()) + list.range +
+             (isFirst ? " -type \"" + std::string(kPolyFacesType) + "\" " : std::string()) + list.faces +
+             ";");
+    }
+}
+
+/// Whether an element has a state, a connection or a kept line.
+bool NodeWriter::isSpecialAnywhere(const Plug& array, const std::vector<int>& elements) const
+{
+    const auto isSpecial = [&](const Plug& plug) {
+        return engine::isFedAnywhere(plug) || !stateFlags(plug).empty() || isSkipped(plug);
+    };
+    return std::any_of(elements.begin(), elements.end(), [&](int index) {
+        const Plug weights = array.element(index).child(0);
+        const std::vector<int> influences = engine::existingElements(weights);
+        return isSpecial(weights) || std::any_of(influences.begin(), influences.end(), [&](int influence) {
+                   return isSpecial(weights.element(influence));
+               });
+    });
+}
+
+/// The weights of a point on a line: their number, and each behind its index.
+void NodeWriter::writeWeights(const Plug& array, const std::vector<int>& elements)
+{
+    if (elements.size() > 1)
+        line("setAttr" + sizeFlag(elements.size()) + pathText(filePath(array)) + ";");
+    const auto fits = [&](int index) {
+        return !engine::existingElements(array.element(index).child(0)).empty();
+    };
+    forEachRun(elements, kValuesPerStatement, fits, [&](std::size_t begin, std::size_t end) {
+        std::string text = "setAttr" + rangeText(array, elements[begin], elements[end - 1]);
+        text.insert(text.size() - 1, "." + array.attribute()->children.front()->shortName);
+        for (std::size_t i = begin; i < end; ++i) {
+            const Plug weights = array.element(elements[i]).child(0);
+            const std::vector<int> influences = engine::existingElements(weights);
+            text += "\n\t\t" + std::to_string(influences.size());
+            for (const int influence : influences)
+                text += ' ' + std::to_string(influence) + ' ' + weightText(weights.element(influence));
+        }
+        line(text + ";");
+    });
 }
 
 bool NodeWriter::isSkipped(const Plug& plug) const

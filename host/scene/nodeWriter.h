@@ -44,11 +44,15 @@ private:
     /// Runs of elements whose numbers stand side by side; the statements without `setAttr` and size.
     std::vector<std::string> numberRuns(const engine::Plug& array, const std::vector<int>& elements,
                                         std::size_t leaves);
-    std::vector<std::string> faceRuns(const engine::Plug& array, const std::vector<int>& elements);
+    void writeConnectedSize(const engine::Plug& array, const std::vector<int>& elements);
+    bool isSpecialAnywhere(const engine::Plug& array, const std::vector<int>& elements) const;
+    void writeWeights(const engine::Plug& array, const std::vector<int>& elements);
+    void writeFaces(const engine::Plug& array, const std::vector<int>& elements);
     /// The words of a value, from the blank behind the name up to the semicolon; empty when there is none to
     /// write.
     std::string valueWords(const engine::Plug& plug);
     std::string plainWords(const engine::Plug& plug);
+    void writeLinkSizes(const engine::Node& node);
     void writeEdits(const ReferenceText& text);
 
     bool isSkipped(const engine::Plug& plug) const;

@@ -1,7 +1,9 @@
 // Numbers as scene files hold them; see numberText.h.
 #include "numberText.h"
 
+#include <algorithm>
 #include <charconv>
+#include <cmath>
 #include <cstdlib>
 
 namespace tvxhost::scene {
@@ -12,6 +14,7 @@ constexpr int kShortDouble = 9;
 constexpr int kWholeDouble = 17;
 constexpr int kShortFloat = 8;
 constexpr int kWholeFloat = 9;
+constexpr int kMostDecimals = 12;
 
 /// `%.<digits>g` without a locale.
 std::string_view general(char (&buffer)[40], double value, int digits)
@@ -49,6 +52,29 @@ void appendDouble(std::string& out, double value)
 void appendFloat(std::string& out, float value)
 {
     append(out, value, kShortFloat, kWholeFloat);
+}
+
+void appendMeshFloat(std::string& out, float value)
+{
+    double whole = 0.0;
+    const double fraction = std::modf(std::abs(static_cast<double>(value)), &whole);
+    if (whole == 0.0 || fraction == 0.0 || !std::isfinite(value))
+        return appendFloat(out, value);
+    const int zeros = -static_cast<int>(std::floor(std::log10(fraction))) - 1;
+    const int decimals = std::min(kShortFloat + zeros, kMostDecimals);
+    std::string digits = std::to_string(std::llround(fraction * std::pow(10.0, decimals)));
+    digits.insert(0, static_cast<std::size_t>(decimals) - digits.size(), '0');
+    digits.erase(digits.find_last_not_of('0') + 1);
+    if (value < 0.0f)
+        out += '-';
+    appendDouble(out, whole);
+    out += '.' + digits;
+}
+
+std::string wholeDoubleText(double value)
+{
+    char buffer[40];
+    return std::string(general(buffer, value, kWholeDouble));
 }
 
 std::string doubleText(double value)

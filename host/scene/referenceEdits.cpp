@@ -252,7 +252,7 @@ private:
         request.value.source = text;
         if (!applySetAttr(target.value, request.value, {m_scene.units(), engine::Limits::ignore}))
             return false;
-        if (!target.value.isRange)
+        if (!target.value.isRange && request.value.hasValues())
             m_reference.setByEdits.emplace_back(node, filePath(target.value.plug));
         return true;
     }

@@ -1,8 +1,8 @@
 // Typed values in scene files; see typedData.h.
 #include "typedData.h"
 
-#include "lineBreaker.h"
 #include "numberText.h"
+#include "valueLines.h"
 #include "xformMatrix.h"
 
 #include <algorithm>
@@ -55,33 +55,43 @@ void read(Words& words, engine::Matrix& value)
         *number = words.number();
 }
 
-void write(LineBreaker& out, std::int32_t value)
+// The words of one element, as one text for each place where a line may end.
+std::string words(std::int32_t value)
 {
-    out.word(std::to_string(value));
+    return std::to_string(value);
 }
-void write(LineBreaker& out, double value)
+std::string words(double value)
 {
-    out.word(doubleText(value));
+    return doubleText(value);
 }
-void write(LineBreaker& out, float value)
+std::string words(float value)
 {
-    write(out, static_cast<double>(value));
+    return words(static_cast<double>(value));
 }
-void write(LineBreaker& out, const engine::Vec3d& value)
+std::string words(const engine::Vec3d& value)
 {
-    for (int i = 0; i < 3; ++i)
-        write(out, value[i]);
+    return words(value.x) + ' ' + words(value.y) + ' ' + words(value.z);
 }
-void write(LineBreaker& out, const engine::Vec4d& value)
+std::string words(const engine::Vec4d& value)
 {
-    for (const double part : {value.x, value.y, value.z, value.w})
-        write(out, part);
+    return words(value.x) + ' ' + words(value.y) + ' ' + words(value.z) + ' ' + words(value.w);
 }
-void write(LineBreaker& out, const engine::Matrix& value)
+
+/// A line may end behind each row.
+void write(ValueLines& out, const engine::Matrix& value)
 {
-    for (const double* number = value.getValue(); number != value.getValue() + 16; ++number)
-        write(out, *number);
+    for (const auto& row : value.x)
+        out.add(wholeDoubleText(row[0]) + ' ' + wholeDoubleText(row[1]) + ' ' + wholeDoubleText(row[2]) +
+                ' ' + wholeDoubleText(row[3]));
 }
+template <class T>
+void write(ValueLines& out, const T& value)
+{
+    out.add(words(value));
+}
+
+/// What each number of a list of whole numbers counts.
+constexpr std::size_t kIntWidth = 7;
 
 /// What there is to know of one type of data that the host understands.
 struct TypeRow
@@ -89,7 +99,8 @@ struct TypeRow
     std::string_view name;
     DataType type;
     Ref<Data> (*parse)(Words& words);
-    void (*write)(std::string& out, const Data& data);
+    /// `out` holds the words of the type; the line ends depend on the attribute's path.
+    void (*write)(std::string& out, const Data& data, std::string_view path);
 };
 
 template <class ArrayType, std::size_t kWordsEach>
@@ -105,19 +116,26 @@ Ref<Data> parseArray(Words& words)
 }
 
 template <class ArrayType>
-void writeArray(std::string& out, const Data& data)
+void writeArray(std::string& out, const Data& data, std::string_view path)
 {
     const auto& values = static_cast<const ArrayType&>(data).values;
-    LineBreaker lines(out);
-    lines.word(std::to_string(values.size()));
+    ValueLines::Style style;
+    style.leads = true;
+    const std::string count = ' ' + std::to_string(values.size());
+    std::size_t before = widthBefore(path, out) + count.size();
+    if (data.type() == DataType::intArray) {
+        style.flatWidth = kIntWidth;
+        before = countBefore(path, true);
+    }
+    ValueLines lines(style, before);
     for (const auto& value : values)
         write(lines, value);
-    out += ' ';
+    out += count + lines.text() + ' ';
 }
 
 /// Lists of names end in two blanks, and stay on one line.
 template <class ArrayType>
-void writeNames(std::string& out, const Data& data)
+void writeNames(std::string& out, const Data& data, std::string_view)
 {
     const auto& names = static_cast<const ArrayType&>(data).values;
     out += ' ' + std::to_string(names.size());
@@ -132,7 +150,7 @@ Ref<Data> parseString(Words& words)
     return Ref<Data>(new engine::StringData(words.text()));
 }
 
-void writeString(std::string& out, const Data& data)
+void writeString(std::string& out, const Data& data, std::string_view)
 {
     out += ' ' + mel::quoted(static_cast<const engine::StringData&>(data).value.str());
 }
@@ -149,10 +167,13 @@ Ref<Data> parseMatrix(Words& words)
     return Ref<Data>(new engine::MatrixData(matrix));
 }
 
-void writeMatrix(std::string& out, const Data& data)
+void writeMatrix(std::string& out, const Data& data, std::string_view path)
 {
-    LineBreaker lines(out);
+    ValueLines::Style style;
+    style.leads = true;
+    ValueLines lines(style, countBefore(path, false, out));
     write(lines, static_cast<const engine::MatrixData&>(data).value);
+    out += lines.text();
 }
 
 template <class ArrayType, std::size_t kWordsEach>
@@ -215,7 +236,7 @@ Expected<Ref<Data>> parseData(std::string_view typeName, Words& words)
     return data;
 }
 
-std::string dataWords(const Data& data)
+std::string dataWords(const Data& data, std::string_view path)
 {
     if (data.type() == DataType::plugin) {
         const auto& kept = static_cast<const engine::KeptData&>(data);
@@ -226,7 +247,7 @@ std::string dataWords(const Data& data)
     if (row == std::end(kTypes))
         return {};
     std::string text = typeAsWritten(row->name);
-    row->write(text, data);
+    row->write(text, data, path);
     return text;
 }
 

@@ -22,7 +22,7 @@ bool isKnownDataType(std::string_view typeName);
 engine::Expected<engine::Ref<engine::Data>> parseData(std::string_view typeName, Words& words);
 
 /// The ` -type "T" values` part of a `setAttr` for a data object, from the blank before -type up to but not
-/// including the semicolon.
-std::string dataWords(const engine::Data& data);
+/// including the semicolon. `path` of the attribute: where lines end depends on its length.
+std::string dataWords(const engine::Data& data, std::string_view path);
 
 } // namespace tvxhost::scene

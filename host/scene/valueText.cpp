@@ -57,13 +57,25 @@ bool isWhole(const engine::Attribute& leaf)
     return leaf.number != NumberKind::single && leaf.number != NumberKind::real;
 }
 
-/// Where to break a long string: behind the first blank or line end past the limit.
+/// Behind the line end that follows, or at the end.
+std::size_t lineEnd(std::string_view text, std::size_t begin)
+{
+    const std::size_t found = text.find('\n', begin);
+    return found == std::string_view::npos ? text.size() : found + 1;
+}
+
+/// Where to break a long string: behind the first line end past the limit, and before a line that is longer
+/// than the limit alone.
 std::size_t pieceEnd(std::string_view text, std::size_t begin)
 {
-    if (text.size() - begin <= kLongString)
-        return text.size();
-    const std::size_t found = text.find_first_of(" \n", begin + kLongString);
-    return found == std::string_view::npos ? text.size() : found + 1;
+    std::size_t end = lineEnd(text, begin);
+    while (end < text.size() && end - begin <= kLongString) {
+        const std::size_t next = lineEnd(text, end);
+        if (next - end > kLongString)
+            break;
+        end = next;
+    }
+    return end;
 }
 
 } // namespace
@@ -96,7 +108,7 @@ std::string leafText(const engine::Attribute& leaf, double internal, const engin
 
 std::string stringText(std::string_view text)
 {
-    if (text.size() <= kLongString)
+    if (text.size() <= kLongString || pieceEnd(text, 0) == text.size())
         return mel::quoted(text);
     std::string joined = "(";
     for (std::size_t begin = 0; begin < text.size();) {

@@ -105,6 +105,8 @@ private:
     void writeDefaults();
     void writeConnections(const std::vector<Node*>& nodes);
     void writeConnection(const Plug& source, const Plug& destination);
+    void writeConnectAttr(const std::string& source, const std::string& destination,
+                          const std::vector<std::string>& flags);
     template <class Belongs>
     void writeKept(const Belongs& belongs);
     std::vector<Scene::Requirement> requirements() const;
@@ -301,7 +303,7 @@ void SceneWriter::writeInstances()
             if (dag.parents()[i]->isWorld())
                 continue;
             m_out += "parent -s -nc -r -add " + mel::quoted(engine::DagPath::firstTo(dag).fullName()) + " " +
-                     mel::quoted(m_scene.shortestName(*dag.parents()[i])) + " ;\n";
+                     mel::quoted(fileName(*dag.parents()[i])) + " ;\n";
         }
     }
 }
@@ -340,7 +342,7 @@ void SceneWriter::writePlaceholder(const ReferenceText::Placeholder& placeholder
 {
     const std::string source =
         placeholder.sourceName.empty() ? connectionName(placeholder.source, false) : placeholder.sourceName;
-    m_out += "connectAttr " + mel::quoted(source) + " " + mel::quoted(placeholder.destinationName) + ";\n";
+    writeConnectAttr(source, placeholder.destinationName, {});
 }
 
 void SceneWriter::writeConnection(const Plug& source, const Plug& destination)
@@ -359,11 +361,25 @@ void SceneWriter::writeConnection(const Plug& source, const Plug& destination)
         sourceName = name->second;
     }
     const bool isNext = destination.isElement() && !destination.attribute()->flags.indexMatters;
-    m_out +=
-        "connectAttr " + mel::quoted(sourceName) + " " + mel::quoted(connectionName(destination, isNext));
+    std::vector<std::string> flags;
     if (engine::stateOf(destination).locked)
-        m_out += " -l on";
-    m_out += isNext ? " -na;\n" : ";\n";
+        flags.emplace_back("-l on");
+    if (isNext)
+        flags.emplace_back("-na");
+    writeConnectAttr(sourceName, connectionName(destination, isNext), flags);
+}
+
+void SceneWriter::writeConnectAttr(const std::string& source, const std::string& destination,
+                                   const std::vector<std::string>& flags)
+{
+    std::string text = "connectAttr";
+    LineBreaker line(text);
+    line.word(mel::quoted(source));
+    line.word(mel::quoted(destination));
+    for (const std::string& flag : flags)
+        line.word(flag);
+    line.end();
+    m_out += text + '\n';
 }
 
 template <class Belongs>

@@ -197,7 +197,7 @@ private:
             const bool isFace = data.value->type() == engine::DataType::plugin &&
                                 static_cast<const engine::KeptData&>(*data.value).typeName == kPolyFacesType;
             const std::string values = isFace ? " " + static_cast<const engine::KeptData&>(*data.value).text
-                                              : dataWords(*data.value);
+                                              : dataWords(*data.value, {});
             const auto words = wordsOf(values);
             read.insert(read.end(), words.begin(), words.end());
         }

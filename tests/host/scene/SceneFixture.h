@@ -101,6 +101,19 @@ protected:
         return found;
     }
 
+    static constexpr const char* kUid = "\trename -uid \"AAAAAAAA-0000-0000-0000-000000000001\";\n";
+
+    /// Reads a node, given by the words behind `createNode` and its lines, and expects it to be saved the
+    /// same, letter by letter.
+    void expectKept(const std::string& words, const std::string& lines)
+    {
+        const std::string text = "createNode " + words + ";\n" + kUid + lines;
+        read("currentUnit -l centimeter -a degree -t film;\ncreateNode transform -n \"polySurface1\";\n" +
+             text);
+        EXPECT_EQ(messages(), std::vector<std::string>());
+        EXPECT_EQ(savedSection("createNode " + words), text);
+    }
+
     mutable engine::Scene scene;
 };
 

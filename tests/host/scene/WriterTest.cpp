@@ -18,8 +18,6 @@ using testing::Not;
 class WriterTest : public SceneFixture
 {
 protected:
-    static constexpr const char* kUid = "\trename -uid \"AAAAAAAA-0000-0000-0000-000000000001\";\n";
-
     engine::Node& make(const std::string& type, const std::string& name, const std::string& parent = {})
     {
         const auto made = scene.createNode(type, name, parent.empty() ? nullptr : node(parent).asDag());
@@ -189,7 +187,7 @@ TEST_F(WriterTest, breaksLongListsIntoStatementsOfFiveHundredValues)
     EXPECT_THAT(section,
                 HasSubstr("\tsetAttr -s 400 \".uvst[0].uvsp\";\n\tsetAttr \".uvst[0].uvsp[0:249]\" -type "
                           "\"float2\" 0 0.5 1 0.5"));
-    EXPECT_THAT(section, HasSubstr("\tsetAttr \".uvst[0].uvsp[250:399]\" -type \"float2\" 250 0.5"));
+    EXPECT_THAT(section, HasSubstr("\tsetAttr \".uvst[0].uvsp[250:399]\" 250 0.5"));
 }
 
 TEST_F(WriterTest, leavesGapsOfArraysOut)
@@ -198,7 +196,7 @@ TEST_F(WriterTest, leavesGapsOfArraysOut)
          "\tsetAttr \".x[1]\" 4;\n\tsetAttr \".x[5:6]\"  7 8;\n");
     EXPECT_THAT(savedSection("createNode transform -n \"a\""), HasSubstr("\tsetAttr -s 3 \".x\";\n"
                                                                          "\tsetAttr \".x[1]\" 4;\n"
-                                                                         "\tsetAttr \".x[5:6]\"  7 8;\n"));
+                                                                         "\tsetAttr \".x[5:6]\" 7 8;\n"));
 }
 
 TEST_F(WriterTest, escapesStringsAndJoinsLongOnes)
@@ -209,10 +207,10 @@ TEST_F(WriterTest, escapesStringsAndJoinsLongOnes)
                 HasSubstr("\tsetAttr \".b\" -type \"string\" \"say \\\"hi\\\"\\n\\tback\\\\slash\";\n"));
     std::string text;
     while (text.size() < 3000)
-        text += "word ";
+        text += "line\n";
     ASSERT_TRUE(engine::writeString(scene.findPlug("s.before").value, text));
     EXPECT_THAT(savedSection("createNode script"),
-                HasSubstr("\tsetAttr \".b\" -type \"string\" (\n\t\t\"word "));
+                HasSubstr("\tsetAttr \".b\" -type \"string\" (\n\t\t\"line\\nline"));
     const std::string first = saved();
     openSceneText(scene, first, "test.ma");
     EXPECT_EQ(string("s.before"), text);
@@ -228,8 +226,8 @@ TEST_F(WriterTest, declaresDynamicAttributesAsTheyWereDeclared)
 {
     const std::string lines =
         "createNode transform -n \"a\";\n" + std::string(kUid) +
-        "\taddAttr -ci true -k true -sn \"zw\" -ln \"weight\" -nn \"The Weight\" -dv 0.5 -min 0 -max 1 -at "
-        "\"double\";\n"
+        "\taddAttr -ci true -k true -sn \"zw\" -ln \"weight\" -nn \"The Weight\" -dv 0.5 -min 0 \n"
+        "\t\t-max 1 -at \"double\";\n"
         "\taddAttr -ci true -sn \"ze\" -ln \"mode\" -min 0 -max 5 -en \"off:low=3:high\" -at \"enum\";\n"
         "\taddAttr -ci true -h true -sn \"zn\" -ln \"notes\" -dt \"string\";\n"
         "\taddAttr -ci true -uac -sn \"zc\" -ln \"tint\" -at \"float3\" -nc 3;\n"
@@ -242,17 +240,7 @@ TEST_F(WriterTest, declaresDynamicAttributesAsTheyWereDeclared)
         "\tsetAttr \".zc\" -type \"float3\" 0.1 0.2 0.30000001 ;\n";
     read(lines);
     ASSERT_THAT(messages(), testing::IsEmpty());
-    std::string expected = lines;
-    // Keyable by its declaration already, so the state says nothing new.
-    expected.replace(expected.find("setAttr -k on \".zw\""), 19, "setAttr \".zw\"");
-    // Long declarations go over two lines.
-    const std::string section = savedSection("createNode transform -n \"a\"");
-    std::string joined = section;
-    for (std::size_t at; (at = joined.find("\n\t\t ")) != std::string::npos;)
-        joined.replace(at, 4, " ");
-    for (std::size_t at; (at = joined.find("  ")) != std::string::npos;)
-        joined.erase(at, 1);
-    EXPECT_EQ(joined, expected);
+    EXPECT_EQ(savedSection("createNode transform -n \"a\""), lines);
 }
 
 TEST_F(WriterTest, locksNodesBehindTheirLines)
