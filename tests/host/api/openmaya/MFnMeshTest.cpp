@@ -9,7 +9,7 @@
 #include <maya/MItMeshEdge.h>
 #include <maya/MPointArray.h>
 
-#include <chrono>
+#include <ctime>
 
 namespace tvxhost::api::test {
 namespace {
@@ -396,7 +396,8 @@ TEST_F(MFnMeshTest, KindsOfComponentHaveNames)
 TEST_F(MFnMeshTest, TenMillionBorderEdgesAreMadeAndWalkedInSeconds)
 {
     constexpr int kCount = 10'000'000;
-    const auto start = std::chrono::steady_clock::now();
+    // Of the processor: what else the machine does is not the point.
+    const std::clock_t start = std::clock();
     MFnMesh set;
     {
         MFloatPointArray points(kCount);
@@ -424,8 +425,8 @@ TEST_F(MFnMeshTest, TenMillionBorderEdgesAreMadeAndWalkedInSeconds)
         ++walked;
     } while (edges.index() != 0);
     EXPECT_EQ(walked, kCount);
-    const std::chrono::duration<double> seconds = std::chrono::steady_clock::now() - start;
-    EXPECT_LT(seconds.count(), 60) << "a few seconds on an idle machine";
+    const double seconds = static_cast<double>(std::clock() - start) / CLOCKS_PER_SEC;
+    EXPECT_LT(seconds, 60) << "a few are enough, without a sanitizer";
 }
 
 } // namespace
