@@ -54,6 +54,7 @@ public:
         openWindows();
         loadPreferences();
         loadPlugins();
+        m_session.scene().observers().tell({engine::Happening::started});
         if (openScene()) {
             runScripts();
             report();

@@ -5,6 +5,8 @@
 #include "flagScanner.h"
 #include "messages.h"
 
+#include "engine/observers.h"
+
 namespace tvxhost::scene {
 
 using engine::Expected;
@@ -40,6 +42,18 @@ ConnectRequest parseConnect(const mel::ArgumentList& arguments)
     return request;
 }
 
+/// Tells that a connection could not be made: its ends, as far as there are such plugs, and their names.
+void tellOfFailure(engine::Scene& scene, const ConnectRequest& request, const Expected<Plug>& source,
+                   const Expected<Plug>& destination)
+{
+    engine::Event event{engine::Happening::connectionFailed};
+    event.otherPlug = source ? &source.value : nullptr;
+    event.plug = destination ? &destination.value : nullptr;
+    event.text = request.plugs[0];
+    event.name = request.plugs[1];
+    scene.observers().tell(event);
+}
+
 } // namespace
 
 void SceneReader::connectAttr(const SceneStatement& statement)
@@ -52,6 +66,7 @@ void SceneReader::connectAttr(const SceneStatement& statement)
     const Expected<Plug> source = connectionEnd(m_scene, request.plugs[0]);
     Expected<Plug> destination = connectionEnd(m_scene, request.plugs[1]);
     if (!source || !destination) {
+        tellOfFailure(m_scene, request, source, destination);
         keep(m_scene.keptConnections, statement);
         return;
     }
@@ -69,6 +84,7 @@ void SceneReader::connectAttr(const SceneStatement& statement)
     }
     if (connected.reason == Reason::sameConnection)
         return;
+    tellOfFailure(m_scene, request, source, destination);
     error(connectMessage(connected, source.value, destination.value), statement.line);
     keep(m_scene.keptConnections, statement);
 }

@@ -4,6 +4,7 @@
 #include "flagScanner.h"
 #include "lineBreaker.h"
 #include "referenceEdits.h"
+#include "referenceEvents.h"
 #include "sceneReader.h"
 #include "sceneText.h"
 
@@ -250,10 +251,16 @@ void loadReference(Scene& scene, Reference& reference, const ReadOptions& option
         scene.scriptEditor().error(broken.outcome.text, {path.string(), broken.line});
         return;
     }
+    if (!mayDo(scene, engine::Happening::referenceLoadChecked, reference)) {
+        warn("Reference not read: \"" + reference.file + "\": cancelled by user supplied callback");
+        return;
+    }
+    tellOfReference(scene, engine::Happening::referenceLoadBegun, reference);
     readReferenced(scene, reference, text.value, options, states, summary);
     if (!reference.parent)
         takeBaseline(scene, reference);
     applyEdits(scene, reference);
+    tellOfReference(scene, engine::Happening::referenceLoadDone, reference);
 }
 
 Outcome unloadReference(Scene& scene, Reference& reference)
@@ -262,6 +269,7 @@ Outcome unloadReference(Scene& scene, Reference& reference)
         return {Reason::failed, "The reference '" + reference.nodeName + "' is not loaded"};
     if (reference.parent)
         return {Reason::notImplemented, "Only references of the scene itself can be unloaded"};
+    tellOfReference(scene, engine::Happening::referenceUnloadBegun, reference);
     const ReferenceText text = textOf(scene, reference);
     std::vector<Node*> nodes = allNodes(scene, reference);
     giveFosterParent(scene, reference, text);
@@ -281,6 +289,7 @@ Outcome unloadReference(Scene& scene, Reference& reference)
     reference.baseline = {};
     reference.isLoaded = false;
     giveEditsBack(scene, reference, text);
+    tellOfReference(scene, engine::Happening::referenceUnloadDone, reference);
     return {};
 }
 
@@ -288,6 +297,7 @@ Outcome removeReference(Scene& scene, Reference& reference)
 {
     if (reference.parent)
         return {Reason::readOnly, "The reference '" + reference.nodeName + "' belongs to another reference"};
+    tellOfReference(scene, engine::Happening::referenceRemovalBegun, reference);
     if (reference.isLoaded)
         if (Outcome unloaded = unloadReference(scene, reference); !unloaded)
             return unloaded;
@@ -295,10 +305,12 @@ Outcome removeReference(Scene& scene, Reference& reference)
         node.value->isLockedNode = false;
         (void)scene.deleteNode(*node.value);
     }
+    const engine::Event gone = referenceEvent(scene, engine::Happening::referenceRemovalDone, reference);
     const auto isIt = [&](const std::unique_ptr<Reference>& other) { return other.get() == &reference; };
     scene.references.erase(std::remove_if(scene.references.begin(), scene.references.end(), isIt),
                            scene.references.end());
     scene.isModified = true;
+    scene.observers().tell(gone);
     return {};
 }
 

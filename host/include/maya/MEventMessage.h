@@ -8,7 +8,8 @@ class OPENMAYA_EXPORT MEventMessage : public MMessage
 {
 public:
     /// Gives the id of the callback; 0 and kInvalidParameter for a name that is no event, or without a
-    /// function.
+    /// function. Events of what the host has not (tools, panels, colours of the interface, rendering) have
+    /// names, and never happen.
     static MCallbackId addEventCallback(const MString& event, MBasicFunction func, void* clientData = nullptr,
                                         MStatus* ReturnStatus = nullptr);
 

@@ -4,8 +4,8 @@
 #include <maya/MMessage.h>
 
 /// Callbacks for files, references, plug-ins and the end of the program. To register gives the id of the
-/// callback, and 0 on failure: kInvalidParameter for a message of another kind, or without a function. The
-/// messages of rendering are never sent by the host.
+/// callback, and 0 on failure: kInvalidParameter for a message of another kind, or without a function. Never
+/// sent by the host, which does no such thing: the messages of rendering and kBefore/AfterExportReference.
 class OPENMAYA_EXPORT MSceneMessage : public MMessage
 {
 public:

@@ -87,13 +87,7 @@ Value exportAll(CommandContext& context, const ParsedCommand& call)
     SceneSession& session = sessionOf(context);
     const fs::path file = session.workspace.resolved(call.names().at(0));
     checkFormat(context, call, file);
-    engine::Scene& scene = session.scene();
-    const std::string name = scene.fileName;
-    const bool wasModified = scene.isModified;
-    const engine::Outcome saved = session.saveAs(file);
-    scene.fileName = name;
-    scene.isModified = wasModified;
-    require(context, saved);
+    require(context, session.exportTo(file));
     return Value(file.string());
 }
 

@@ -4,6 +4,7 @@
 #include "commandSupport.h"
 #include "sceneCommands.h"
 
+#include "scene/referenceEvents.h"
 #include "scene/references.h"
 
 #include <algorithm>
@@ -93,6 +94,10 @@ Value addReference(CommandContext& context, const ParsedCommand& call)
     reference->words = "-typ \"mayaAscii\"";
     reference->isDeferred = call.has("deferReference") && call.boolean("deferReference");
 
+    if (!scene::mayDo(scene, engine::Happening::referenceChecked, *reference))
+        context.fail("File operation cancelled by user supplied callback.");
+    scene::tellOfReference(scene, engine::Happening::referenceBegun, *reference);
+
     const std::string nodeName = (reference->space.empty() ? stem : reference->space) + "RN";
     engine::Node& node = *valueOf(context, scene.createNode("reference", ":" + nodeName));
     reference->nodeName = node.name();
@@ -102,6 +107,7 @@ Value addReference(CommandContext& context, const ParsedCommand& call)
     scene.isModified = true;
     if (!added.isDeferred)
         load(context, added);
+    scene::tellOfReference(scene, engine::Happening::referenceDone, added);
     return Value(shownPath(scene, added));
 }
 

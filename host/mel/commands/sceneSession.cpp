@@ -162,9 +162,25 @@ engine::Outcome SceneSession::newScene()
 
 engine::Outcome SceneSession::saveAs(const std::filesystem::path& file)
 {
-    if (Outcome outcome = mayDo(m_scene, Happening::saveChecked, file); !outcome)
+    return write(file, Happening::saveChecked, Happening::saveBegun, Happening::saveDone);
+}
+
+engine::Outcome SceneSession::exportTo(const std::filesystem::path& file)
+{
+    const std::string name = m_scene.fileName;
+    const bool wasModified = m_scene.isModified;
+    Outcome outcome = write(file, Happening::exportChecked, Happening::exportBegun, Happening::exportDone);
+    m_scene.fileName = name;
+    m_scene.isModified = wasModified;
+    return outcome;
+}
+
+engine::Outcome SceneSession::write(const std::filesystem::path& file, Happening check, Happening begun,
+                                    Happening done)
+{
+    if (Outcome outcome = mayDo(m_scene, check, file); !outcome)
         return outcome;
-    tell(m_scene, Happening::saveBegun, file);
+    tell(m_scene, begun, file);
     scene::WriteOptions options;
     options.pluginVersion = [this](const std::string& name) {
         const api::Plugin* plugin = m_plugins ? m_plugins->findLoaded(name) : nullptr;
@@ -172,7 +188,7 @@ engine::Outcome SceneSession::saveAs(const std::filesystem::path& file)
     };
     Outcome outcome = scene::saveScene(m_scene, file, options);
     if (outcome)
-        tell(m_scene, Happening::saveDone, file);
+        tell(m_scene, done, file);
     return outcome;
 }
 

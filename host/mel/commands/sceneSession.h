@@ -12,6 +12,7 @@
 #include "scene/reader.h"
 #include "scene/writer.h"
 
+#include "engine/observers.h"
 #include "engine/scene.h"
 
 #include <deque>
@@ -80,11 +81,16 @@ public:
     void loadReference(Interpreter& interpreter, engine::Reference& reference);
     /// Saves the scene under its name or another.
     engine::Outcome saveAs(const std::filesystem::path& file);
+    /// Writes the scene to another file and leaves it what it is called.
+    engine::Outcome exportTo(const std::filesystem::path& file);
 
     /// Declares the globals that scripts of an interactive session expect: `$gMainWindow`.
     void declareGlobals(Interpreter& interpreter) const;
 
 private:
+    engine::Outcome write(const std::filesystem::path& file, engine::Happening check,
+                          engine::Happening begun, engine::Happening done);
+
     scene::ReadOptions readOptions(Interpreter& interpreter);
 
     engine::Scene& m_scene;

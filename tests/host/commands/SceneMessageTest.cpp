@@ -1,0 +1,205 @@
+// What plug-ins hear of files, references and connections when commands work on them.
+#include "../support/temporaryFolder.h"
+#include "CommandFixture.h"
+
+#include <maya/MFileObject.h>
+#include <maya/MFnDependencyNode.h>
+#include <maya/MObject.h>
+#include <maya/MPlug.h>
+#include <maya/MSceneMessage.h>
+#include <maya/MString.h>
+
+#include <filesystem>
+#include <fstream>
+
+namespace tvxhost::mel {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+using Heard = std::vector<std::string>;
+
+/// What one callback is given: the word that it adds to what was heard.
+struct Word
+{
+    Heard* heard;
+    std::string text;
+};
+
+void hear(void* clientData)
+{
+    const Word& word = *static_cast<Word*>(clientData);
+    word.heard->push_back(word.text);
+}
+
+/// With the reference node, when there is one, and the file's name.
+void hearReference(const MObject& node, const MFileObject& file, void* clientData)
+{
+    const Word& word = *static_cast<Word*>(clientData);
+    const std::string name =
+        node.isNull() ? "none" : std::string(MFnDependencyNode(node, nullptr).name().asChar());
+    word.heard->push_back(word.text + " " + name + " " + MFileObject(file).rawName().asChar());
+}
+
+void forbidReference(bool* isAllowed, const MObject&, MFileObject&, void*)
+{
+    *isAllowed = false;
+}
+
+class SceneMessageTest : public CommandFixture
+{
+protected:
+    SceneMessageTest() { engine::Scene::makeCurrent(&scene); }
+    ~SceneMessageTest() override { engine::Scene::makeCurrent(nullptr); }
+
+    void listen(MSceneMessage::Message message, const std::string& text)
+    {
+        MStatus status;
+        MSceneMessage::addCallback(message, hear, word(text), &status);
+        EXPECT_EQ(MS::kSuccess, status) << text;
+    }
+    void listenToReference(MSceneMessage::Message message, const std::string& text)
+    {
+        MStatus status;
+        MSceneMessage::addReferenceCallback(message, hearReference, word(text), &status);
+        EXPECT_EQ(MS::kSuccess, status) << text;
+    }
+    void* word(const std::string& text)
+    {
+        m_words.push_back(std::make_unique<Word>(Word{&heard, text}));
+        return m_words.back().get();
+    }
+    /// A scene of one transform, to be referenced.
+    std::filesystem::path writeTree()
+    {
+        std::ofstream(folder / "tree.ma") << "//Maya ASCII 2016 scene\ncreateNode transform -n \"trunk\";\n";
+        return folder / "tree.ma";
+    }
+    std::string reference() { return "file -reference -namespace \"tree\" \"" + writeTree().string() + "\""; }
+    Heard takeHeard() { return std::exchange(heard, {}); }
+
+    const test::TemporaryFolder folder;
+    Heard heard;
+
+private:
+    std::vector<std::unique_ptr<Word>> m_words;
+};
+
+TEST_F(SceneMessageTest, AReferenceIsToldFromItsMakingToItsRemoval)
+{
+    listenToReference(MSceneMessage::kBeforeCreateReference, "create");
+    listenToReference(MSceneMessage::kAfterCreateReference, "created");
+    listenToReference(MSceneMessage::kBeforeLoadReference, "load");
+    listenToReference(MSceneMessage::kAfterLoadReference, "loaded");
+    listenToReference(MSceneMessage::kBeforeUnloadReference, "unload");
+    listenToReference(MSceneMessage::kAfterUnloadReference, "unloaded");
+    listenToReference(MSceneMessage::kBeforeRemoveReference, "remove");
+    listenToReference(MSceneMessage::kAfterRemoveReference, "removed");
+    run(reference());
+    EXPECT_THAT(takeHeard(), ElementsAre("create none tree.ma", "load treeRN tree.ma",
+                                         "loaded treeRN tree.ma", "created treeRN tree.ma"));
+    run("file -unloadReference treeRN");
+    EXPECT_THAT(takeHeard(), ElementsAre("unload treeRN tree.ma", "unloaded treeRN tree.ma"));
+    run("file -loadReference treeRN");
+    EXPECT_THAT(takeHeard(), ElementsAre("load treeRN tree.ma", "loaded treeRN tree.ma"));
+    run("file -removeReference -referenceNode treeRN");
+    EXPECT_THAT(takeHeard(), ElementsAre("remove treeRN tree.ma", "unload treeRN tree.ma",
+                                         "unloaded treeRN tree.ma", "removed none tree.ma"));
+}
+
+TEST_F(SceneMessageTest, ADeferredReferenceIsMadeButNotLoaded)
+{
+    listen(MSceneMessage::kBeforeReference, "reference");
+    listen(MSceneMessage::kAfterReference, "referenced");
+    listen(MSceneMessage::kBeforeLoadReference, "load");
+    run("file -reference -deferReference true -namespace \"tree\" \"" + writeTree().string() + "\"");
+    EXPECT_THAT(takeHeard(), ElementsAre("reference", "referenced"));
+}
+
+TEST_F(SceneMessageTest, OpeningASceneLoadsItsReferences)
+{
+    run(reference());
+    run("file -rename \"" + (folder / "forest.ma").string() + "\"; file -save -type mayaAscii");
+    listenToReference(MSceneMessage::kBeforeLoadReference, "load");
+    listenToReference(MSceneMessage::kAfterLoadReference, "loaded");
+    listen(MSceneMessage::kAfterOpen, "opened");
+    run("file -force -open \"" + (folder / "forest.ma").string() + "\"");
+    // The head of the file comes before its nodes, so the reference node is not there yet.
+    const Heard all = takeHeard();
+    ASSERT_EQ(3u, all.size());
+    EXPECT_THAT(all[0], testing::EndsWith("tree.ma"));
+    EXPECT_THAT(all[1], testing::StartsWith("loaded"));
+    EXPECT_EQ("opened", all[2]);
+}
+
+TEST_F(SceneMessageTest, AReferenceThatSomebodyForbidsIsNotMade)
+{
+    listen(MSceneMessage::kBeforeCreateReference, "create");
+    MSceneMessage::addCheckReferenceCallback(MSceneMessage::kBeforeCreateReferenceCheck, forbidReference);
+    EXPECT_EQ("File operation cancelled by user supplied callback.", failure(reference()));
+    EXPECT_THAT(takeHeard(), IsEmpty());
+    EXPECT_EQ("0", run("objExists treeRN"));
+}
+
+TEST_F(SceneMessageTest, AReferenceThatSomebodyForbidsToLoadStaysUnloaded)
+{
+    run(reference());
+    run("file -unloadReference treeRN");
+    listen(MSceneMessage::kBeforeLoadReference, "load");
+    MSceneMessage::addCheckReferenceCallback(MSceneMessage::kBeforeLoadReferenceCheck, forbidReference);
+    EXPECT_EQ("The reference 'treeRN' could not be loaded", failure("file -loadReference treeRN"));
+    EXPECT_THAT(takeHeard(), IsEmpty());
+    EXPECT_EQ("0", run("objExists \"tree:trunk\""));
+}
+
+TEST_F(SceneMessageTest, AnExportIsNoSave)
+{
+    run("createNode transform -n trunk; file -rename \"" + (folder / "own.ma").string() + "\"");
+    listen(MSceneMessage::kBeforeSave, "save");
+    listen(MSceneMessage::kAfterSave, "saved");
+    listen(MSceneMessage::kBeforeExport, "export");
+    listen(MSceneMessage::kExportStarted, "started");
+    listen(MSceneMessage::kAfterExport, "exported");
+    run("file -exportAll -type mayaAscii \"" + (folder / "copy.ma").string() + "\"");
+    EXPECT_THAT(takeHeard(), ElementsAre("export", "started", "exported"));
+    EXPECT_EQ((folder / "own.ma").string(), run("file -query -sceneName"));
+    EXPECT_TRUE(std::filesystem::exists(folder / "copy.ma"));
+    MSceneMessage::addCheckCallback(MSceneMessage::kBeforeExportCheck,
+                                    [](bool* isAllowed, void*) { *isAllowed = false; });
+    EXPECT_EQ("File operation cancelled by user supplied callback.",
+              failure("file -exportAll -type mayaAscii \"" + (folder / "no.ma").string() + "\""));
+    EXPECT_FALSE(std::filesystem::exists(folder / "no.ma"));
+}
+
+TEST_F(SceneMessageTest, ConnectionsThatAFileCannotMakeAreTold)
+{
+    std::ofstream(folder / "broken.ma") << "//Maya ASCII 2016 scene\n"
+                                           "createNode transform -n \"a\";\n"
+                                           "createNode transform -n \"b\";\n"
+                                           "connectAttr \"a.gone\" \"b.tx\";\n"
+                                           "connectAttr \"a.ty\" \"b.ty\";\n";
+    const auto hearFailure = [](MPlug& source, MPlug& destination, const MString& sourceName,
+                                const MString& destinationName, void* clientData) {
+        const Word& word = *static_cast<Word*>(clientData);
+        const std::string ends = std::string(source.isNull() ? "none" : source.name().asChar()) + " " +
+                                 (destination.isNull() ? "none" : destination.name().asChar());
+        word.heard->push_back(ends + ", " + sourceName.asChar() + " " + destinationName.asChar());
+    };
+    MSceneMessage::addConnectionFailedCallback(hearFailure, word(""));
+    run("file -force -open \"" + (folder / "broken.ma").string() + "\"");
+    EXPECT_THAT(takeHeard(), ElementsAre("none b.translateX, a.gone b.tx"));
+}
+
+TEST_F(SceneMessageTest, TheSceneIsUpdatedByAllThatBringsOrTakesNodes)
+{
+    writeTree();
+    listen(MSceneMessage::kSceneUpdate, "update");
+    run("file -force -new");
+    run("file -import \"" + (folder / "tree.ma").string() + "\"");
+    run(reference());
+    run("file -removeReference -referenceNode treeRN");
+    EXPECT_THAT(takeHeard(), ElementsAre("update", "update", "update", "update"));
+}
+
+} // namespace
+} // namespace tvxhost::mel
