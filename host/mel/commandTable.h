@@ -157,6 +157,8 @@ struct CommandSpec
     std::variant<std::monostate, ParsedHandler, RawHandler, FunctionHandler> handler;
     bool queryable = false; ///< has -query/-q
     bool editable = false;  ///< has -edit/-e
+    /// Of a command that takes its arguments apart itself: what `help` tells instead of this.
+    std::function<CommandSpec()> described;
 
     /// The flag with this short or long name (no dash); null when there is none. No abbreviations.
     const FlagSpec* flag(std::string_view name) const;

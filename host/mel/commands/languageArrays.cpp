@@ -153,6 +153,16 @@ struct Family
         return kept;
     }
 
+    /// `ToString ARRAY SEPARATOR`
+    static Value toString(CommandContext&, Arguments& arguments)
+    {
+        std::string text;
+        for (std::size_t i = 0; i < arguments[0].size(); ++i) {
+            text += (i == 0 ? "" : arguments[1].string()) + arguments[0].element(i).toString();
+        }
+        return text;
+    }
+
     static void add(CommandTable& table, const std::string& type, Parameter item, Parameter items)
     {
         const std::string prefix = type + "Array";
@@ -169,6 +179,7 @@ struct Family
                      {kInt, items}, removeAtIndex),
             function(prefix + "Remove", "The second array without the items of the first", {items, items},
                      remove),
+            function(prefix + "ToString", "The elements joined by a separator", {items, kString}, toString),
         });
     }
 };
@@ -201,6 +212,39 @@ Value appendStringArray(CommandContext&, Arguments& arguments)
     return {};
 }
 
+/// `stringArrayRemoveExact UNWANTED ARRAY`: each unwanted element takes one of the array away.
+Value removeExact(CommandContext&, Arguments& arguments)
+{
+    Value::Strings kept = arguments[1].strings();
+    for (const std::string& unwanted : arguments[0].strings()) {
+        if (const auto found = std::find(kept.begin(), kept.end(), unwanted); found != kept.end()) {
+            kept.erase(found);
+        }
+    }
+    return kept;
+}
+
+Value addPrefix(CommandContext&, Arguments& arguments)
+{
+    Value::Strings changed = arguments[0].strings();
+    for (std::string& element : changed) {
+        element.insert(0, arguments[1].string());
+    }
+    return changed;
+}
+
+Value removePrefix(CommandContext&, Arguments& arguments)
+{
+    const std::string& prefix = arguments[1].string();
+    Value::Strings changed = arguments[0].strings();
+    for (std::string& element : changed) {
+        if (element.compare(0, prefix.size(), prefix) == 0) {
+            element.erase(0, prefix.size());
+        }
+    }
+    return changed;
+}
+
 } // namespace
 
 void addArrayCommands(CommandTable& table)
@@ -212,6 +256,12 @@ void addArrayCommands(CommandTable& table)
         function("stringArrayRemoveDuplicates", "The elements, each once", {kStringArray}, removeDuplicates),
         function("stringArrayCatenate", "The elements of both arrays", {kStringArray, kStringArray},
                  catenate),
+        function("stringArrayRemoveExact", "The second array with one element less for each of the first",
+                 {kStringArray, kStringArray}, removeExact),
+        function("stringArrayAddPrefix", "The elements with a text before each", {kStringArray, kString},
+                 addPrefix),
+        function("stringArrayRemovePrefix", "The elements without a text that some begin with",
+                 {kStringArray, kString}, removePrefix),
         function("appendStringArray", "Adds the first elements of the second array to the first one",
                  {kStringArray, kStringArray, kInt}, appendStringArray),
     });

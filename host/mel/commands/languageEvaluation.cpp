@@ -83,7 +83,7 @@ Value help(CommandContext& context, Arguments& arguments)
 {
     const std::string& name = arguments[0].string();
     if (const auto spec = context.interpreter().commands().find(name)) {
-        return commandHelp(*spec);
+        return commandHelp(spec->described ? spec->described() : *spec);
     }
     context.fail("Cannot find procedure \"" + name + "\".");
 }

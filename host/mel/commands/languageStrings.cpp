@@ -91,15 +91,6 @@ Value stringToStringArray(CommandContext&, Arguments& arguments)
     return tokens(arguments[0].string(), arguments[1].string());
 }
 
-Value stringArrayToString(CommandContext&, Arguments& arguments)
-{
-    std::string text;
-    for (const std::string& element : arguments[0].strings()) {
-        text += (&element == arguments[0].strings().data() ? "" : arguments[1].string()) + element;
-    }
-    return text;
-}
-
 /// `format -stringArg A -stringArg B "^1s and ^2s"`
 Value format(CommandContext&, const ParsedCommand& parsed)
 {
@@ -173,6 +164,24 @@ Value endsWith(CommandContext&, Arguments& arguments)
     return text.size() >= end.size() && text.compare(text.size() - end.size(), end.size(), end) == 0;
 }
 
+/// How many characters of a text a count means.
+std::size_t characters(const std::string& text, int count)
+{
+    return std::min(static_cast<std::size_t>(std::max(count, 0)), text.size());
+}
+
+Value startString(CommandContext&, Arguments& arguments)
+{
+    const std::string& text = arguments[0].string();
+    return text.substr(0, characters(text, arguments[1].integer()));
+}
+
+Value endString(CommandContext&, Arguments& arguments)
+{
+    const std::string& text = arguments[0].string();
+    return text.substr(text.size() - characters(text, arguments[1].integer()));
+}
+
 /// The text as it would stand between quotes in a script.
 Value encodeString(CommandContext&, Arguments& arguments)
 {
@@ -209,8 +218,6 @@ void addStringCommands(CommandTable& table)
                  {kString, kAny, optional(kAny)}, tokenize),
         function("stringToStringArray", "The parts of a text between separators", {kString, kString},
                  stringToStringArray),
-        function("stringArrayToString", "The elements joined by a separator", {kStringArray, kString},
-                 stringArrayToString),
         command(
             "format", "Puts arguments in the places ^1s, ^2s … of a text",
             {{"s", "stringArg", {ArgumentType::string}, kCreate | kMultiUse, "The text of the next place"}},
@@ -223,6 +230,8 @@ void addStringCommands(CommandTable& table)
         function("strip", "The text without white space at its ends", {kString}, strip),
         function("startsWith", "Whether a text begins with another", {kString, kString}, startsWith),
         function("endsWith", "Whether a text ends with another", {kString, kString}, endsWith),
+        function("startString", "The first characters of a text", {kString, kInt}, startString),
+        function("endString", "The last characters of a text", {kString, kInt}, endString),
         function("encodeString", "The text as it stands between quotes in a script", {kString}, encodeString),
         function("formValidObjectName", "The text as a legal name of a node", {kString}, formValidObjectName),
     });
