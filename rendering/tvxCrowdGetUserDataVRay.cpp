@@ -6,6 +6,8 @@
 
 #include <maya/MDataHandle.h>
 
+#include <new>
+
 namespace tarvox::crowd {
 
 const MTypeId CrowdGetUserDataVRay::id(0x1168E3);
@@ -17,7 +19,7 @@ MObject CrowdGetUserDataVRay::defaultValue;
 
 void* CrowdGetUserDataVRay::creator()
 {
-    return new CrowdGetUserDataVRay;
+    return new (std::nothrow) CrowdGetUserDataVRay;
 }
 
 MStatus CrowdGetUserDataVRay::initialize()

@@ -19,7 +19,7 @@ public:
     static MObject paramType;
     static MObject defaultValue;
 
-    /// @return a new instance, which Maya owns
+    /// @return a new instance, which Maya owns; null when there is no memory for it
     static void* creator();
     /// Declares the attributes and what they affect.
     /// @return MS::kFailure at the first failure, which is reported

@@ -4,6 +4,8 @@
 #include "rendering/tvxNodeAttributes.h"
 #include "rendering/tvxShadingOutput.h"
 
+#include <new>
+
 namespace tarvox::crowd {
 
 const MTypeId CrowdHSLShaderVRay::id(0x1168E2);
@@ -17,7 +19,7 @@ MObject CrowdHSLShaderVRay::input;
 
 void* CrowdHSLShaderVRay::creator()
 {
-    return new CrowdHSLShaderVRay;
+    return new (std::nothrow) CrowdHSLShaderVRay;
 }
 
 MStatus CrowdHSLShaderVRay::initialize()

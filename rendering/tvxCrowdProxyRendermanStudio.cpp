@@ -7,6 +7,8 @@
 #include "rendering/tvxNodeAttributes.h"
 #include "rendering/tvxShapeName.h"
 
+#include <new>
+
 namespace tarvox::crowd {
 
 namespace {
@@ -53,7 +55,7 @@ MObject CrowdProxyRendermanStudio::ribFileDir;
 
 void* CrowdProxyRendermanStudio::creator()
 {
-    return new CrowdProxyRendermanStudio;
+    return new (std::nothrow) CrowdProxyRendermanStudio;
 }
 
 MStatus CrowdProxyRendermanStudio::initialize()

@@ -18,7 +18,7 @@ public:
     static MObject frameRate;
     static MObject ribFileDir;
 
-    /// @return a new instance, which Maya owns
+    /// @return a new instance, which Maya owns; null when there is no memory for it
     static void* creator();
     /// Declares the attributes.
     /// @return MS::kFailure at the first failure, which is reported

@@ -6,6 +6,8 @@
 #include "rendering/tvxNodeAttributes.h"
 #include "rendering/tvxShapeName.h"
 
+#include <new>
+
 namespace tarvox::crowd {
 
 const MTypeId CrowdProxyVRay::id(0x1168DE);
@@ -16,7 +18,7 @@ MObject CrowdProxyVRay::pythonCallback;
 
 void* CrowdProxyVRay::creator()
 {
-    return new CrowdProxyVRay;
+    return new (std::nothrow) CrowdProxyVRay;
 }
 
 MStatus CrowdProxyVRay::initialize()

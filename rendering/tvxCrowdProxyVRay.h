@@ -17,7 +17,7 @@ public:
     static MObject vrsceneFileDir;
     static MObject pythonCallback;
 
-    /// @return a new instance, which Maya owns
+    /// @return a new instance, which Maya owns; null when there is no memory for it
     static void* creator();
     /// Declares the attributes.
     /// @return MS::kFailure at the first failure, which is reported

@@ -3,13 +3,15 @@
 
 #include "rendering/tvxShapeName.h"
 
+#include <new>
+
 namespace tarvox::crowd {
 
 const MTypeId CrowdRenderManagerNode::id(0x1168E5);
 
 void* CrowdRenderManagerNode::creator()
 {
-    return new CrowdRenderManagerNode;
+    return new (std::nothrow) CrowdRenderManagerNode;
 }
 
 MStatus CrowdRenderManagerNode::initialize()

@@ -13,7 +13,7 @@ class CrowdRenderManagerNode : public MPxLocatorNode
 public:
     static const MTypeId id;
 
-    /// @return a new instance, which Maya owns
+    /// @return a new instance, which Maya owns; null when there is no memory for it
     static void* creator();
     /// Declares nothing and cannot fail.
     static MStatus initialize();

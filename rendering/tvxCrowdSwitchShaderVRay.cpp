@@ -4,6 +4,7 @@
 #include "rendering/tvxNodeAttributes.h"
 #include "rendering/tvxShadingOutput.h"
 
+#include <new>
 #include <string>
 
 namespace tarvox::crowd {
@@ -19,7 +20,7 @@ MObject CrowdSwitchShaderVRay::shaders[kShaderCount];
 
 void* CrowdSwitchShaderVRay::creator()
 {
-    return new CrowdSwitchShaderVRay;
+    return new (std::nothrow) CrowdSwitchShaderVRay;
 }
 
 MStatus CrowdSwitchShaderVRay::initialize()

@@ -23,7 +23,7 @@ public:
     static MObject defaultShader;
     static MObject shaders[kShaderCount];
 
-    /// @return a new instance, which Maya owns
+    /// @return a new instance, which Maya owns; null when there is no memory for it
     static void* creator();
     /// Declares the attributes and what they affect.
     /// @return MS::kFailure at the first failure, which is reported

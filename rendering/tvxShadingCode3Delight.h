@@ -3,6 +3,8 @@
 
 #include <maya/MPxNode.h>
 
+#include <new>
+
 namespace tarvox::crowd {
 
 /// A node that carries shading-language source for 3Delight's translation and computes nothing.
@@ -16,8 +18,8 @@ public:
     inline static MObject shadingParameters;
     inline static MObject shadingCode;
 
-    /// @return a new instance, which Maya owns
-    static void* creator() { return new Node; }
+    /// @return a new instance, which Maya owns; null when there is no memory for it
+    static void* creator() { return new (std::nothrow) Node; }
 
     /// Computes nothing: MS::kUnknownParameter for every plug.
     MStatus compute(const MPlug& /*plug*/, MDataBlock& /*dataBlock*/) override
