@@ -298,14 +298,17 @@ TEST(PluginReports, TellThatMayaDoesNotAcceptThePlugin)
                                 });
 }
 
-TEST(PluginReports, TellTheFirstNodeTypeThatIsRefusedAndThoseBeforeItStay)
+TEST(PluginReports, TellTheFirstNodeTypeThatIsRefusedAndThoseBeforeItStayAndNoOtherIsTried)
 {
-    ASSERT_FALSE(nodeTypes().empty());
+    ASSERT_EQ(nodeTypes().size(), 8u);
     for (std::size_t i = 0; i < nodeTypes().size(); ++i)
         expectReportWithEveryFilter(nodeRefused(nodeTypes()[i]), [i](LoggingSession& session) {
+            faults::record(true);
             faults::failCall("MFnPlugin::registerNode", i + 1, kRefused);
             const bool loaded = session.load();
             EXPECT_EQ(session.nodeTypes(), nodeTypes(0, i));
+            EXPECT_EQ(faults::countOf("MFnPlugin::registerNode"), i + 1);
+            EXPECT_EQ(faults::countOf("MFnPlugin::registerUI"), 0u);
             return loaded;
         });
 }
@@ -322,16 +325,18 @@ TEST(PluginReports, TellThatTheInterfaceIsRefusedAndAllNodeTypesStay)
         });
 }
 
-TEST(PluginReports, TellTheFirstNodeTypeThatCannotBeTakenBackAndItAndThoseAfterItStay)
+TEST(PluginReports, TellTheFirstNodeTypeThatCannotBeTakenBackAndItAndThoseAfterItStayAndNoOtherIsTried)
 {
     for (std::size_t i = 0; i < nodeTypes().size(); ++i)
         expectReportWithEveryFilter(
             entryReport(1, kUnloading, kNoLongerNode, refusal("unregistering " + nodeTypes()[i] + " node")),
             [i](LoggingSession& session) {
                 EXPECT_TRUE(session.load());
+                faults::record(true);
                 faults::failCall("MFnPlugin::deregisterNode", i + 1, kRefused);
                 const bool unloaded = session.unload();
                 EXPECT_EQ(session.nodeTypes(), nodeTypes(i, nodeTypes().size()));
+                EXPECT_EQ(faults::countOf("MFnPlugin::deregisterNode"), i + 1);
                 return unloaded;
             });
 }

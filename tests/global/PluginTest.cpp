@@ -1,4 +1,5 @@
-// Loading and unloading the plug-in: what is registered, what is said, and every failure on the way.
+// Loading and unloading the plug-in: what is registered, who owns it already, and how often it can be done.
+// What is said of each failure is in PluginReportsTest.cpp.
 #include "PluginSession.h"
 
 #include "CoreLogTrap.h"
@@ -35,11 +36,8 @@ constexpr const char* kTypes[] = {"CrowdRenderManagerNode",    "CrowdProxyVRay",
                                   "CrowdSwitchShader3Delight", "CrowdGetUserData3Delight"};
 
 // The statement of each report of the entry points.
-constexpr char kNoPlugin[] = "\"registering Plugin\"";
 constexpr char kNoNode[] = "\"registering \" << row.name";
-constexpr char kNoInterface[] = "\"registering Crowd Render UI\"";
 constexpr char kLoaded[] = "\" plugin loaded.\"";
-constexpr char kNoLongerNode[] = "\"unregistering \" << row.name";
 
 std::string entryReport(const std::string& severity, const char* statement, const std::string& text)
 {
@@ -70,31 +68,8 @@ std::string refusedText()
 class Plugin : public testing::Test
 {
 protected:
-    bool isRegistered(const char* type) { return session.scene.types().find(std::string(type)) != nullptr; }
-
     PluginSession session;
 };
-
-TEST_F(Plugin, SaysThatItIsLoaded)
-{
-    ASSERT_TRUE(session.load());
-    EXPECT_THAT(session.takeReports(), ElementsAre(loadedReport()));
-}
-
-TEST_F(Plugin, SaysTheSameOnEveryOutput)
-{
-    const test::TestFolder folder;
-    session.scene.optionVars().set("tvxPrefLogToOW", 1);
-    session.scene.optionVars().set("tvxPrefLogToFile", 1);
-    session.scene.optionVars().set("tvxPrefLogDirectory", folder.path());
-    testing::internal::CaptureStdout();
-    ASSERT_TRUE(session.load());
-    const std::string line = "[TarvoxCrowd::INFO]\tCrowd Render: At line " +
-                             std::to_string(test::lineOf(kEntryFile, kLoaded)) + " in file " + kEntryFile +
-                             ": initializePlugin: tvxCrowdRender plugin loaded.\n";
-    EXPECT_EQ(testing::internal::GetCapturedStdout(), line);
-    EXPECT_EQ(folder.read("tvxCrowd.log"), line);
-}
 
 TEST_F(Plugin, IdentifiesItself)
 {
@@ -132,17 +107,6 @@ TEST_F(Plugin, CreatesThePreferenceOfItsLog)
     ASSERT_TRUE(session.load());
     EXPECT_THAT(session.scene.optionVars().names(), ElementsAre("tvxPrefLogLevelForCrowd_Render"));
     EXPECT_EQ(session.scene.optionVars().asInt("tvxPrefLogLevelForCrowd_Render"), 3);
-}
-
-TEST_F(Plugin, TakesItsNodeTypesBackInTheSameOrderAndSaysNothing)
-{
-    ASSERT_TRUE(session.load());
-    session.takeReports();
-    faults::record(true);
-    ASSERT_TRUE(session.unload());
-    EXPECT_EQ(faults::countOf("MFnPlugin::deregisterNode"), std::size(kTypes));
-    EXPECT_THAT(session.takeReports(), IsEmpty()) << "the logger is stopped before the last report";
-    EXPECT_THAT(session.scene.types().ofPlugin("tvxCrowdRender"), IsEmpty());
 }
 
 TEST_F(Plugin, LogsEachLoadOnce)
@@ -184,65 +148,7 @@ TEST_F(Plugin, LeavesTheProcessAfterAThousandLoads)
     EXPECT_EQ(dlopen(session.library().c_str(), RTLD_NOW | RTLD_NOLOAD), nullptr);
 }
 
-TEST_F(Plugin, SaysNothingBelowInfoButRegistersAllTheSame)
-{
-    for (const int level : {0, 1, 2}) {
-        session.scene.optionVars().set("tvxPrefLogLevelForCrowd_Render", level);
-        ASSERT_TRUE(session.load());
-        EXPECT_THAT(session.takeReports(), IsEmpty()) << level;
-        for (const char* type : kTypes)
-            EXPECT_TRUE(isRegistered(type)) << type;
-        ASSERT_TRUE(session.unload());
-    }
-    for (const int level : {3, 4}) {
-        session.scene.optionVars().set("tvxPrefLogLevelForCrowd_Render", level);
-        ASSERT_TRUE(session.load());
-        EXPECT_THAT(session.takeReports(), ElementsAre(loadedReport())) << level;
-        ASSERT_TRUE(session.unload());
-    }
-}
-
 // Failures of loading
-
-TEST_F(Plugin, ReportsThatMayaDoesNotAcceptIt)
-{
-    faults::failCall("MFnPlugin::MFnPlugin", 1, kRefused);
-    EXPECT_FALSE(session.load());
-    EXPECT_THAT(
-        session.takeReports(),
-        ElementsAre(entryReport("ERROR", kNoPlugin,
-                                "initializePlugin: Problem while registering Plugin - " + refusedText())));
-    EXPECT_THAT(session.scene.types().ofPlugin("tvxCrowdRender"), IsEmpty());
-}
-
-TEST_F(Plugin, ReportsTheFirstNodeTypeThatIsRefusedAndTriesNoOther)
-{
-    for (std::size_t refused = 0; refused < std::size(kTypes); ++refused) {
-        PluginSession own;
-        faults::record(true);
-        faults::failCall("MFnPlugin::registerNode", refused + 1, kRefused);
-        EXPECT_FALSE(own.load());
-        EXPECT_THAT(own.takeReports(),
-                    ElementsAre(entryReport("ERROR", kNoNode,
-                                            std::string("initializePlugin: Problem while registering ") +
-                                                kTypes[refused] + " node - " + refusedText())));
-        EXPECT_EQ(faults::countOf("MFnPlugin::registerNode"), refused + 1);
-        EXPECT_EQ(faults::countOf("MFnPlugin::registerUI"), 0u);
-        EXPECT_EQ(registeredTypes(own), Lines(kTypes, kTypes + refused));
-    }
-}
-
-TEST_F(Plugin, ReportsThatItsInterfaceIsRefusedAndKeepsItsNodeTypes)
-{
-    faults::failCall("MFnPlugin::registerUI", 1, kRefused);
-    EXPECT_FALSE(session.load());
-    EXPECT_THAT(session.takeReports(),
-                ElementsAre(entryReport("ERROR", kNoInterface,
-                                        "initializePlugin: Problem while registering Crowd Render UI - " +
-                                            refusedText())));
-    for (const char* type : kTypes)
-        EXPECT_TRUE(isRegistered(type)) << type;
-}
 
 TEST_F(Plugin, ReportsTheTypeWhoseIdAnotherPluginOwnsAndTriesNoOther)
 {
@@ -265,23 +171,6 @@ TEST_F(Plugin, ReportsTheTypeWhoseIdAnotherPluginOwnsAndTriesNoOther)
     }
 }
 
-TEST_F(Plugin, FailsSilentlyWhenOnlyCriticalMessagesPass)
-{
-    session.scene.optionVars().set("tvxPrefLogLevelForCrowd_Render", 0);
-    faults::failCall("MFnPlugin::registerNode", 2, kRefused);
-    EXPECT_FALSE(session.load());
-    EXPECT_THAT(session.takeReports(), IsEmpty());
-    EXPECT_THAT(registeredTypes(session), ElementsAre("CrowdRenderManagerNode"));
-}
-
-TEST_F(Plugin, LogsACoreExceptionInPlaceOfAReport)
-{
-    faults::failCall("MFnPlugin::registerUI", 1, kRefused);
-    test::breakCoreLog(1);
-    EXPECT_FALSE(session.load());
-    EXPECT_THAT(session.takeReports(), ElementsAre("ERROR]\tthe log is broken"));
-}
-
 TEST_F(Plugin, LetsNoCoreExceptionLeaveItsEntryPoint)
 {
     faults::failCall("MFnPlugin::registerUI", 1, kRefused);
@@ -295,26 +184,6 @@ TEST_F(Plugin, LoadsThoughItsLogIsBroken)
     test::breakCoreLog(2);
     EXPECT_TRUE(session.load());
     EXPECT_THAT(session.takeReports(), IsEmpty());
-}
-
-// Failures of unloading
-
-TEST_F(Plugin, ReportsTheFirstNodeTypeThatCannotBeTakenBackAndTriesNoOther)
-{
-    for (std::size_t refused = 0; refused < std::size(kTypes); ++refused) {
-        PluginSession own;
-        ASSERT_TRUE(own.load());
-        own.takeReports();
-        faults::record(true);
-        faults::failCall("MFnPlugin::deregisterNode", refused + 1, kRefused);
-        EXPECT_FALSE(own.unload());
-        EXPECT_THAT(own.takeReports(),
-                    ElementsAre(entryReport("ERROR", kNoLongerNode,
-                                            std::string("uninitializePlugin: Problem while unregistering ") +
-                                                kTypes[refused] + " node - " + refusedText())));
-        EXPECT_EQ(faults::countOf("MFnPlugin::deregisterNode"), refused + 1);
-        EXPECT_EQ(registeredTypes(own), Lines(kTypes + refused, std::end(kTypes)));
-    }
 }
 
 } // namespace
