@@ -1,5 +1,6 @@
 # Every option of the build, each with its reason.
 
+option(TVX_BUILD_HOST "Build the stand-in host and the plug-in for it, not for a Maya" ON)
 option(TVX_BUILD_TESTS "Build the tests (they need the stand-in host)" ON)
 option(TVX_BUILD_BENCH "Build the benchmarks (they need optimised code to mean anything)" OFF)
 option(TVX_SCALABLE_MALLOC
@@ -12,13 +13,14 @@ set(TVX_SANITIZE "" CACHE STRING
 set(MAYA_LOCATION "" CACHE PATH "A Maya installation to build the plug-in for")
 set(DEVKIT_LOCATION "" CACHE PATH "A Maya devkit to build the plug-in for")
 
-# Without a Maya the plug-in is built for the stand-in host, which is built beside it.
 if(MAYA_LOCATION OR DEVKIT_LOCATION)
   set(TVX_BUILD_HOST OFF)
+endif()
+if(NOT TVX_BUILD_HOST)
   set(TVX_BUILD_TESTS OFF)
   set(TVX_BUILD_BENCH OFF)
-else()
-  set(TVX_BUILD_HOST ON)
+elseif(NOT CMAKE_SYSTEM_NAME STREQUAL "Linux")
+  message(FATAL_ERROR "The stand-in host is for Linux: set MAYA_LOCATION or DEVKIT_LOCATION to build for a Maya.")
 endif()
 
 set(CMAKE_CXX_STANDARD 17)

@@ -64,11 +64,13 @@ if(commands MATCHES "${SOURCE_DIR}/host")
   message(FATAL_ERROR "the build for a devkit refers to ${SOURCE_DIR}/host")
 endif()
 
-# What is no devkit is refused, and said to be none.
+# What is no devkit is refused, and said to be none; so is none at all where one is needed.
 file(MAKE_DIRECTORY ${WORK_DIR}/empty)
-execute_process(COMMAND ${CMAKE_COMMAND} -S ${SOURCE_DIR} -B ${WORK_DIR}/refused -G Ninja
-                        -DMAYA_LOCATION=${WORK_DIR}/empty
-                RESULT_VARIABLE result ERROR_VARIABLE error OUTPUT_QUIET)
-if(result EQUAL 0 OR NOT error MATCHES "Set MAYA_LOCATION to a Maya installation")
-  message(FATAL_ERROR "a folder without Maya gives: ${result}\n${error}")
-endif()
+foreach(setting IN ITEMS MAYA_LOCATION=${WORK_DIR}/empty TVX_BUILD_HOST=OFF)
+  file(REMOVE_RECURSE ${WORK_DIR}/refused)
+  execute_process(COMMAND ${CMAKE_COMMAND} -S ${SOURCE_DIR} -B ${WORK_DIR}/refused -G Ninja -D${setting}
+                  RESULT_VARIABLE result ERROR_VARIABLE error OUTPUT_QUIET)
+  if(result EQUAL 0 OR NOT error MATCHES "Set MAYA_LOCATION to a Maya installation")
+    message(FATAL_ERROR "${setting} gives: ${result}\n${error}")
+  endif()
+endforeach()
