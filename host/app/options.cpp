@@ -4,6 +4,7 @@
 #include <CLI/CLI.hpp>
 
 #include <charconv>
+#include <filesystem>
 #include <sstream>
 #include <string_view>
 
@@ -122,6 +123,14 @@ void takeFaults(const std::vector<std::string>& words, Options& options)
     }
 }
 
+/// Maya's other format has an ending of its own.
+void checkSave(const Options& options)
+{
+    if (std::filesystem::path(options.save).extension() == ".mb")
+        throw CLI::ValidationError(
+            "--save", "\"" + options.save + "\" would be Maya Binary; only Maya ASCII (.ma) can be written");
+}
+
 /// What the lone word is depends on what is asked for.
 void takeFile(const Words& words, Options& options)
 {
@@ -144,6 +153,7 @@ void take(const Words& words, Options& options)
     takeSize(words.size, options);
     takeFaults(words.faults, options);
     takeFile(words, options);
+    checkSave(options);
     options.summary = formatNamed(words.summary);
     options.interactive = options.interactive || options.qt;
 }

@@ -1,4 +1,4 @@
-// Writing files whole or not at all: see atomicFile.h.
+// Reading and writing files whole or not at all: see atomicFile.h.
 #include "atomicFile.h"
 
 #include <cerrno>
@@ -8,6 +8,7 @@
 #include <system_error>
 
 #include <fcntl.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 namespace tvxhost::engine {
@@ -20,6 +21,54 @@ Outcome failure(const fs::path& path, const char* what)
 {
     return {Reason::failed,
             "cannot " + std::string(what) + " '" + path.string() + "': " + std::strerror(errno)};
+}
+
+/// A file that is open for reading as long as it lives.
+class OpenFile
+{
+public:
+    explicit OpenFile(const std::filesystem::path& file) : m_file(::open(file.c_str(), O_RDONLY | O_CLOEXEC))
+    {
+    }
+    ~OpenFile()
+    {
+        if (m_file >= 0)
+            ::close(m_file);
+    }
+    OpenFile(const OpenFile&) = delete;
+    OpenFile& operator=(const OpenFile&) = delete;
+
+    bool isOpen() const { return m_file >= 0; }
+    struct stat state() const
+    {
+        struct stat now = {};
+        (void)::fstat(m_file, &now);
+        return now;
+    }
+    /// Bytes read, 0 at the end, less on failure.
+    ssize_t read(char* bytes, std::size_t size) const
+    {
+        ssize_t count = 0;
+        do
+            count = ::read(m_file, bytes, size);
+        while (count < 0 && errno == EINTR);
+        return count;
+    }
+
+private:
+    int m_file;
+};
+
+/// Whether another process has written to a file between two looks at it.
+bool isChanged(const struct stat& before, const struct stat& after)
+{
+    return before.st_size != after.st_size || before.st_mtim.tv_sec != after.st_mtim.tv_sec ||
+           before.st_mtim.tv_nsec != after.st_mtim.tv_nsec;
+}
+
+Outcome unreadable(const fs::path& file, const char* why)
+{
+    return {Reason::failed, "Cannot read file \"" + file.string() + "\": " + why};
 }
 
 /// An open file that is removed again unless it was kept.
@@ -89,6 +138,34 @@ fs::path followed(const fs::path& path)
 }
 
 } // namespace
+
+Expected<std::string> readFile(const fs::path& file)
+{
+    std::error_code ignored;
+    if (!fs::exists(file, ignored))
+        return {Reason::doesNotExist, "File not found: \"" + file.string() + "\""};
+    if (fs::is_directory(file, ignored))
+        return unreadable(file, std::strerror(EISDIR));
+    // Nobody may ever write into a pipe.
+    if (!fs::is_regular_file(file, ignored))
+        return unreadable(file, "It is not a file");
+    const OpenFile opened(file);
+    if (!opened.isOpen())
+        return unreadable(file, std::strerror(errno));
+    const struct stat before = opened.state();
+    std::string text;
+    text.reserve(static_cast<std::size_t>(before.st_size) + 1);
+    char block[1 << 16];
+    ssize_t count = 0;
+    while ((count = opened.read(block, sizeof block)) > 0)
+        text.append(block, static_cast<std::size_t>(count));
+    if (count < 0)
+        return unreadable(file, std::strerror(errno));
+    // What was read before the change and after it need not belong together.
+    if (isChanged(before, opened.state()))
+        return {Reason::failed, "The file \"" + file.string() + "\" was changed while it was read"};
+    return text;
+}
 
 Outcome writeFileAtomically(const fs::path& path, std::string_view text)
 {

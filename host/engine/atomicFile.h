@@ -1,12 +1,17 @@
-// Writing files whole or not at all.
+// Reading and writing files whole or not at all.
 #pragma once
 
 #include "outcome.h"
 
 #include <filesystem>
+#include <string>
 #include <string_view>
 
 namespace tvxhost::engine {
+
+/// Reads a whole file. doesNotExist for a missing file; failed with the reason for what is no file, cannot be
+/// read, or was written to in the meantime.
+Expected<std::string> readFile(const std::filesystem::path& file);
 
 /// Writes `text` to a temporary file beside `path` and renames it: a reader sees the old file or the new one.
 /// On failure the old file stays as it is, nothing is left behind, and the outcome names the file and what

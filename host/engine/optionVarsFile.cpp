@@ -7,8 +7,6 @@
 #include <algorithm>
 #include <cctype>
 #include <charconv>
-#include <fstream>
-#include <sstream>
 #include <system_error>
 
 namespace tvxhost::engine {
@@ -278,20 +276,12 @@ Outcome OptionVars::load(const fs::path& folder)
     m_values.clear();
     m_changed = false;
     const fs::path file = folder / kFileName;
-    std::error_code error;
-    if (!fs::exists(file, error))
-        return {};
-    std::ifstream stream(file, std::ios::binary);
-    std::ostringstream text;
-    if (!stream || !(text << stream.rdbuf())) {
-        if (stream && fs::is_empty(file, error))
-            return {};
-        return {Reason::failed, "cannot read '" + file.string() + "'"};
-    }
+    const Expected<std::string> text = readFile(file);
+    if (!text)
+        return text.outcome.reason == Reason::doesNotExist ? Outcome() : text.outcome;
 
     std::map<std::string, OptionValue> values;
-    const std::string content = text.str();
-    Reader reader(content, values);
+    Reader reader(text.value, values);
     if (reader.read()) {
         m_values = std::move(values);
         return {};

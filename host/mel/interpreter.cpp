@@ -4,12 +4,11 @@
 #include "evaluator.h"
 #include "stackRoom.h"
 
+#include "engine/atomicFile.h"
 #include "engine/journal.h"
 
 #include <algorithm>
-#include <fstream>
 #include <optional>
-#include <sstream>
 
 namespace tvxhost::mel {
 
@@ -17,12 +16,14 @@ namespace {
 
 std::string readFile(const std::filesystem::path& file)
 {
-    std::ifstream stream(file, std::ios::binary);
-    std::ostringstream text;
-    if (!stream || std::filesystem::is_directory(file) || (text << stream.rdbuf()).bad()) {
+    auto text = engine::readFile(file);
+    if (text.outcome.reason == engine::Reason::doesNotExist) {
         throw ScriptError("Cannot read file \"" + file.string() + "\".", {});
     }
-    return text.str();
+    if (!text) {
+        throw ScriptError(text.outcome.text, {});
+    }
+    return std::move(text.value);
 }
 
 /// The arguments of a procedure or function that is called as a command.

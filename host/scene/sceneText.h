@@ -1,10 +1,10 @@
 // The text of a scene file, and the check that it is one.
 #pragma once
 
+#include "engine/atomicFile.h"
 #include "engine/outcome.h"
 #include "engine/scriptEditor.h"
 
-#include <filesystem>
 #include <string>
 #include <string_view>
 
@@ -17,9 +17,7 @@ struct SceneTextError
     int line = 0;            ///< 0: the file as a whole
 };
 
-/// Reads a whole file. doesNotExist for a missing file, failed with the system's reason for any other, and
-/// when the file was written to in the meantime.
-engine::Expected<std::string> readFile(const std::filesystem::path& file);
+using engine::readFile;
 
 /// Refuses what is empty, binary or does not begin as Maya ASCII does.
 SceneTextError checkSceneText(std::string_view text, const std::string& name);

@@ -4,18 +4,25 @@
 
 #include <gtest/gtest.h>
 
+#include <atomic>
 #include <cerrno>
+#include <chrono>
 #include <cstring>
 #include <fcntl.h>
 #include <filesystem>
+#include <fstream>
 #include <iterator>
 #include <string>
 #include <sys/stat.h>
+#include <thread>
 #include <vector>
 
 namespace {
 
 using namespace tvxhost::test;
+
+constexpr const char* kNotReplaced =
+    "' is not replaced, because what it holds cannot be read: mend it or move it away";
 
 class BadInput : public testing::Test
 {
@@ -93,7 +100,67 @@ TEST_F(BadInput, AFolderIsNoScene)
     expectErrorsAndNothingWritten({folder}, "Error: Cannot read file \"" + folder + "\": Is a directory\n");
 }
 
+TEST_F(BadInput, APipeIsNoScene)
+{
+    const std::string pipe = path("pipe.ma");
+    ASSERT_EQ(mkfifo(pipe.c_str(), 0600), 0);
+    expectErrorsAndNothingWritten({pipe}, "Error: Cannot read file \"" + pipe + "\": It is not a file\n");
+}
+
+TEST_F(BadInput, ASceneMayBeWrittenOverItself)
+{
+    const std::string scene = file("same.ma", "//Maya ASCII 2016 scene\ncreateNode transform -n \"kept\";\n");
+    const ProgramResult result = runHost({scene, "-e", "createNode -n added transform", "--save", scene});
+    EXPECT_EQ(result.exitCode, 0) << result.errors;
+    for (const char* line : {"createNode transform -n \"kept\";\n", "createNode transform -n \"added\";\n"})
+        EXPECT_NE(contentsOf(scene).find(line), std::string::npos) << line;
+}
+
+TEST_F(BadInput, AnEndingOfTheOtherFormatIsRefusedBeforeAnythingIsDone)
+{
+    const std::string target = path("out.mb");
+    const ProgramResult result = runHost({"-e", "print \"done\"", "--save", target});
+    EXPECT_EQ(result.exitCode, 2);
+    EXPECT_EQ(result.output, "");
+    EXPECT_NE(
+        result.errors.find("\"" + target + "\" would be Maya Binary; only Maya ASCII (.ma) can be written"),
+        std::string::npos)
+        << result.errors;
+    EXPECT_FALSE(std::filesystem::exists(target));
+}
+
 // Scripts
+
+TEST_F(BadInput, APipeIsNoScript)
+{
+    const std::string pipe = path("pipe.mel");
+    ASSERT_EQ(mkfifo(pipe.c_str(), 0600), 0);
+    expectErrors({"--script", pipe}, "Error: Cannot read file \"" + pipe + "\": It is not a file\n");
+    expectErrors({"--check", pipe}, "Error: Cannot read file \"" + pipe + "\": It is not a file\n");
+}
+
+TEST_F(BadInput, AScriptThatIsWrittenToMeanwhileIsToldAndNotRun)
+{
+    const std::string whole = "print \"ran\";\n//" + std::string(32'000'000, 'x') + "\n";
+    const std::string script = file("changing.mel", whole);
+    std::atomic<bool> isDone{false};
+    std::thread other([&] {
+        while (!isDone) {
+            std::filesystem::resize_file(script, whole.size() / 2);
+            std::ofstream(script, std::ios::in | std::ios::out) << whole;
+        }
+    });
+    ProgramResult result;
+    const auto end = std::chrono::steady_clock::now() + std::chrono::seconds(20);
+    do
+        result = runHost({"--script", script});
+    while (result.exitCode == 0 && std::chrono::steady_clock::now() < end);
+    isDone = true;
+    other.join();
+    EXPECT_EQ(result.errors, "Error: The file \"" + script + "\" was changed while it was read\n");
+    EXPECT_EQ(result.output, "");
+    EXPECT_EQ(result.exitCode, 1);
+}
 
 TEST_F(BadInput, AScriptsMistakeIsAtItsLine)
 {
@@ -204,10 +271,28 @@ TEST_F(BadInput, PreferencesThatCannotBeReplacedAreKept)
 {
     std::filesystem::create_directories(m_folder / "userPrefs.mel/inside");
     expectErrors({"--prefs", m_folder.path(), "-e", "optionVar -iv \"a\" 1"},
-                 "Error: cannot read '" + path("userPrefs.mel") + "'\nError: cannot replace '" +
-                     path("userPrefs.mel") + "': it is not a file\n");
+                 "Error: Cannot read file \"" + path("userPrefs.mel") + "\": Is a directory\nError: '" +
+                     path("userPrefs.mel") + kNotReplaced + "\n");
     EXPECT_TRUE(std::filesystem::exists(path("userPrefs.mel/inside")));
     EXPECT_EQ(std::distance(std::filesystem::directory_iterator(m_folder.path()), {}), 1);
+}
+
+TEST_F(BadInput, PreferencesThatCannotBeReadAreNotReplaced)
+{
+    // A file that can be opened by anybody and read by nobody.
+    const char* const unreadable = "/proc/self/mem";
+    for (const char* name : {"userPrefs.mel", "windowPrefs.mel"}) {
+        const TemporaryFolder folder;
+        const std::string held = folder / name;
+        std::filesystem::create_symlink(unreadable, held);
+        const ProgramResult result = runHost(
+            {"--interactive", "--prefs", folder.path(), "-e", "optionVar -iv a 1; windowPref -topEdge 3 w"});
+        EXPECT_EQ(result.exitCode, 1);
+        EXPECT_EQ(result.errors, "// Error: Cannot read file \"" + held +
+                                     "\": Input/output error // \n// Error: '" + held + kNotReplaced +
+                                     " // \n");
+        EXPECT_TRUE(std::filesystem::is_symlink(held));
+    }
 }
 
 // Files to write

@@ -30,6 +30,19 @@ Outcome mayDo(engine::Scene& scene, Happening check, const std::filesystem::path
     return {engine::Reason::failed, "File operation cancelled by user supplied callback."};
 }
 
+constexpr const char* kVariablesFile = "userPrefs.mel";
+
+/// What cannot be read is not replaced: nobody would know what is lost.
+Outcome mayReplace(const std::filesystem::path& file)
+{
+    const auto held = engine::readFile(file);
+    if (held || held.outcome.reason == engine::Reason::doesNotExist)
+        return {};
+    return {engine::Reason::failed, "'" + file.string() +
+                                        "' is not replaced, because what it holds cannot be read: mend it or "
+                                        "move it away"};
+}
+
 } // namespace
 
 SceneSession::SceneSession(engine::Scene& scene, api::PluginLoader* plugins)
@@ -60,9 +73,10 @@ Outcome SceneSession::loadPreferences(Interpreter& interpreter)
 Outcome SceneSession::loadWindows(Interpreter& interpreter)
 {
     const std::filesystem::path file = preferencesFolder / WindowPreferences::kFileName;
-    std::error_code ignored;
-    if (preferencesFolder.empty() || !std::filesystem::exists(file, ignored))
+    if (preferencesFolder.empty())
         return {};
+    if (const auto held = engine::readFile(file); !held)
+        return held.outcome.reason == engine::Reason::doesNotExist ? Outcome() : held.outcome;
     try {
         interpreter.sourceFile(file);
     } catch (const ScriptError& error) {
@@ -83,9 +97,11 @@ Outcome SceneSession::savePreferences(bool onlyChanged)
         return {};
     Outcome variables, places;
     if (!onlyChanged || m_scene.optionVars().isChanged())
-        variables = m_scene.optionVars().save(preferencesFolder);
+        if (variables = mayReplace(preferencesFolder / kVariablesFile); variables)
+            variables = m_scene.optionVars().save(preferencesFolder);
     if (!onlyChanged || windows.isChanged())
-        places = windows.save(preferencesFolder);
+        if (places = mayReplace(preferencesFolder / WindowPreferences::kFileName); places)
+            places = windows.save(preferencesFolder);
     return variables ? std::move(places) : std::move(variables);
 }
 
