@@ -3,6 +3,7 @@
 
 #include "scriptBridge.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace tvxhost::app {
@@ -24,11 +25,58 @@ mel::Value runCommand(engine::Scene& scene, const mel::CommandContext& context,
     return toValue(result);
 }
 
+using engine::PluginSyntax;
+
+std::vector<mel::ArgumentType> typesOf(const std::vector<PluginSyntax::Argument>& arguments)
+{
+    // In the order of PluginSyntax::Argument.
+    constexpr mel::ArgumentType kTypes[] = {mel::ArgumentType::boolean, mel::ArgumentType::integer,
+                                            mel::ArgumentType::number,  mel::ArgumentType::string,
+                                            mel::ArgumentType::name,    mel::ArgumentType::time,
+                                            mel::ArgumentType::linear,  mel::ArgumentType::angle};
+    std::vector<mel::ArgumentType> types;
+    for (const PluginSyntax::Argument argument : arguments)
+        types.push_back(kTypes[static_cast<std::size_t>(argument)]);
+    return types;
+}
+
+/// The arguments behind the flags: those of one type by it, others as any.
+mel::PositionalRule positionalOf(const PluginSyntax& syntax)
+{
+    std::vector<mel::ArgumentType> types = typesOf(syntax.arguments);
+    if (syntax.mostObjects > 0)
+        types.push_back(mel::ArgumentType::name);
+    mel::PositionalRule rule;
+    if (!types.empty()) {
+        const bool isOne =
+            std::all_of(types.begin(), types.end(), [&](auto type) { return type == types[0]; });
+        rule.type = isOne ? types[0] : mel::ArgumentType::any;
+    }
+    rule.least = syntax.arguments.size() + syntax.leastObjects;
+    rule.most = syntax.mostObjects == PluginSyntax::kAnyNumber ? mel::PositionalRule::kAny
+                                                               : syntax.arguments.size() + syntax.mostObjects;
+    return rule;
+}
+
+/// The command as its plug-in declares it.
+mel::CommandSpec described(mel::CommandSpec spec, const PluginSyntax& syntax)
+{
+    for (const PluginSyntax::Flag& flag : syntax.flags)
+        spec.flags.push_back({flag.shortName, flag.longName, typesOf(flag.arguments),
+                              mel::kCreate | (flag.isMultiUse ? mel::kMultiUse : 0u), ""});
+    spec.positional = positionalOf(syntax);
+    spec.queryable = syntax.isQueried;
+    spec.editable = syntax.isEdited;
+    return spec;
+}
+
 mel::CommandSpec specOf(engine::Scene& scene, const std::string& name)
 {
     mel::CommandSpec spec;
     spec.name = name;
     spec.summary = "a command of the plug-in " + scene.pluginCommands.at(name).plugin;
+    if (const auto syntax = scene.pluginCommands.at(name).syntax)
+        spec.described = [plain = spec, syntax] { return described(plain, syntax()); };
     spec.handler =
         mel::RawHandler([&scene](mel::CommandContext& context, const mel::ArgumentList& arguments) {
             return runCommand(scene, context, arguments);

@@ -220,8 +220,34 @@ Outcome Node::removeDynamicAttribute(Attribute& attribute)
                 "'" + attribute.longName + "' is not a dynamic attribute of '" + m_name + "'"};
     if (isLocked(Plug(*this, attribute)))
         return {Reason::lockedOrConnected, "'" + m_name + "." + attribute.longName + "' is locked"};
+    dropAliasesOf(attribute);
     removeAttribute(attribute);
     return {};
+}
+
+/// Takes away the aliases of an attribute, of its elements and its children.
+void Node::dropAliasesOf(const Attribute& attribute)
+{
+    const auto isOf = [&](const std::pair<std::string, std::string>& entry) {
+        const Attribute* named = findAttribute(entry.second.substr(0, entry.second.find_first_of(".[")));
+        return named && named->topLevel() == &attribute;
+    };
+    if (std::none_of(m_aliases.begin(), m_aliases.end(), isOf))
+        return;
+    m_scene->journal().keep(m_aliases, Ref<Node>(this));
+    m_aliases.erase(std::remove_if(m_aliases.begin(), m_aliases.end(), isOf), m_aliases.end());
+}
+
+void Node::renameInAliases(const std::string& before, const std::string& after)
+{
+    m_scene->journal().keep(m_aliases, Ref<Node>(this));
+    for (auto& [alias, path] : m_aliases)
+        for (std::size_t start = 0; start < path.size();) {
+            const std::size_t end = std::min(path.find_first_of(".[", start), path.size());
+            if (path.compare(start, end - start, before) == 0)
+                path.replace(start, end - start, after);
+            start = std::min(path.find('.', start), path.size() - 1) + 1;
+        }
 }
 
 Outcome Node::setAlias(const Plug& plug, const std::string& alias)

@@ -110,6 +110,8 @@ public:
     std::string aliasOf(const Plug& plug) const;
     /// Alias and the plug's path (long names, without the node), in the order in which they were given.
     const std::vector<std::pair<std::string, std::string>>& aliases() const { return m_aliases; }
+    /// The long name of an attribute is another one from now on.
+    void renameInAliases(const std::string& before, const std::string& after);
 
     /// A plug by a path such as "t", "translateX", "iog[0].og[1].gcl"; `error` set when there is none.
     /// A range ("vt[0:15]") is not a plug: see scene/.
@@ -134,6 +136,7 @@ public:
 private:
     class AttributeRemoval;
     void removeAttribute(Attribute& attribute);
+    void dropAliasesOf(const Attribute& attribute);
 
     std::string m_name;
     std::string m_uuid;

@@ -37,6 +37,8 @@ Outcome renameAttribute(Node& node, Attribute& attribute, const std::string& nam
     const Plug plug(node, attribute);
     Event renamed{Happening::attributeRenamed, &node, nullptr, &plug};
     renamed.text = own;
+    if (which == AttributeName::longName)
+        node.renameInAliases(own, name);
     own = name;
     scene.isModified = true;
     scene.observers().tell(renamed);

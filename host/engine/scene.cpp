@@ -1,4 +1,4 @@
-// Scene: the life of a session: nodes made, named, deleted; namespaces; selection; time.
+// Scene: the life of a session: nodes made, named, deleted; selection; time.
 #include "scene.h"
 
 #include "animCurve.h"
@@ -469,11 +469,22 @@ void Scene::putName(Node& node, const std::string& name)
         m_observers->tell(renaming);
 }
 
+bool Scene::hasFixedName(const Node& node)
+{
+    return node.isDefaultNode || node.isShared || node.isLockedNode || node.isReferenced;
+}
+
+const DagNode* Scene::scopeOf(const Node& node)
+{
+    const DagNode* dag = node.asDag();
+    return dag && !dag->m_parents.empty() ? dag->m_parents.front() : nullptr;
+}
+
 Expected<std::string> Scene::rename(Node& node, const std::string& name, bool createNamespace)
 {
     if (!node.isAlive())
         return {Reason::doesNotExist, "the node was deleted"};
-    if (node.isDefaultNode || node.isShared || node.isLockedNode || node.isReferenced)
+    if (hasFixedName(node))
         return {Reason::readOnly, "'" + node.name() + "' cannot be renamed"};
     if (name.empty() || name.find_first_not_of(':') == std::string::npos || name.back() == ':')
         return {Reason::invalidName, "'" + name + "' is not a legal name"};
@@ -485,56 +496,12 @@ Expected<std::string> Scene::rename(Node& node, const std::string& name, bool cr
     if (!createNamespace && colon != std::string::npos && !hasNamespace(":" + wish.substr(0, colon)))
         return {Reason::doesNotExist, "there is no namespace '" + wish.substr(0, colon) + "'"};
 
-    const DagNode* dag = node.asDag();
-    const DagNode* scope = dag && !dag->m_parents.empty() ? dag->m_parents.front() : nullptr;
-    const std::string unique = wantsNumber ? m_names->firstFree(wish) : uniqueName(wish, &node, scope);
+    const std::string unique =
+        wantsNumber ? m_names->firstFree(wish) : uniqueName(wish, &node, scopeOf(node));
     setName(node, unique);
     addNamespaceOf(unique);
     isModified = true;
     return unique;
-}
-
-// Namespaces
-
-void Scene::addNamespaceOf(const std::string& name)
-{
-    for (std::size_t colon = name.find(':'); colon != std::string::npos; colon = name.find(':', colon + 1)) {
-        const std::string space = name.substr(0, colon);
-        if (m_namespaces.insert(space).second && m_journal.isRecording())
-            m_journal.record([this, space] { m_namespaces.erase(space); },
-                             [this, space] { m_namespaces.insert(space); });
-    }
-}
-
-bool Scene::hasNamespace(const std::string& name) const
-{
-    const std::string bare = withoutColon(name);
-    return bare.empty() || m_namespaces.count(bare) != 0;
-}
-
-Outcome Scene::addNamespace(const std::string& name)
-{
-    const std::string bare = absoluteName(name);
-    if (bare.empty() || bare != legalName(bare, false))
-        return {Reason::invalidName, "'" + name + "' is not a legal namespace name"};
-    if (hasNamespace(bare))
-        return {Reason::nameTaken, "the namespace '" + name + "' exists already"};
-    addNamespaceOf(bare + ":");
-    return {};
-}
-
-Outcome Scene::setCurrentNamespace(const std::string& name)
-{
-    if (!hasNamespace(name))
-        return {Reason::doesNotExist, "there is no namespace '" + name + "'"};
-    m_journal.keep(m_namespace);
-    m_namespace = ":" + withoutColon(name);
-    return {};
-}
-
-std::vector<std::string> Scene::namespaces() const
-{
-    return {m_namespaces.begin(), m_namespaces.end()};
 }
 
 // Selection, time, files
@@ -608,6 +575,7 @@ void Scene::newScene()
     emptyScene();
     m_namespaces.clear();
     m_namespace = ":";
+    m_hasRelativeNames = false;
     m_units = Units();
     m_time = 0.0;
     m_playback = Playback();

@@ -58,6 +58,37 @@ public:
     virtual void runOnIdle(const std::string& script, bool display) = 0;
 };
 
+/// The flags and arguments of a plug-in's command, as its description tells them.
+struct PluginSyntax
+{
+    enum class Argument
+    {
+        boolean,
+        integer,
+        number,
+        string,
+        name,
+        time,
+        length,
+        angle
+    };
+    struct Flag
+    {
+        std::string shortName;
+        std::string longName;
+        std::vector<Argument> arguments;
+        bool isMultiUse = false;
+    };
+    static constexpr std::size_t kAnyNumber = static_cast<std::size_t>(-1);
+
+    std::vector<Flag> flags;
+    std::vector<Argument> arguments; ///< before the objects
+    std::size_t leastObjects = 0;
+    std::size_t mostObjects = 0;
+    bool isQueried = false;
+    bool isEdited = false;
+};
+
 /// A command that a plug-in registered, as the language calls it.
 struct PluginCommand
 {
@@ -65,6 +96,8 @@ struct PluginCommand
     std::string plugin;
     /// Runs it with words; flags as "-x". False: the error was shown.
     std::function<bool(const std::vector<ScriptRunner::Result>& arguments, ScriptRunner::Result& result)> run;
+    /// How it takes its words apart; empty when it does not say.
+    std::function<PluginSyntax()> syntax{};
 };
 
 /// One of the places where nodes can be named: the whole of a session's state. There is one Scene per process
@@ -136,13 +169,27 @@ public:
     /// How many DAG paths end in these nodes' names, one below the other; counts no further than 2.
     std::size_t countPathsEndingIn(const std::vector<DagNode*>& ending) const;
 
-    // Namespaces
+    // Namespaces: whole names, with or without the root's colon; the root is "" or ":"
 
     const std::string& currentNamespace() const { return m_namespace; }
     Outcome setCurrentNamespace(const std::string& name);
+    /// Makes one, and those that it is in; in the current one unless the name begins with a colon.
     Outcome addNamespace(const std::string& name);
+    /// Takes an empty one away; the root is the current one then if that was it.
+    Outcome removeNamespace(const std::string& name);
+    /// Moves nodes and namespaces from one into another. Where a name is taken there, `force` gives the node
+    /// another one; else nothing is moved. What is locked or of a reference cannot be moved.
+    Outcome moveNamespace(const std::string& from, const std::string& to, bool force = false);
+    Outcome renameNamespace(const std::string& from, const std::string& to);
     bool hasNamespace(const std::string& name) const;
+    /// In alphabetical order, without the root.
     std::vector<std::string> namespaces() const;
+    /// The nodes in a namespace and in those within it, in order of creation.
+    std::vector<Node*> nodesIn(const std::string& space) const;
+    /// Whether names are looked up in the current namespace before the root, as while a file is read.
+    bool hasRelativeNames() const { return m_hasRelativeNames; }
+    void setRelativeNames(bool on);
+    class RelativeNames;
 
     // Connections
 
@@ -225,7 +272,14 @@ private:
     std::string absoluteName(const std::string& name) const;
     /// Replaces what no name may hold, with a warning when `warn`.
     std::string legalName(const std::string& name, bool warn);
+    static bool hasFixedName(const Node& node);
+    /// Whose other children a node's name must differ from; null where it is unlike all names.
+    static const DagNode* scopeOf(const Node& node);
+    void putNamespace(const std::string& space);
     void addNamespaceOf(const std::string& name);
+    void dropNamespace(const std::string& space);
+    Outcome checkNamespace(const std::string& space) const;
+    void moveContent(const std::string& from, const std::string& to);
     void emptyScene();
 
     std::vector<Node*> candidates(const std::string& name) const;
@@ -260,12 +314,30 @@ private:
     std::set<std::string> m_namespaces; ///< without the root
     DagNode* m_world = nullptr;
     std::string m_namespace = ":";
+    bool m_hasRelativeNames = false;
     SelectionList m_selection;
     SelectionList m_hilite;
     double m_time = 0.0;
     Playback m_playback;
     std::unordered_set<Node*> m_waiting; ///< nodes that undo or redo may bring back
     Journal m_journal;
+};
+
+/// While it lives, names are looked up in the current namespace first.
+class Scene::RelativeNames
+{
+public:
+    explicit RelativeNames(Scene& scene) : m_scene(scene), m_before(scene.m_hasRelativeNames)
+    {
+        scene.m_hasRelativeNames = true;
+    }
+    ~RelativeNames() { m_scene.m_hasRelativeNames = m_before; }
+    RelativeNames(const RelativeNames&) = delete;
+    RelativeNames& operator=(const RelativeNames&) = delete;
+
+private:
+    Scene& m_scene;
+    bool m_before;
 };
 
 } // namespace tvxhost::engine

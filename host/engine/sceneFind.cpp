@@ -62,7 +62,7 @@ std::vector<Node*> Scene::candidates(const std::string& name) const
     const auto named = [&](const std::string& full) { return m_names->nodesNamed(full); };
     if (!name.empty() && name[0] == ':')
         return named(name.substr(1));
-    if (m_namespace != ":")
+    if (m_hasRelativeNames)
         if (std::vector<Node*> found = named(absoluteName(name)); !found.empty())
             return found;
     return named(name);
@@ -83,7 +83,7 @@ std::vector<DagNode*> Scene::candidatesOfPath(const std::string& path) const
         std::vector<DagNode*> below;
         for (const DagNode* node : found) {
             DagNode* child =
-                m_namespace == ":" ? nullptr : m_names->childNamed(*node, absoluteName(parts[i]));
+                m_hasRelativeNames ? m_names->childNamed(*node, absoluteName(parts[i])) : nullptr;
             if (!child)
                 child = m_names->childNamed(*node, withoutColon(parts[i]));
             if (child)

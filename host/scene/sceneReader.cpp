@@ -61,6 +61,7 @@ SceneReader::SceneReader(engine::Scene& scene, const ReadOptions& options, std::
 void SceneReader::read(std::string_view text)
 {
     m_textSize = text.size();
+    const engine::Scene::RelativeNames inCurrentNamespace(m_scene);
     mel::StatementReader reader(text, m_file);
     std::size_t told = 0;
     while (nextStatement(reader)) {

@@ -4,6 +4,7 @@
 #include <maya/MFnPlugin.h>
 
 #include "plugins/pluginLoader.h"
+#include "support/pluginSyntax.h"
 #include "support/arguments.h"
 #include "support/builtInAttributes.h"
 #include "support/commandState.h"
@@ -287,9 +288,11 @@ MStatus MFnPlugin::registerCommand(const MString& commandName, MCreatorFunction 
     if (!creatorFunction)
         return failure(StatusText::nullArgument);
     const CommandFactory factory{tvxAccess::text(commandName), creatorFunction, createSyntaxFunction};
-    const PluginCommand command{factory.name, plugin->name, [factory](const auto& arguments, auto& result) {
-                                    return factory.run(arguments, result);
-                                }};
+    PluginCommand command{factory.name, plugin->name, [factory](const auto& arguments, auto& result) {
+                              return factory.run(arguments, result);
+                          }};
+    if (createSyntaxFunction)
+        command.syntax = [createSyntaxFunction] { return tvxhost::api::describeSyntax(createSyntaxFunction()); };
     if (factory.name.empty() || !sessionScene().pluginCommands.emplace(factory.name, command).second)
         return failure(StatusText::unexpectedFailure);
     plugin->commands.push_back(factory.name);

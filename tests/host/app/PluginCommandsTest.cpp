@@ -56,6 +56,25 @@ TEST_F(PluginCommandsTest, StopTheScriptWhenTheyFail)
     EXPECT_EQ(m_out.str(), "");
 }
 
+TEST_F(PluginCommandsTest, AreDescribedByTheirSyntax)
+{
+    using Argument = engine::PluginSyntax::Argument;
+    engine::PluginSyntax syntax;
+    syntax.flags = {{"f", "frames", {Argument::time, Argument::integer}, true}, {"c", "clear", {}, false}};
+    syntax.arguments = {Argument::string};
+    syntax.leastObjects = 1;
+    syntax.mostObjects = engine::PluginSyntax::kAnyNumber;
+    syntax.isQueried = true;
+    m_session.scene().pluginCommands["whisper"] = {"whisper", "quiet", {}, [syntax] { return syntax; }};
+    m_session.commands().pluginsChanged();
+    EXPECT_EQ(resultOf("help whisper"), "Synopsis: whisper [flags] Any Any [Any...]\n"
+                                        "  a command of the plug-in quiet\n"
+                                        "Flags:\n"
+                                        "    -q -query\n"
+                                        "    -f -frames                Time Int (multi-use)\n"
+                                        "    -c -clear\n");
+}
+
 TEST_F(PluginCommandsTest, AreGoneWithTheirPlugin)
 {
     m_session.scene().pluginCommands.clear();

@@ -353,6 +353,11 @@ TEST_F(JournalTest, timeAndNamespacesChange)
         ASSERT_TRUE(scene.addNamespace("one:two"));
         ASSERT_TRUE(scene.setCurrentNamespace("one"));
     });
+    expectUndoable([&] { ASSERT_TRUE(scene.rename(*scene.findNode("a").value, ":one:two:a")); });
+    expectUndoable([&] { ASSERT_TRUE(scene.renameNamespace("one:two", "three")); });
+    expectUndoable([&] { ASSERT_TRUE(scene.moveNamespace("three", "one")); });
+    expectUndoable([&] { ASSERT_TRUE(scene.removeNamespace("three")); });
+    expectUndoable([&] { scene.setRelativeNames(true); });
 }
 
 TEST_F(JournalTest, variablesThatAreKeptChange)

@@ -294,20 +294,100 @@ TEST_F(SceneTest, ANamespaceInANameIsMade)
     EXPECT_TRUE(scene.hasNamespace(":fig:arm"));
 }
 
-TEST_F(SceneTest, NamesAreMadeAndLookedUpInTheCurrentNamespace)
+TEST_F(SceneTest, NamesAreMadeInTheCurrentNamespaceAndLookedUpInTheRoot)
 {
     Node& outside = make("transform", "a");
     EXPECT_TRUE(scene.addNamespace("fig"));
     EXPECT_TRUE(scene.setCurrentNamespace("fig"));
     Node& inside = make("transform", "a");
     EXPECT_EQ(inside.name(), "fig:a");
-    EXPECT_EQ(scene.findNode("a").value, &inside);
-    EXPECT_EQ(scene.findNode(":a").value, &outside);
-    EXPECT_TRUE(scene.findNode("time1"));
+    EXPECT_EQ(scene.findNode("a").value, &outside);
+    EXPECT_EQ(scene.findNode("fig:a").value, &inside);
     EXPECT_EQ(make("transform", ":b").name(), "b");
     EXPECT_EQ(scene.setCurrentNamespace("none").reason, Reason::doesNotExist);
     EXPECT_EQ(scene.addNamespace(":fig").reason, Reason::nameTaken);
     EXPECT_EQ(scene.addNamespace("a b").reason, Reason::invalidName);
+}
+
+TEST_F(SceneTest, RelativeNamesAreLookedUpInTheCurrentNamespaceFirst)
+{
+    Node& outside = make("transform", "a");
+    DagNode& inside = makeTransform("fig:a");
+    Node& below = make("transform", "fig:b", &inside);
+    EXPECT_TRUE(scene.setCurrentNamespace("fig"));
+    {
+        const Scene::RelativeNames relative(scene);
+        EXPECT_EQ(scene.findNode("a").value, &inside);
+        EXPECT_EQ(scene.findNode("|a|b").value, &below);
+        EXPECT_EQ(scene.findNode(":a").value, &outside);
+        EXPECT_TRUE(scene.findNode("time1"));
+    }
+    EXPECT_EQ(scene.findNode("a").value, &outside);
+}
+
+TEST_F(SceneTest, ANamespaceIsMovedWithAllThatIsInIt)
+{
+    Node& hand = make("transform", "fig:arm:hand");
+    Node& leg = make("transform", "fig:leg");
+    ASSERT_TRUE(scene.addNamespace("crew"));
+    ASSERT_TRUE(scene.setCurrentNamespace("fig:arm"));
+    EXPECT_TRUE(scene.moveNamespace("fig", ":crew"));
+    EXPECT_EQ(hand.name(), "crew:arm:hand");
+    EXPECT_EQ(leg.name(), "crew:leg");
+    EXPECT_THAT(scene.namespaces(), ElementsAre("crew", "crew:arm", "fig"));
+    EXPECT_EQ(scene.currentNamespace(), ":crew:arm");
+    EXPECT_EQ(scene.moveNamespace("crew", "crew:arm").reason, Reason::cycle);
+    EXPECT_EQ(scene.moveNamespace(":", "crew").reason, Reason::readOnly);
+    EXPECT_EQ(scene.moveNamespace("fig", "none").reason, Reason::doesNotExist);
+}
+
+TEST_F(SceneTest, ATakenNameIsMovedByForceOnly)
+{
+    make("lambert", "red");
+    Node& red = make("lambert", "fig:red");
+    EXPECT_EQ(scene.moveNamespace("fig", ":").text, "there is an object named 'red' already");
+    EXPECT_EQ(red.name(), "fig:red");
+    EXPECT_TRUE(scene.moveNamespace("fig", ":", true));
+    EXPECT_EQ(red.name(), "red1");
+}
+
+TEST_F(SceneTest, ANamespaceIsRenamedAndSaysSo)
+{
+    Node& hand = make("transform", "fig:arm:hand");
+    std::vector<std::string> told;
+    scene.observers().add({Happening::namespaceRenamed}, [&](const Event& event) {
+        told = {event.text, event.name};
+    });
+    ASSERT_TRUE(scene.setCurrentNamespace("fig"));
+    EXPECT_TRUE(scene.renameNamespace("fig", ":crew:red"));
+    EXPECT_EQ(hand.name(), "crew:red:arm:hand");
+    EXPECT_THAT(told, ElementsAre("fig", "crew:red"));
+    EXPECT_THAT(scene.namespaces(), ElementsAre("crew", "crew:red", "crew:red:arm"));
+    EXPECT_EQ(scene.currentNamespace(), ":crew:red");
+    EXPECT_EQ(scene.renameNamespace("crew:red", "crew").reason, Reason::nameTaken);
+    EXPECT_EQ(scene.renameNamespace("crew", "crew:blue").reason, Reason::invalidName);
+    EXPECT_EQ(scene.renameNamespace("crew", "a b").reason, Reason::invalidName);
+}
+
+TEST_F(SceneTest, AnEmptyNamespaceIsTakenAway)
+{
+    Node& hand = make("transform", "fig:hand");
+    EXPECT_EQ(scene.removeNamespace("fig").text, "the namespace 'fig' is not empty");
+    ASSERT_TRUE(scene.deleteNode(hand));
+    ASSERT_TRUE(scene.setCurrentNamespace("fig"));
+    EXPECT_TRUE(scene.removeNamespace("fig"));
+    EXPECT_THAT(scene.namespaces(), IsEmpty());
+    EXPECT_EQ(scene.currentNamespace(), ":");
+    EXPECT_EQ(scene.removeNamespace("fig").reason, Reason::doesNotExist);
+    EXPECT_EQ(scene.removeNamespace(":").reason, Reason::readOnly);
+}
+
+TEST_F(SceneTest, WhatMayNotBeRenamedHoldsItsNamespace)
+{
+    Node& hand = make("transform", "fig:hand");
+    hand.isLockedNode = true;
+    EXPECT_EQ(scene.moveNamespace("fig", ":").text, "'fig:hand' cannot be renamed");
+    EXPECT_EQ(scene.renameNamespace("fig", "crew").reason, Reason::readOnly);
 }
 
 TEST_F(SceneTest, DependencyNodesMayShareANameAcrossNamespaces)

@@ -35,7 +35,8 @@ private:
                 m_out << ' ' << item.name(true);
             m_out << '\n';
         }
-        m_out << "namespace " << scene.currentNamespace() << " of";
+        m_out << "namespace " << scene.currentNamespace() << (scene.hasRelativeNames() ? " first" : "")
+              << " of";
         for (const std::string& name : scene.namespaces())
             m_out << ' ' << name;
         const engine::Units& units = scene.units();
