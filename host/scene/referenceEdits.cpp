@@ -35,6 +35,11 @@ namespace {
 constexpr const char* kParentFlags = "-s -r ";
 constexpr const char* kPlaceholders = ".placeHolderList[";
 
+/// The kind of edits that say what a `relationship` statement says: a kind of link, its node, and as many
+/// plugs as a number tells, with a further number behind them.
+constexpr int kRelationship = 7;
+constexpr std::size_t kRelationshipNames = 2;
+
 std::string fullName(Node& node)
 {
     DagNode* dag = node.asDag();
@@ -114,6 +119,8 @@ private:
     {
         ReferenceEdit edit;
         edit.kind = words.integer();
+        if (edit.kind == kRelationship)
+            return relationship(words);
         int count = wordCount(edit.kind);
         if (edit.kind == ReferenceEdit::connect) {
             edit.ends = words.integer();
@@ -124,9 +131,35 @@ private:
         return edit;
     }
 
+    static ReferenceEdit relationship(Words& words)
+    {
+        ReferenceEdit edit;
+        edit.kind = kRelationship;
+        for (std::size_t i = 0; i < kRelationshipNames; ++i)
+            edit.words.push_back(words.text());
+        for (int left = words.integer(); left > 0 && !words.failed(); --left)
+            edit.words.push_back(words.text());
+        edit.words.push_back(std::to_string(words.integer()));
+        return edit;
+    }
+
     std::string m_text;
     mel::StatementReader m_statements;
 };
+
+/// The words of an edit as they stand in a file.
+std::vector<std::string> fileWords(const ReferenceEdit& edit)
+{
+    std::vector<std::string> words;
+    for (const std::string& word : edit.words)
+        words.push_back(mel::quoted(word));
+    if (edit.kind == kRelationship) {
+        const std::size_t plugs = edit.words.size() - kRelationshipNames - 1;
+        words.back() = edit.words.back();
+        words.insert(words.begin() + kRelationshipNames, std::to_string(plugs));
+    }
+    return words;
+}
 
 std::string editText(const ReferenceEdit& edit)
 {
@@ -135,13 +168,13 @@ std::string editText(const ReferenceEdit& edit)
     if (edit.kind == ReferenceEdit::connect)
         text += ' ' + std::to_string(edit.ends);
     std::size_t lineStart = 0;
-    for (const std::string& word : edit.words) {
+    for (const std::string& word : fileWords(edit)) {
         text += ' ';
         if (text.size() - lineStart > kLongLine) {
             lineStart = text.size();
             text += "\n\t\t";
         }
-        text += mel::quoted(word);
+        text += word;
     }
     return text;
 }

@@ -260,4 +260,23 @@ TEST_F(ReferenceTest, whoseFileIsDamagedIsAnErrorThere)
                 HasSubstr((m_folder / "rig.ma").string() + " line 3: The file ends within this statement"));
 }
 
+TEST_F(ReferenceTest, keepsItsLightLinksBesideTheEditsThatItApplies)
+{
+    const std::string links =
+        "\t\t7 \"shadowLink\" \":lightLinker1\" 2 \"r:body.message\" \":defaultLightSet.message\" 0\n"
+        "\t\t7 \"link\" \":lightLinker1\" 2 \"|r:body|r:head|r:headShape.message\" "
+        "\":defaultLightSet.message\" \n\t\t0";
+    ASSERT_TRUE(open("file -r -ns \"r\" -rfn \"rRN\" \"rig.ma\";\ncreateNode reference -n \"rRN\";\n"
+                     "\tsetAttr \".ed\" -type \"dataReferenceEdits\" \n\t\t\"rRN\"\n\t\t\"rRN\" 3\n"
+                     "\t\t2 \"|r:body\" \"translate\" \" -type \\\"double3\\\" 4 5 6\"\n" +
+                     links + ";\n")
+                    .isClean());
+    EXPECT_THAT(messages(), IsEmpty());
+    EXPECT_THAT(numbers("r:body.t"), ElementsAre(4, 5, 6));
+    EXPECT_THAT(savedTwice(), HasSubstr(" 4 5 6\"\n" + links + ";\n"));
+    engine::Reference& reference = *scene.references.front();
+    ASSERT_TRUE(unloadReference(scene, reference));
+    EXPECT_THAT(saved(), HasSubstr(links + ";\n"));
+}
+
 } // namespace tvxhost::scene
