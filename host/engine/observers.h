@@ -60,6 +60,12 @@ enum class Happening
     started,
     timeChanged,
     selectionChanged,
+    setModified, ///< a member came or went [node: the set]
+    linearUnitChanged,
+    angularUnitChanged,
+    timeUnitChanged,
+    playbackRangeChanged,
+    projectChanged,
     namespaceRenamed, ///< [text: the former name, name: the new one]
     undone,
     redone,

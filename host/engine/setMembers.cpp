@@ -1,6 +1,8 @@
 // Members of sets; see setMembers.h.
 #include "setMembers.h"
 
+#include "observers.h"
+
 #include <algorithm>
 
 namespace tvxhost::engine {
@@ -45,6 +47,14 @@ Plug elementFedBy(const Plug& source, const Plug& array)
     return {};
 }
 
+/// Tells that a set was modified, when it was.
+Outcome told(Node& set, Outcome modified)
+{
+    if (modified)
+        set.scene().observers().tell({Happening::setModified, &set});
+    return modified;
+}
+
 } // namespace
 
 bool isSet(const Node& node)
@@ -75,7 +85,7 @@ Outcome addSetMember(Node& set, const SelectionItem& member)
     if (!elementFedBy(source, array).isNull())
         return {};
     Scene& scene = set.scene();
-    return scene.connect(source, scene.nextAvailable(array));
+    return told(set, scene.connect(source, scene.nextAvailable(array)));
 }
 
 Outcome removeSetMember(Node& set, const SelectionItem& member)
@@ -85,7 +95,7 @@ Outcome removeSetMember(Node& set, const SelectionItem& member)
     const Plug element = source.isNull() || array.isNull() ? Plug() : elementFedBy(source, array);
     if (element.isNull())
         return {Reason::notFound, "'" + member.name() + "' is not a member of '" + set.name() + "'"};
-    return set.scene().disconnect(source, element);
+    return told(set, set.scene().disconnect(source, element));
 }
 
 } // namespace tvxhost::engine

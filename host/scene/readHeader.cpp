@@ -4,6 +4,8 @@
 #include "flagScanner.h"
 #include "referenceEdits.h"
 
+#include "engine/settingsChange.h"
+
 #include <algorithm>
 
 namespace tvxhost::scene {
@@ -77,6 +79,7 @@ void SceneReader::requires_(const SceneStatement& statement)
 
 void SceneReader::currentUnit(const SceneStatement& statement)
 {
+    const engine::SettingsChange settings(m_scene);
     engine::Units& units = m_scene.units();
     const auto take = [&](auto& unit, const auto& named, const std::string& name) {
         if (const auto found = named(name))

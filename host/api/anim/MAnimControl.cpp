@@ -2,6 +2,7 @@
 #include <maya/MAnimControl.h>
 
 #include "engine/scene.h"
+#include "engine/settingsChange.h"
 #include "support/apiCall.h"
 #include "support/curveSet.h"
 #include "support/notImplemented.h"
@@ -30,6 +31,7 @@ using End = void (Playback::*)(double);
 MStatus set(const char* name, End end, const MTime& time)
 {
     TVX_API_CALL(name);
+    const engine::SettingsChange settings(engine::Scene::current());
     (playback().*end)(time.as(MTime::kSeconds));
     return MS::kSuccess;
 }
@@ -39,6 +41,7 @@ MStatus setRange(const char* name, End begin, const MTime& first, End end, const
     TVX_API_CALL(name);
     if (last < first)
         return failure(MS::kInvalidParameter, StatusText::unexpectedFailure);
+    const engine::SettingsChange settings(engine::Scene::current());
     (playback().*begin)(first.as(MTime::kSeconds));
     (playback().*end)(last.as(MTime::kSeconds));
     return MS::kSuccess;

@@ -2,6 +2,7 @@
 #include <maya/MTime.h>
 
 #include "engine/scene.h"
+#include "engine/settingsChange.h"
 #include "support/status.h"
 
 #include <cmath>
@@ -99,6 +100,7 @@ MStatus MTime::setUIUnit(Unit new_unit)
 {
     if (ticksPer(new_unit) <= 0.0)
         return api::failure(MS::kInvalidParameter, api::StatusText::unexpectedFailure);
+    const engine::SettingsChange settings(engine::Scene::current());
     engine::Scene::current().units().time = new_unit;
     return MS::kSuccess;
 }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "engine/scene.h"
+#include "engine/settingsChange.h"
 #include "status.h"
 
 #include <maya/MAngle.h>
@@ -66,6 +67,7 @@ MStatus chooseUnit(typename Value::Unit unit)
 {
     if (!UnitsOf<Value>::exists(unit))
         return failure(MS::kInvalidParameter, StatusText::unexpectedFailure);
+    const engine::SettingsChange settings(engine::Scene::current());
     UnitsOf<Value>::chosen() = static_cast<typename UnitsOf<Value>::Unit>(unit);
     return MS::kSuccess;
 }

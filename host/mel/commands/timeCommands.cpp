@@ -2,6 +2,8 @@
 #include "commandSupport.h"
 #include "sceneCommands.h"
 
+#include "engine/settingsChange.h"
+
 #include <array>
 
 namespace tvxhost::mel {
@@ -46,6 +48,7 @@ Value currentUnit(CommandContext& context, const ParsedCommand& call)
     engine::Units& units = sceneOf(context).units();
     if (call.queries())
         return unitName(units, call);
+    const engine::SettingsChange settings(sceneOf(context));
     sceneOf(context).journal().keep(units);
     change(context, call, "linear", units.linear, engine::linearUnitNamed);
     change(context, call, "angle", units.angle, engine::angularUnitNamed);
@@ -131,6 +134,7 @@ Value playbackOptions(CommandContext& context, const ParsedCommand& call)
     if (call.queries())
         return queryPlayback(context, call);
     Playback& playback = sceneOf(context).playback();
+    const engine::SettingsChange settings(sceneOf(context));
     sceneOf(context).journal().keep(playback);
     for (const RangeEnd& end : kRangeEnds)
         if (const FlagUse* use = call.use(end.longName))

@@ -4,6 +4,8 @@
 
 #include "../interpreter.h"
 
+#include "engine/observers.h"
+
 namespace tvxhost::mel {
 
 namespace fs = std::filesystem;
@@ -100,6 +102,7 @@ void openProject(CommandContext& context, const fs::path& folder)
     sessionOf(context).workspace.open(folder);
     if (fs::exists(folder / Workspace::kFileName))
         context.interpreter().sourceFile(folder / Workspace::kFileName);
+    sceneOf(context).observers().tell({engine::Happening::projectChanged});
 }
 
 void makeFolder(CommandContext& context, const fs::path& folder)

@@ -2,12 +2,15 @@
 #include "../support/temporaryFolder.h"
 #include "CommandFixture.h"
 
+#include <maya/MDistance.h>
+#include <maya/MEventMessage.h>
 #include <maya/MFileObject.h>
 #include <maya/MFnDependencyNode.h>
 #include <maya/MObject.h>
 #include <maya/MPlug.h>
 #include <maya/MSceneMessage.h>
 #include <maya/MString.h>
+#include <maya/MTime.h>
 
 #include <filesystem>
 #include <fstream>
@@ -199,6 +202,38 @@ TEST_F(SceneMessageTest, TheSceneIsUpdatedByAllThatBringsOrTakesNodes)
     run(reference());
     run("file -removeReference -referenceNode treeRN");
     EXPECT_THAT(takeHeard(), ElementsAre("update", "update", "update", "update"));
+}
+
+TEST_F(SceneMessageTest, MembersOfSetsThatComeAndGoAreTold)
+{
+    run("createNode transform -n a; sets -empty -name crowd");
+    EXPECT_NE(0u, MEventMessage::addEventCallback("SetModified", hear, word("modified")));
+    run("sets -addElement crowd a");
+    run("sets -addElement crowd a");
+    EXPECT_THAT(takeHeard(), ElementsAre("modified")) << "it is a member once";
+    run("sets -remove crowd a");
+    EXPECT_THAT(takeHeard(), ElementsAre("modified"));
+}
+
+TEST_F(SceneMessageTest, SettingsAreToldWhenTheyChange)
+{
+    for (const char* name : {"linearUnitChanged", "angularUnitChanged", "timeUnitChanged",
+                             "playbackRangeChanged", "WorkspaceChanged"})
+        EXPECT_NE(0u, MEventMessage::addEventCallback(name, hear, word(name))) << name;
+    run("currentUnit -linear m");
+    EXPECT_THAT(takeHeard(), ElementsAre("linearUnitChanged"));
+    run("currentUnit -linear m -angle rad -time pal");
+    EXPECT_THAT(takeHeard(), ElementsAre("angularUnitChanged", "timeUnitChanged"));
+    EXPECT_EQ(MS::kSuccess, MDistance::setUIUnit(MDistance::kCentimeters));
+    EXPECT_EQ(MS::kSuccess, MTime::setUIUnit(MTime::kFilm));
+    EXPECT_THAT(takeHeard(), ElementsAre("linearUnitChanged", "timeUnitChanged"));
+    run("playbackOptions -minTime 1 -maxTime 50");
+    run("playbackOptions -maxTime 50 -by 2");
+    EXPECT_THAT(takeHeard(), ElementsAre("playbackRangeChanged"));
+    run("workspace -openWorkspace \"" + folder.path().string() + "\"");
+    EXPECT_THAT(takeHeard(), ElementsAre("WorkspaceChanged"));
+    EXPECT_NE("", failure("currentUnit -linear parsec"));
+    EXPECT_THAT(takeHeard(), IsEmpty());
 }
 
 } // namespace
