@@ -105,6 +105,16 @@ bool refuseTextures(const MFloatArray& u, const MFloatArray& v, MStatus* returnS
     return true;
 }
 
+template <class Array>
+MObject createMesh(MFnMesh& set, int numVertices, int numPolygons, const Array& vertexArray,
+                   const MIntArray& polygonCounts, const MIntArray& polygonConnects, const MObject& parent,
+                   MStatus* returnStatus)
+{
+    TVX_API_CALL_OR("MFnMesh::create", returnStatus, MObject());
+    return place(set, build(numVertices, numPolygons, vertexArray, polygonCounts, polygonConnects), parent,
+                 returnStatus);
+}
+
 /// Gives what a set is attached to another mesh. Not where history makes it.
 MStatus replace(const MFnMesh& set, const Expected<Ref<MeshData>>& mesh)
 {
@@ -150,18 +160,16 @@ MObject MFnMesh::create(int numVertices, int numPolygons, const MFloatPointArray
                         const MIntArray& polygonCounts, const MIntArray& polygonConnects,
                         MObject parentOrOwner, MStatus* ReturnStatus)
 {
-    TVX_API_CALL_OR("MFnMesh::create", ReturnStatus, MObject());
-    return place(*this, build(numVertices, numPolygons, vertexArray, polygonCounts, polygonConnects),
-                 parentOrOwner, ReturnStatus);
+    return createMesh(*this, numVertices, numPolygons, vertexArray, polygonCounts, polygonConnects,
+                      parentOrOwner, ReturnStatus);
 }
 
 MObject MFnMesh::create(int numVertices, int numPolygons, const MPointArray& vertexArray,
                         const MIntArray& polygonCounts, const MIntArray& polygonConnects,
                         MObject parentOrOwner, MStatus* ReturnStatus)
 {
-    TVX_API_CALL_OR("MFnMesh::create", ReturnStatus, MObject());
-    return place(*this, build(numVertices, numPolygons, vertexArray, polygonCounts, polygonConnects),
-                 parentOrOwner, ReturnStatus);
+    return createMesh(*this, numVertices, numPolygons, vertexArray, polygonCounts, polygonConnects,
+                      parentOrOwner, ReturnStatus);
 }
 
 MObject MFnMesh::create(int numVertices, int numPolygons, const MFloatPointArray& vertexArray,
@@ -169,10 +177,10 @@ MObject MFnMesh::create(int numVertices, int numPolygons, const MFloatPointArray
                         const MFloatArray& uArray, const MFloatArray& vArray, MObject parentOrOwner,
                         MStatus* ReturnStatus)
 {
-    if (refuseTextures(uArray, vArray, ReturnStatus))
-        return MObject();
-    return create(numVertices, numPolygons, vertexArray, polygonCounts, polygonConnects, parentOrOwner,
-                  ReturnStatus);
+    return refuseTextures(uArray, vArray, ReturnStatus)
+               ? MObject()
+               : createMesh(*this, numVertices, numPolygons, vertexArray, polygonCounts, polygonConnects,
+                            parentOrOwner, ReturnStatus);
 }
 
 MObject MFnMesh::create(int numVertices, int numPolygons, const MPointArray& vertexArray,
@@ -180,10 +188,10 @@ MObject MFnMesh::create(int numVertices, int numPolygons, const MPointArray& ver
                         const MFloatArray& uArray, const MFloatArray& vArray, MObject parentOrOwner,
                         MStatus* ReturnStatus)
 {
-    if (refuseTextures(uArray, vArray, ReturnStatus))
-        return MObject();
-    return create(numVertices, numPolygons, vertexArray, polygonCounts, polygonConnects, parentOrOwner,
-                  ReturnStatus);
+    return refuseTextures(uArray, vArray, ReturnStatus)
+               ? MObject()
+               : createMesh(*this, numVertices, numPolygons, vertexArray, polygonCounts, polygonConnects,
+                            parentOrOwner, ReturnStatus);
 }
 
 MStatus MFnMesh::createInPlace(int numVertices, int numPolygons, const MFloatPointArray& vertexArray,

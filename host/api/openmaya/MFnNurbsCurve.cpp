@@ -3,6 +3,7 @@
 
 #include "engine/geometry/nurbsCurve.h"
 #include "support/attributeMembers.h"
+#include "support/shapePlaces.h"
 #include "support/shapeSet.h"
 
 #include <maya/MDoubleArray.h>
@@ -14,7 +15,11 @@
 using namespace tvxhost;
 using api::failure;
 using api::give;
+using api::matrixTo;
+using api::placed;
 using api::StatusText;
+using api::taken;
+using api::turned;
 using engine::NurbsCurve;
 
 namespace {
@@ -84,31 +89,6 @@ MStatus changeCurve(const MFnBase& set, Change change)
         const MStatus changed = change(curve);
         return changed ? store(node, curve) : changed;
     });
-}
-
-/// From the curve's own space to another.
-engine::Matrix matrixTo(const MFnDagNode& set, MSpace::Space space)
-{
-    engine::DagNode* node = api::dagNodeOf(set);
-    return space == MSpace::kWorld && node ? api::pathOf(set, *node).inclusiveMatrix() : engine::Matrix();
-}
-
-MPoint placed(const Imath::V3d& point, const engine::Matrix& matrix)
-{
-    const Imath::V3d there = point * matrix;
-    return MPoint(there.x, there.y, there.z);
-}
-
-MVector turned(const Imath::V3d& vector, const engine::Matrix& matrix)
-{
-    Imath::V3d there;
-    matrix.multDirMatrix(vector, there);
-    return MVector(there.x, there.y, there.z);
-}
-
-Imath::V3d taken(const MPoint& point, const engine::Matrix& inverse)
-{
-    return Imath::V3d(point.x, point.y, point.z) * inverse;
 }
 
 MStatus noElement()

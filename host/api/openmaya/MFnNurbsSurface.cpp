@@ -3,6 +3,7 @@
 
 #include "engine/geometry/surfaceNode.h"
 #include "support/attributeMembers.h"
+#include "support/shapePlaces.h"
 #include "support/shapeSet.h"
 
 #include <maya/MDoubleArray.h>
@@ -15,7 +16,11 @@
 using namespace tvxhost;
 using api::failure;
 using api::give;
+using api::matrixTo;
+using api::placed;
 using api::StatusText;
+using api::taken;
+using api::turned;
 using engine::NurbsSurface;
 using Direction = NurbsSurface::Direction;
 
@@ -71,32 +76,6 @@ MStatus changeSurface(const MFnBase& set, Change change)
         const MStatus changed = change(surface);
         return changed ? store(node, surface) : changed;
     });
-}
-
-/// From the surface's own space to another.
-engine::Matrix matrixTo(const MFnDagNode& set, MSpace::Space space)
-{
-    engine::DagNode* node = api::dagNodeOf(set);
-    return space == MSpace::kWorld && node ? api::pathOf(set, *node).inclusiveMatrix() : engine::Matrix();
-}
-
-MPoint placed(const Imath::V3d& point, const engine::Matrix& matrix)
-{
-    const Imath::V3d there = point * matrix;
-    return MPoint(there.x, there.y, there.z);
-}
-
-MVector turned(const Imath::V3d& vector, const engine::Matrix& matrix)
-{
-    Imath::V3d there;
-    matrix.multDirMatrix(vector, there);
-    return MVector(there.x, there.y, there.z);
-}
-
-/// From another space, whose matrix is inverted.
-Imath::V3d taken(const MPoint& point, const engine::Matrix& inverse)
-{
-    return Imath::V3d(point.x, point.y, point.z) * inverse;
 }
 
 bool isOn(const NurbsSurface& surface, double u, double v)

@@ -113,58 +113,67 @@ MStatus intersect(const MFnBase& set, const MObjectArray& others, MSelectionList
     return status;
 }
 
-/// The member that an object stands for: a DAG node by its first path.
-MStatus itemOf(const MObject& object, SelectionItem& item)
+/// A member that may be, or why there is none.
+struct Found
 {
+    MStatus status;
+    SelectionItem item;
+};
+
+/// The member that an object stands for: a DAG node by its first path.
+Found itemOf(const MObject& object)
+{
+    Found found;
     Node* node = api::nodeOf(object);
     if (!node)
-        return failure(object.isNull() ? StatusText::nullArgument : StatusText::objectIsIncompatible);
-    item.node = node;
-    if (engine::DagNode* dag = node->asDag())
-        item.path = engine::DagPath::firstTo(*dag);
-    return MS::kSuccess;
+        found.status = failure(object.isNull() ? StatusText::nullArgument : StatusText::objectIsIncompatible);
+    found.item.node = node;
+    if (engine::DagNode* dag = node ? node->asDag() : nullptr)
+        found.item.path = engine::DagPath::firstTo(*dag);
+    return found;
 }
 
-MStatus itemOf(const MDagPath& path, const MObject& component, const char* name, SelectionItem& item)
+Found itemOf(const MDagPath& path, const MObject& component, const char* name)
 {
     if (!component.isNull())
-        return api::notImplemented(name);
+        return {api::notImplemented(name), {}};
     const engine::DagPath* own = tvxAccess::dagPath(path);
     if (!own || !own->isValid())
-        return failure(MS::kInvalidParameter, StatusText::objectDoesNotExist);
-    item.node = own->node();
-    item.path = *own;
-    return MS::kSuccess;
+        return {failure(MS::kInvalidParameter, StatusText::objectDoesNotExist), {}};
+    Found found;
+    found.item.node = own->node();
+    found.item.path = *own;
+    return found;
 }
 
 using MemberChange = engine::Outcome (*)(Node&, const SelectionItem&);
 
-MStatus change(const MFnBase& set, const MStatus& found, const SelectionItem& item, MemberChange by)
+MStatus change(const MFnBase& set, const Found& found, MemberChange by)
 {
     Node* node = api::nodeOf(set);
     if (!node)
         return api::notAttached();
-    return found ? api::toStatus(by(*node, item)) : found;
+    return found.status ? api::toStatus(by(*node, found.item)) : found.status;
 }
 
 MStatus changeAll(const MFnBase& set, const MSelectionList& list, const char* name, MemberChange by)
 {
     for (const SelectionItem& item : tvxAccess::selection(list).items()) {
         const bool isWhole = item.plug.isNull() && item.components.empty();
-        const MStatus changed = change(set, isWhole ? MStatus() : api::notImplemented(name), item, by);
+        const MStatus changed = change(set, {isWhole ? MStatus() : api::notImplemented(name), item}, by);
         if (!changed)
             return changed;
     }
     return api::nodeOf(set) ? MStatus() : api::notAttached();
 }
 
-bool isMemberOf(const MFnBase& set, const MStatus& found, const SelectionItem& item, MStatus* returnStatus)
+bool isMemberOf(const MFnBase& set, const Found& found, MStatus* returnStatus)
 {
     Node* node = api::nodeOf(set);
     if (!api::requireAttached(node, returnStatus))
         return false;
-    give(returnStatus, found);
-    return found && contains(engine::setMembers(*node), item);
+    give(returnStatus, found.status);
+    return found.status && contains(engine::setMembers(*node), found.item);
 }
 
 /// In the order of the enumerators behind kNone.
@@ -280,17 +289,13 @@ MStatus MFnSet::getMembers(MSelectionList& members, bool flatten) const
 MStatus MFnSet::addMember(const MObject& obj)
 {
     TVX_API_CALL("MFnSet::addMember");
-    SelectionItem item;
-    const MStatus found = itemOf(obj, item);
-    return change(*this, found, item, engine::addSetMember);
+    return change(*this, itemOf(obj), engine::addSetMember);
 }
 
 MStatus MFnSet::addMember(const MDagPath& obj, const MObject& component)
 {
     TVX_API_CALL("MFnSet::addMember");
-    SelectionItem item;
-    const MStatus found = itemOf(obj, component, "MFnSet::addMember", item);
-    return change(*this, found, item, engine::addSetMember);
+    return change(*this, itemOf(obj, component, "MFnSet::addMember"), engine::addSetMember);
 }
 
 MStatus MFnSet::addMember(const MPlug&)
@@ -308,17 +313,13 @@ MStatus MFnSet::addMembers(const MSelectionList& list)
 MStatus MFnSet::removeMember(const MObject& obj)
 {
     TVX_API_CALL("MFnSet::removeMember");
-    SelectionItem item;
-    const MStatus found = itemOf(obj, item);
-    return change(*this, found, item, engine::removeSetMember);
+    return change(*this, itemOf(obj), engine::removeSetMember);
 }
 
 MStatus MFnSet::removeMember(const MDagPath& obj, const MObject& component)
 {
     TVX_API_CALL("MFnSet::removeMember");
-    SelectionItem item;
-    const MStatus found = itemOf(obj, component, "MFnSet::removeMember", item);
-    return change(*this, found, item, engine::removeSetMember);
+    return change(*this, itemOf(obj, component, "MFnSet::removeMember"), engine::removeSetMember);
 }
 
 MStatus MFnSet::removeMember(const MPlug&)
@@ -336,17 +337,13 @@ MStatus MFnSet::removeMembers(const MSelectionList& list)
 bool MFnSet::isMember(const MObject& object, MStatus* ReturnStatus) const
 {
     TVX_API_CALL_OR("MFnSet::isMember", ReturnStatus, false);
-    SelectionItem item;
-    const MStatus found = itemOf(object, item);
-    return isMemberOf(*this, found, item, ReturnStatus);
+    return isMemberOf(*this, itemOf(object), ReturnStatus);
 }
 
 bool MFnSet::isMember(const MDagPath& object, const MObject& component, MStatus* ReturnStatus) const
 {
     TVX_API_CALL_OR("MFnSet::isMember", ReturnStatus, false);
-    SelectionItem item;
-    const MStatus found = itemOf(object, component, "MFnSet::isMember", item);
-    return isMemberOf(*this, found, item, ReturnStatus);
+    return isMemberOf(*this, itemOf(object, component, "MFnSet::isMember"), ReturnStatus);
 }
 
 bool MFnSet::isMember(const MPlug&, MStatus* ReturnStatus) const

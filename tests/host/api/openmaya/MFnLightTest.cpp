@@ -102,10 +102,12 @@ TEST_F(MFnLightTest, SetsFitTheLightsTheyAreFor)
     EXPECT_EQ(text(status), "(kFailure): Object does not exist");
     const MFnNonExtendedLight plain(object("bulb"), &status);
     EXPECT_EQ(status, MS::kSuccess);
-    EXPECT_EQ(plain.depthMapWidthFocus(&status), 0.0F);
-    EXPECT_EQ(status, MS::kInvalidParameter) << "only directional lights have it";
     EXPECT_FALSE(plain.castSoftShadows(&status));
     EXPECT_EQ(status, MS::kNotImplemented);
+    make("spotLight", "lamp");
+    const MFnSpotLight lamp(object("lamp"), &status);
+    EXPECT_EQ(lamp.barnDoorAngle(static_cast<MFnSpotLight::MBarnDoor>(4), &status), 0.0);
+    EXPECT_EQ(status, MS::kInvalidParameter) << "there are four doors";
 }
 
 TEST_F(MFnLightTest, LightDataIsACompoundOfItsParts)
