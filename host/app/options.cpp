@@ -82,6 +82,9 @@ void declareMode(CLI::App& app, Options& options, Words& words)
                  "Run as with a user interface: windows and menus are recorded, plug-ins make theirs");
     app.add_flag("--qt", options.qt, "The same with a Qt application and a main window");
     app.add_flag("--allow-system", options.allowSystem, "Let MEL's system command run other programs");
+    app.add_flag(
+        "--run-script-nodes", options.runScriptNodes,
+        "Run the scripts of script nodes when their scene opens and closes; they are only kept otherwise");
     app.add_option("--dialog-answer", options.dialogAnswers,
                    "What the next file dialog is answered; may be repeated, one for each dialog")
         ->type_name("ANSWER")

@@ -45,6 +45,7 @@ struct Options
 
     bool interactive = false;
     bool allowSystem = false;               ///< MEL's `system` may run other programs
+    bool runScriptNodes = false;            ///< those of the scenes that are opened
     bool qt = false;                        ///< with a Qt application and main window; interactive then
     std::vector<std::string> dialogAnswers; ///< what the dialogs get, in order
     std::vector<Fault> faults;

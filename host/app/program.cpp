@@ -3,6 +3,7 @@
 
 #include "nodeReport.h"
 #include "progress.h"
+#include "scriptNodes.h"
 #include "typeReport.h"
 #include "userInterface.h"
 
@@ -16,6 +17,7 @@
 #include "viewport/viewport.h"
 
 #include <filesystem>
+#include <optional>
 #include <ostream>
 
 namespace tvxhost::app {
@@ -51,6 +53,8 @@ public:
     {
         armFaults();
         m_session.interpreter().allowSystem(m_options.allowSystem);
+        if (m_options.runScriptNodes)
+            m_scriptNodes.emplace(m_session.scene(), m_session.interpreter());
         openWindows();
         loadPreferences();
         loadPlugins();
@@ -105,6 +109,7 @@ private:
     const Streams& m_streams;
     std::unique_ptr<UserInterface> m_windows; ///< outlives the session, whose plug-ins may have windows in it
     Session m_session;
+    std::optional<ScriptNodes> m_scriptNodes;
     std::string m_obstacle; ///< why no scene and no picture is written; empty: nothing stands in the way
 };
 
