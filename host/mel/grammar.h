@@ -398,7 +398,18 @@ struct return_statement : if_must<return_word, ws, opt<expression>, statement_en
 struct expression_statement : seq<not_at<one<'`'>>, expression, must<statement_end>>
 {
 };
-struct command_statement : seq<invocation, must<statement_end>>
+// What cannot begin an argument, or can only where a blank does not follow.
+struct joining_operator
+    : sor<string<'=', '='>, string<'!', '='>, string<'<', '='>, string<'>', '='>, string<'&', '&'>,
+          one<'?', '%', '^'>, seq<one<'<'>, not_at<one<'<'>>>, seq<one<'>'>, not_at<one<'>'>>>,
+          seq<sor<one<'+', '-', '*', '/'>, string<'|', '|'>>, blank>>
+{
+};
+// `sin(1) * 2` is an expression, though it begins as a command does.
+struct function_in_expression : seq<callable_name, argument_list, ws, joining_operator>
+{
+};
+struct command_statement : seq<not_at<function_in_expression>, invocation, must<statement_end>>
 {
 };
 
