@@ -2,11 +2,15 @@
 #include "commandSupport.h"
 #include "sceneCommands.h"
 
+#include "engine/animCurve.h"
 #include "engine/data.h"
 #include "scene/setAttr.h"
 #include "scene/uiUnits.h"
 
+#include <maya/MString.h>
+
 #include <numeric>
+#include <optional>
 
 namespace tvxhost::mel {
 
@@ -203,7 +207,8 @@ Value stateValue(const Plug& plug, const ParsedCommand& call)
     if (call.has("caching"))
         return Value(state.caching.value_or(own.cached));
     if (call.has("settable"))
-        return Value(own.writable && !engine::isLocked(plug) && !engine::isFedAnywhere(plug));
+        return Value(own.writable && !engine::isLocked(plug) &&
+                     (!engine::isFedAnywhere(plug) || engine::curveFeeding(plug)));
     if (call.has("size"))
         return Value(plug.isArray() ? static_cast<int>(engine::existingElements(plug).size()) : 1);
     if (call.has("multiIndices"))
@@ -245,10 +250,13 @@ Value getAttr(CommandContext& context, const ParsedCommand& call)
         const auto number = static_cast<short>(valueOf(context, engine::readNumber(item.plug)).asWhole());
         return Value(item.plug.attribute()->fieldName(number).value_or(""));
     }
-    if (!call.has("time"))
-        return valueOfPlug(context, item.plug);
-    const AtTime at(scene, toInternal(context, call.use("time")->arguments.front(), ArgumentType::time));
-    return valueOfPlug(context, item.plug);
+    std::optional<AtTime> at;
+    if (const FlagUse* time = call.use("time"))
+        at.emplace(scene, toInternal(context, time->arguments.front(), ArgumentType::time));
+    const Value value = valueOfPlug(context, item.plug);
+    if (call.has("expandEnvironmentVariables") && value.type() == Type::string)
+        return Value(MString(value.string().c_str()).expandEnvironmentVariablesAndTilde().asChar());
+    return value;
 }
 
 } // namespace
@@ -269,6 +277,7 @@ void registerAttributeValueCommands(CommandTable& table)
                      switchFlag("s", "size", "how many elements an array has"),
                      switchFlag("mi", "multiIndices", "the indices of an array's elements"),
                      switchFlag("sl", "silent", "no message when there is no value"),
+                     switchFlag("x", "expandEnvironmentVariables", "variables and ~ of a text replaced"),
                      valueFlag("t", "time", A::time, "at this time")},
                     names(1, 1), getAttr),
     });

@@ -67,16 +67,42 @@ void addDrivers(Node& node, const DriverFlag& row, const ParsedCommand& call, Do
     }
 }
 
-/// An object with all that is below it, as far as the call wants that.
-void addWithBelow(Node& node, bool withBelow, std::vector<Node*>& nodes)
+/// What -hierarchy reaches beside the objects and their shapes.
+struct Reach
+{
+    bool isAbove = false;
+    bool isBelow = false;
+    bool hasShapes = true;
+};
+
+Reach reachOf(const CommandContext& context, const ParsedCommand& call)
+{
+    const std::string reach = call.string("hierarchy", "none");
+    if (reach != "none" && reach != "above" && reach != "below" && reach != "both")
+        context.fail("delete: -hierarchy is above, below, both or none, not '" + reach + "'");
+    return {reach == "above" || reach == "both", reach == "below" || reach == "both",
+            call.boolean("shape", true)};
+}
+
+/// An object with what is below it, as far as the call wants that.
+void addWithBelow(Node& node, const Reach& reach, std::vector<Node*>& nodes)
 {
     nodes.push_back(&node);
     DagNode* dag = node.asDag();
     if (!dag)
         return;
     for (DagNode* child : dag->children())
-        if (withBelow || child->isShape())
-            addWithBelow(*child, withBelow, nodes);
+        if (child->isShape() ? reach.hasShapes : reach.isBelow)
+            addWithBelow(*child, reach, nodes);
+}
+
+void addAbove(Node& node, std::vector<Node*>& nodes)
+{
+    const DagNode* dag = node.asDag();
+    while (dag && !dag->parents().empty() && !dag->parents().front()->isWorld()) {
+        nodes.push_back(dag->parents().front());
+        dag = dag->parents().front();
+    }
 }
 
 /// The geometry is computed once more, so that it stays when what made it goes.
@@ -90,23 +116,17 @@ void addHistory(Node& node, Doomed& doomed)
     doomed.insert(doomed.end(), history.begin(), history.end());
 }
 
-/// Whether -hierarchy asks for what is below the objects.
-bool reachesBelow(const CommandContext& context, const ParsedCommand& call)
-{
-    const std::string reach = call.string("hierarchy", "none");
-    if (reach != "none" && reach != "below")
-        context.fail("delete: -hierarchy is below or none here, not '" + reach + "'");
-    return reach == "below";
-}
-
 /// What makes or drives the objects; the objects stay.
 Doomed partsOf(const CommandContext& context, const std::vector<SelectionItem>& items,
                const ParsedCommand& call)
 {
-    const bool withBelow = reachesBelow(context, call);
+    const Reach reach = reachOf(context, call);
     std::vector<Node*> nodes;
-    for (const SelectionItem& item : items)
-        addWithBelow(*item.node, withBelow, nodes);
+    for (const SelectionItem& item : items) {
+        addWithBelow(*item.node, reach, nodes);
+        if (reach.isAbove)
+            addAbove(*item.node, nodes);
+    }
     Doomed doomed;
     for (Node* node : nodes) {
         if (call.has("constructionHistory"))
@@ -160,8 +180,8 @@ void registerDeleteCommands(CommandTable& table)
     std::vector<FlagSpec> flags = {
         switchFlag("all", "all", "everything that can be deleted"),
         valueFlag("hi", "hierarchy", A::string,
-                  "with -constructionHistory and the like: also of what is below "
-                  "(below or none)"),
+                  "with -constructionHistory and the like: also of what is above, below, both or none"),
+        valueFlag("s", "shape", A::boolean, "with -channels and the like: of shapes too (on by default)"),
         switchFlag("ch", "constructionHistory", "only the nodes that made the objects"),
         valueFlag("at", "attribute", A::string, "with -channels and the like: of this attribute only",
                   kCreate | kMultiUse),
@@ -170,7 +190,6 @@ void registerDeleteCommands(CommandTable& table)
         valueFlag("uac", "unitlessAnimationCurves", A::boolean,
                   "with -channels: curves over other values (on by default)"),
         refusedFlag("sc", "staticChannels", "curves are deleted whether or not their value changes"),
-        refusedFlag("s", "shape", "objects are deleted with their shapes"),
         refusedFlag("cp", "controlPoints", "points cannot be deleted"),
         refusedFlag("icn", "inputConnectionsAndNodes", "delete the nodes themselves"),
     };

@@ -1,4 +1,4 @@
-// Keys and curves: asking for them, moving, cutting and finding them.
+// Keys and curves: cutting and finding them, and what curves are outside their keys.
 #include "keyframeCommands.h"
 
 #include "keysets.h"
@@ -17,147 +17,6 @@ using engine::CurveInfinity;
 using engine::Node;
 
 namespace {
-
-std::vector<std::string> namesOf(const CommandContext& context, const std::vector<Node*>& curves)
-{
-    std::vector<std::string> found;
-    for (const Node* curve : curves)
-        found.push_back(sceneOf(context).shortestName(*curve));
-    return found;
-}
-
-// keyframe
-
-/// Calls `use(curve, keys, index)` for each chosen key.
-template <class Use>
-void forChosenKeys(const CommandContext& context, const ParsedCommand& call, Use use)
-{
-    const KeyChoice choice(context, call);
-    for (Node* curve : curvesOf(context, call)) {
-        const AnimCurveKeys keys = engine::readCurve(*curve);
-        for (const std::size_t index : choice.of(*curve, keys))
-            use(*curve, keys, index);
-    }
-}
-
-/// What the curves are without regard to their inputs, at the times and numbers that were named.
-Value evaluated(const CommandContext& context, const ParsedCommand& call)
-{
-    const KeyChoice choice(context, call);
-    Value::Numbers values;
-    for (Node* curve : curvesOf(context, call)) {
-        std::vector<double> places = choice.places(*curve);
-        if (places.empty() && engine::isTimed(*curve))
-            places.push_back(sceneOf(context).time());
-        const AnimCurveKeys keys = engine::readCurve(*curve);
-        for (const double at : places)
-            values.push_back(valueToUi(*curve, keys.valueAt(at)));
-    }
-    return Value(std::move(values));
-}
-
-Value queryKeyframe(const CommandContext& context, const ParsedCommand& call)
-{
-    if (call.has("name"))
-        return Value(namesOf(context, curvesOf(context, call)));
-    if (call.has("eval"))
-        return evaluated(context, call);
-    Value::Numbers numbers;
-    Value::Integers indices;
-    forChosenKeys(context, call, [&](const Node& curve, const AnimCurveKeys& keys, std::size_t index) {
-        const AnimKey& key = keys.keys[index];
-        if (call.has("breakdown") && !key.isBreakdown)
-            return;
-        numbers.push_back(call.has("valueChange") ? valueToUi(curve, key.value) : inputToUi(curve, key.at));
-        indices.push_back(static_cast<int>(index));
-    });
-    if (call.has("keyframeCount"))
-        return Value(static_cast<int>(indices.size()));
-    if (call.has("indexValue"))
-        return Value(std::move(indices));
-    return Value(std::move(numbers));
-}
-
-/// A change of keys: of one number to another, or by an amount.
-struct Change
-{
-    std::optional<double> amount;
-    bool isRelative = false;
-
-    double of(double number) const { return isRelative ? number + *amount : *amount; }
-};
-
-/// Moves and changes the chosen keys of a curve; one that meets another key takes its place.
-void changeKeys(const Node& curve, AnimCurveKeys& keys, const std::vector<std::size_t>& chosen,
-                const Change& input, const Change& value, const std::optional<bool>& isBreakdown)
-{
-    std::vector<AnimKey> changed;
-    for (auto index = chosen.rbegin(); index != chosen.rend(); ++index) {
-        AnimKey key = keys.keys[*index];
-        if (input.amount)
-            key.at = input.of(key.at);
-        if (value.amount)
-            key.value = Change{*value.amount * engine::valuePerUi(curve), value.isRelative}.of(key.value);
-        key.isBreakdown = isBreakdown.value_or(key.isBreakdown);
-        changed.push_back(key);
-        keys.keys.erase(keys.keys.begin() + static_cast<std::ptrdiff_t>(*index));
-    }
-    for (const AnimKey& key : changed)
-        keys.put(key);
-}
-
-Value keyframe(CommandContext& context, const ParsedCommand& call)
-{
-    if (call.queries())
-        return queryKeyframe(context, call);
-    const bool isRelative = call.has("relative");
-    Change time{std::nullopt, isRelative};
-    Change number{std::nullopt, isRelative};
-    Change value{std::nullopt, isRelative};
-    if (const FlagUse* use = call.use("timeChange"))
-        time.amount = toInternal(context, use->arguments.front(), ArgumentType::time);
-    if (call.has("floatChange"))
-        number.amount = call.number("floatChange");
-    if (call.has("valueChange"))
-        value.amount = call.number("valueChange");
-    std::optional<bool> isBreakdown;
-    if (call.has("breakdown"))
-        isBreakdown = call.boolean("breakdown");
-
-    const KeyChoice choice(context, call);
-    int count = 0;
-    for (Node* curve : curvesOf(context, call)) {
-        AnimCurveKeys keys = engine::readCurve(*curve);
-        const std::vector<std::size_t> chosen = choice.of(*curve, keys);
-        if (chosen.empty())
-            continue;
-        changeKeys(*curve, keys, chosen, engine::isTimed(*curve) ? time : number, value, isBreakdown);
-        require(context, engine::writeCurve(*curve, keys));
-        ++count;
-    }
-    return Value(count);
-}
-
-CommandSpec keyframeCommand()
-{
-    using A = ArgumentType;
-    std::vector<FlagSpec> flags = keysetFlags();
-    flags.insert(
-        flags.end(),
-        {switchFlag("a", "absolute", "changes give the new number", kCreateEdit),
-         switchFlag("r", "relative", "changes are added", kCreateEdit),
-         valueFlag("tc", "timeChange", A::time, "when the keys are", kAllModes),
-         valueFlag("fc", "floatChange", A::number, "where the keys are, on curves over plain numbers",
-                   kAllModes),
-         valueFlag("vc", "valueChange", A::number, "the values of the keys", kAllModes),
-         valueFlag("bd", "breakdown", A::boolean, "whether keys are breakdowns; those that are", kAllModes),
-         switchFlag("kc", "keyframeCount", "how many keys there are", kQuery),
-         switchFlag("iv", "indexValue", "the indices of the keys", kQuery),
-         switchFlag("n", "name", "the curves", kQuery),
-         switchFlag("ev", "eval", "the values of the curves at the times and numbers given", kQuery)});
-    return makeCommand("keyframe", "Moves keys or tells about them", std::move(flags), names(), keyframe,
-                       kAllModes);
-}
 
 // cutKey
 
@@ -185,7 +44,10 @@ CommandSpec cutKeyCommand()
 {
     std::vector<FlagSpec> flags = keysetFlags();
     flags.insert(flags.end(), {switchFlag("cl", "clear", "the keys are not kept for pasting"),
-                               valueFlag("o", "option", ArgumentType::string, "keys or curve")});
+                               valueFlag("o", "option", ArgumentType::string, "keys or curve"),
+                               refusedFlag("cb", "clipboard", "keys are not kept for pasting"),
+                               refusedFlag("sl", "selectKey", "keys cannot be selected here"),
+                               refusedFlag("fea", "forceIndependentEulerAngles", "angles are independent")});
     return makeCommand("cutKey", "Removes keys, and curves that have none left", std::move(flags), names(),
                        cutKey);
 }
@@ -307,9 +169,10 @@ CommandSpec findKeyframeCommand()
 {
     using A = ArgumentType;
     std::vector<FlagSpec> flags = plugFlags();
-    flags.insert(flags.end(), {valueFlag("w", "which", A::string, "next, previous, first or last"),
-                               valueFlag("t", "time", A::time, "seen from this time instead of now"),
-                               switchFlag("c", "curve", "the curves instead of a time")});
+    flags.insert(flags.end(),
+                 {animationFlag(), valueFlag("w", "which", A::string, "next, previous, first or last"),
+                  valueFlag("t", "time", A::time, "seen from this time instead of now"),
+                  switchFlag("c", "curve", "the curves instead of a time")});
     return makeCommand("findKeyframe", "Tells the time of a key", std::move(flags), names(), findKeyframe);
 }
 

@@ -6,6 +6,7 @@
 namespace tvxhost::mel {
 
 CommandSpec setKeyframeCommand();
+CommandSpec keyframeCommand();
 CommandSpec keyTangentCommand();
 
 } // namespace tvxhost::mel

@@ -5,7 +5,9 @@
 
 #include <algorithm>
 #include <cmath>
+#include <iterator>
 #include <limits>
+#include <string_view>
 
 namespace tvxhost::mel {
 
@@ -34,15 +36,58 @@ constexpr NamedKind kKinds[] = {
     {TangentKind::stepNext, "stepnext"}, {TangentKind::automatic, "auto"},
 };
 
-/// The node, and the shapes below it unless they are not wanted.
-std::vector<Node*> withShapes(Node& node, const ParsedCommand& call)
+void addOnce(std::vector<Node*>& nodes, Node* node)
 {
+    if (node && std::find(nodes.begin(), nodes.end(), node) == nodes.end())
+        nodes.push_back(node);
+}
+
+void addBelow(std::vector<Node*>& nodes, const DagNode& node, bool withShapes)
+{
+    for (DagNode* child : node.children()) {
+        if (withShapes || !child->isShape())
+            addOnce(nodes, child);
+        addBelow(nodes, *child, withShapes);
+    }
+}
+
+/// What -hierarchy reaches from a node on: the nodes above it, below it, both or none.
+std::vector<Node*> reached(const CommandContext& context, Node& node, const ParsedCommand& call)
+{
+    constexpr std::string_view kReaches[] = {"none", "above", "below", "both"};
+    const std::string reach = call.string("hierarchy", "none");
+    if (std::find(std::begin(kReaches), std::end(kReaches), reach) == std::end(kReaches))
+        context.fail("Invalid value '" + reach + "' of -hierarchy");
     std::vector<Node*> nodes = {&node};
-    if (const DagNode* dag = node.asDag(); dag && dag->isTransform() && call.boolean("shape", true))
-        for (DagNode* child : dag->children())
-            if (child->isShape())
-                nodes.push_back(child);
+    const DagNode* dag = node.asDag();
+    if (dag && (reach == "below" || reach == "both"))
+        addBelow(nodes, *dag, call.boolean("shape", true));
+    if (reach == "above" || reach == "both")
+        while (dag && !dag->parents().empty() && !dag->parents().front()->isWorld()) {
+            addOnce(nodes, dag->parents().front());
+            dag = dag->parents().front();
+        }
     return nodes;
+}
+
+/// The nodes that a node stands for: what -hierarchy reaches, and shapes unless they are not wanted.
+std::vector<Node*> nodesFor(const CommandContext& context, Node& node, const ParsedCommand& call)
+{
+    std::vector<Node*> nodes;
+    for (Node* each : reached(context, node, call)) {
+        addOnce(nodes, each);
+        if (const DagNode* dag = each->asDag(); dag && dag->isTransform() && call.boolean("shape", true))
+            for (DagNode* child : dag->children())
+                if (child->isShape())
+                    addOnce(nodes, child);
+    }
+    return nodes;
+}
+
+bool isControlPoint(const Plug& plug)
+{
+    const std::string& name = plug.attribute()->topLevel()->longName;
+    return name == "controlPoints" || name == "pnts";
 }
 
 void addLeaves(const Plug& plug, std::vector<Plug>& plugs)
@@ -77,11 +122,6 @@ std::vector<Plug> plugsNamed(const std::vector<Node*>& nodes, const std::vector<
     return plugs;
 }
 
-bool isKeyable(const Plug& leaf)
-{
-    return engine::stateOf(leaf).keyable.value_or(leaf.attribute()->flags.keyable);
-}
-
 std::vector<Plug> keyablePlugs(const std::vector<Node*>& nodes)
 {
     std::vector<Plug> plugs;
@@ -94,28 +134,30 @@ std::vector<Plug> keyablePlugs(const std::vector<Node*>& nodes)
     return plugs;
 }
 
-void addOnce(std::vector<Node*>& curves, Node* curve)
-{
-    if (curve && std::find(curves.begin(), curves.end(), curve) == curves.end())
-        curves.push_back(curve);
-}
-
-std::vector<Plug> animatedPlugs(Node& node)
+/// The plugs of a node that curves drive; control points only where they are asked for.
+std::vector<Plug> animatedPlugs(Node& node, bool withControlPoints)
 {
     std::vector<Plug> plugs;
     for (const Plug& plug : engine::connectedPlugs(node))
-        if (engine::curveFeeding(plug))
+        if (engine::curveFeeding(plug) && (withControlPoints || !isControlPoint(plug)))
             plugs.push_back(plug);
     return plugs;
 }
 
 } // namespace
 
+bool isKeyable(const Plug& leaf)
+{
+    return engine::stateOf(leaf).keyable.value_or(leaf.attribute()->flags.keyable);
+}
+
 std::vector<FlagSpec> plugFlags()
 {
     using A = ArgumentType;
     return {valueFlag("at", "attribute", A::string, "only these attributes", kChooses | kMultiUse),
-            valueFlag("s", "shape", A::boolean, "whether shapes below transforms count", kChooses)};
+            valueFlag("s", "shape", A::boolean, "whether shapes below transforms count", kChooses),
+            valueFlag("hi", "hierarchy", A::string, "also what is above, below, both or none", kChooses),
+            valueFlag("cp", "controlPoints", A::boolean, "whether points of shapes count", kChooses)};
 }
 
 std::vector<FlagSpec> keysetFlags()
@@ -128,6 +170,7 @@ std::vector<FlagSpec> keysetFlags()
                               kChooses | kMultiUse));
     flags.push_back(valueFlag("index", "index", A::any, "the keys of an index or a range a:b of indices",
                               kChooses | kMultiUse));
+    flags.push_back(animationFlag());
     flags.push_back(
         valueFlag("iub", "includeUpperBound", A::boolean, "whether the end of a range counts", kChooses));
     return flags;
@@ -142,7 +185,7 @@ std::vector<Plug> plugsToKey(const CommandContext& context, const ParsedCommand&
             addLeaves(item.plug, plugs);
             continue;
         }
-        const std::vector<Node*> nodes = withShapes(*item.node, call);
+        const std::vector<Node*> nodes = nodesFor(context, *item.node, call);
         const std::vector<Plug> found =
             attributes.empty() ? keyablePlugs(nodes) : plugsNamed(nodes, attributes);
         plugs.insert(plugs.end(), found.begin(), found.end());
@@ -150,8 +193,16 @@ std::vector<Plug> plugsToKey(const CommandContext& context, const ParsedCommand&
     return plugs;
 }
 
+FlagSpec animationFlag()
+{
+    return valueFlag("an", "animation", ArgumentType::string,
+                     "objects or keysOrObjects: keys cannot be selected here", kChooses);
+}
+
 std::vector<Node*> curvesOf(const CommandContext& context, const ParsedCommand& call)
 {
+    if (call.string("animation") == "keys")
+        context.fail("-animation keys: no keys are selected");
     const std::vector<std::string> attributes = attributeNames(call);
     std::vector<Node*> curves;
     for (const SelectionItem& item : itemsOrSelection(context, call.names())) {
@@ -163,15 +214,23 @@ std::vector<Node*> curvesOf(const CommandContext& context, const ParsedCommand& 
         if (!item.plug.isNull())
             addLeaves(item.plug, plugs);
         else if (!attributes.empty())
-            plugs = plugsNamed(withShapes(*item.node, call), attributes);
+            plugs = plugsNamed(nodesFor(context, *item.node, call), attributes);
         else
-            for (Node* node : withShapes(*item.node, call))
-                for (const Plug& plug : animatedPlugs(*node))
+            for (Node* node : nodesFor(context, *item.node, call))
+                for (const Plug& plug : animatedPlugs(*node, call.boolean("controlPoints")))
                     plugs.push_back(plug);
         for (const Plug& plug : plugs)
             addOnce(curves, engine::curveFeeding(plug));
     }
     return curves;
+}
+
+std::vector<std::string> namesOf(const CommandContext& context, const std::vector<Node*>& curves)
+{
+    std::vector<std::string> found;
+    for (const Node* curve : curves)
+        found.push_back(sceneOf(context).shortestName(*curve));
+    return found;
 }
 
 KeyChoice::KeyChoice(const CommandContext& context, const ParsedCommand& call)

@@ -14,13 +14,20 @@ namespace tvxhost::mel {
 /// The flags that choose plugs, curves and keys.
 std::vector<FlagSpec> plugFlags();
 std::vector<FlagSpec> keysetFlags();
+FlagSpec animationFlag();
 
 /// The plugs that the arguments (or the selection) and -attribute name: leaves of numbers. Without -attribute
-/// those that a node has keyable, and those of the shapes below a transform.
+/// those that a node has keyable, and those of the shapes below a transform. -hierarchy reaches further
+/// nodes.
 std::vector<engine::Plug> plugsToKey(const CommandContext& context, const ParsedCommand& call);
+
+/// Whether a leaf is offered for keys.
+bool isKeyable(const engine::Plug& leaf);
 
 /// The curves of the arguments (or the selection): themselves, those of plugs, and of all plugs of a node.
 std::vector<engine::Node*> curvesOf(const CommandContext& context, const ParsedCommand& call);
+
+std::vector<std::string> namesOf(const CommandContext& context, const std::vector<engine::Node*>& curves);
 
 /// The keys that -time, -float and -index choose; all without them.
 class KeyChoice

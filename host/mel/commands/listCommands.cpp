@@ -37,6 +37,7 @@ constexpr TypeFlag kTypeFlags[] = {
     {"con", "containers", "containers", "container", nullptr},
     {"rf", "references", "references", "reference", nullptr},
     {"rg", "renderGlobals", "settings of rendering", "renderGlobals", nullptr},
+    {"rs", "renderSetups", "the same", "renderGlobals", nullptr},
     {"rq", "renderQualities", "qualities of rendering", "renderQuality", nullptr},
     {"rr", "renderResolutions", "resolutions", "resolution", nullptr},
 };
@@ -81,7 +82,9 @@ constexpr StateFlag kStateFlags[] = {
     {"dn", "defaultNodes", "the nodes of every scene",
      [](const SelectionItem& item) { return item.node->isDefaultNode; }},
     {"ud", "undeletable", "nodes that cannot be deleted",
-     [](const SelectionItem& item) { return item.node->isDefaultNode || item.node->isShared; }},
+     [](const SelectionItem& item) {
+         return item.node->isDefaultNode || item.node->isShared || item.node->isLockedNode;
+     }},
     {"rn", "referencedNodes", "nodes of referenced files",
      [](const SelectionItem& item) { return item.node->isReferenced; }},
     {"ro", "readOnly", "nodes that cannot be changed freely",
@@ -134,14 +137,30 @@ void addWithBelow(const SelectionItem& item, std::vector<SelectionItem>& items)
     }
 }
 
-void addFromAllNamespaces(engine::Scene& scene, const std::string& pattern, std::vector<SelectionItem>& items)
+/// What matches a name in a namespace or in any of those within it; the root is empty.
+void addFromNamespaces(engine::Scene& scene, const std::string& space, const std::string& pattern,
+                       std::vector<SelectionItem>& items)
 {
     const engine::Glob glob(pattern);
-    for (const SelectionItem& item : everything(scene, false)) {
-        const std::string& name = item.node->name();
+    for (Node* node : scene.nodesIn(space)) {
+        const std::string& name = node->name();
         if (glob.matches(std::string_view(name).substr(name.rfind(':') + 1)))
-            items.push_back(item);
+            items.push_back(itemsOfNode(*node, false).front());
     }
+}
+
+/// The node of a unique identifier; false when the text is none, or no node has it.
+bool addByUuid(engine::Scene& scene, const std::string& text, std::vector<SelectionItem>& items)
+{
+    constexpr std::size_t kLength = 36;
+    if (text.size() != kLength || std::count(text.begin(), text.end(), '-') != 4)
+        return false;
+    const auto found = std::find_if(scene.nodes().begin(), scene.nodes().end(),
+                                    [&](const Node* node) { return node->uuid() == text; });
+    if (found == scene.nodes().end())
+        return false;
+    items.push_back(itemsOfNode(**found, false).front());
+    return true;
 }
 
 std::vector<SelectionItem> candidates(CommandContext& context, const ParsedCommand& call)
@@ -156,8 +175,13 @@ std::vector<SelectionItem> candidates(CommandContext& context, const ParsedComma
         return everything(scene, call.has("allPaths"));
     std::vector<SelectionItem> items;
     for (const std::string& name : names) {
-        if (call.boolean("recursive") && name.find(':') == std::string::npos) {
-            addFromAllNamespaces(scene, name, items);
+        const std::size_t deep = name.find("::");
+        if (deep != std::string::npos) {
+            addFromNamespaces(scene, name.substr(0, deep), name.substr(deep + 2), items);
+        } else if (call.boolean("recursive") && name.find(':') == std::string::npos) {
+            addFromNamespaces(scene, "", name, items);
+        } else if (addByUuid(scene, name, items)) {
+            continue;
         } else if (hasWildcard(name)) {
             const std::vector<SelectionItem> found = scene.findItems(name);
             items.insert(items.end(), found.begin(), found.end());
@@ -240,6 +264,14 @@ std::vector<std::string> flattened(const SelectionItem& item, bool fullPath)
     return names;
 }
 
+std::string withShortAttributes(const engine::Plug& plug, bool isLong)
+{
+    engine::PlugNameStyle style;
+    style.longNames = false;
+    style.longNodePath = isLong;
+    return plug.name(style);
+}
+
 std::vector<std::string> namesOf(SelectionItem item, const ParsedCommand& call)
 {
     if (call.has("uuid"))
@@ -251,6 +283,8 @@ std::vector<std::string> namesOf(SelectionItem item, const ParsedCommand& call)
     const bool isLong = call.has("long") || call.has("absoluteName");
     std::vector<std::string> names =
         call.has("flatten") ? flattened(item, isLong) : std::vector<std::string>{item.name(isLong)};
+    if (call.has("shortNames") && !item.plug.isNull())
+        names = {withShortAttributes(item.plug, isLong)};
     // Of a path each part is absolute already.
     if (call.has("absoluteName"))
         for (std::string& name : names)
@@ -258,10 +292,12 @@ std::vector<std::string> namesOf(SelectionItem item, const ParsedCommand& call)
     return names;
 }
 
-std::string namespaceOf(const Node& node)
+std::string namespaceOf(const Node& node, bool isAbsolute)
 {
     const std::size_t colon = node.name().rfind(':');
-    return colon == std::string::npos ? ":" : node.name().substr(0, colon);
+    if (colon == std::string::npos)
+        return ":";
+    return (isAbsolute ? ":" : "") + node.name().substr(0, colon);
 }
 
 Value typeNames(engine::Scene& scene)
@@ -293,7 +329,7 @@ Value ls(CommandContext& context, const ParsedCommand& call)
             if (call.has("showType"))
                 list.push_back(typeNameOf(*item.node));
             if (call.has("showNamespace"))
-                list.push_back(namespaceOf(*item.node));
+                list.push_back(namespaceOf(*item.node, call.has("absoluteName")));
         }
     }
     keepEnd(list, call);
@@ -310,7 +346,7 @@ void registerListCommands(CommandTable& table)
         switchFlag("os", "orderedSelection", "the same in the order of selection"),
         switchFlag("hl", "hilite", "those that are hilited for components"),
         switchFlag("l", "long", "full paths"),
-        switchFlag("sn", "shortNames", "names as short as they can be (the default)"),
+        switchFlag("sn", "shortNames", "attributes by their short names"),
         switchFlag("an", "absoluteName", "names with all namespaces, from the root on"),
         valueFlag("r", "recursive", A::boolean, "names are looked for in all namespaces"),
         valueFlag("typ", "type", A::string, "of this type or one derived from it", kCreate | kMultiUse),
@@ -333,7 +369,6 @@ void registerListCommands(CommandTable& table)
         refusedFlag("pn", "persistentNodes", "the host does not tell which nodes survive a new scene"),
         refusedFlag("pl", "planes", "there are no sketch planes"),
         refusedFlag("psh", "preSelectHilite", "there is no mouse"),
-        refusedFlag("rs", "renderSetups", "obsolete"),
     };
     for (const TypeFlag& row : kTypeFlags)
         flags.push_back(switchFlag(row.shortName, row.longName, row.help));

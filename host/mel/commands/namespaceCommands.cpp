@@ -1,81 +1,224 @@
-// namespace: the parts of names before the colon.
+// namespace: makes, fills, moves, renames and takes away the parts of names before the colon.
 #include "commandSupport.h"
+#include "namespaceNames.h"
 #include "sceneCommands.h"
+
+#include <cctype>
 
 namespace tvxhost::mel {
 
 namespace {
 
+using engine::Scene;
+
+/// A part of a name without what no name may hold: what it must not begin with goes, the rest becomes "_".
+std::string validPart(const std::string& part)
+{
+    const auto isDigit = [](char c) { return std::isdigit(static_cast<unsigned char>(c)) != 0; };
+    const auto isLegal = [](char c) { return std::isalnum(static_cast<unsigned char>(c)) || c == '_'; };
+    const std::string trimmed = part.substr(0, part.find_last_not_of(' ') + 1);
+    std::string valid;
+    for (const char c : trimmed)
+        if (!valid.empty() || (isLegal(c) && !isDigit(c)))
+            valid += isLegal(c) ? c : '_';
+    return valid;
+}
+
+/// Each part made valid; parts of which nothing is left go.
+std::string validName(const std::string& name)
+{
+    std::string valid = isAbsolute(name) ? ":" : "";
+    for (std::size_t start = 0; start <= name.size();) {
+        const std::size_t colon = std::min(name.find(':', start), name.size());
+        if (const std::string part = validPart(name.substr(start, colon - start)); !part.empty())
+            valid += (valid.empty() || valid == ":" ? "" : ":") + part;
+        start = colon + 1;
+    }
+    return valid;
+}
+
+std::string legalOr(const CommandContext& context, const std::string& name)
+{
+    const std::string valid = validName(name);
+    if (plainName(valid).empty())
+        context.fail("namespace: '" + name + "' is not a legal namespace name");
+    return valid;
+}
+
+/// A name that is to come: below the namespace that -parent names, else the current one.
+std::string newNamespace(const CommandContext& context, const ParsedCommand& call, const std::string& wish)
+{
+    Scene& scene = sceneOf(context);
+    const std::string name = legalOr(context, wish);
+    if (isAbsolute(name)) {
+        if (call.has("parent"))
+            context.warn("namespace: the name '" + name + "' is absolute: its parent is ignored");
+        return plainName(name);
+    }
+    const std::string parent = call.has("parent") ? existingNamespace(context, call.string("parent"))
+                                                  : plainName(scene.currentNamespace());
+    return parent.empty() ? name : parent + ":" + name;
+}
+
+Value addNamespace(CommandContext& context, const ParsedCommand& call)
+{
+    const std::string name = newNamespace(context, call, call.string("addNamespace"));
+    require(context, sceneOf(context).addNamespace(":" + name));
+    return Value(name);
+}
+
+Value renameNamespace(CommandContext& context, const ParsedCommand& call)
+{
+    const std::vector<Value>& names = call.use("rename")->arguments;
+    const std::string from = existingNamespace(context, names[0].toString());
+    const std::string to = newNamespace(context, call, names[1].toString());
+    require(context, sceneOf(context).renameNamespace(from, to));
+    return Value(to);
+}
+
+Value moveNamespace(CommandContext& context, const ParsedCommand& call)
+{
+    const std::vector<Value>& names = call.use("moveNamespace")->arguments;
+    require(context, sceneOf(context).moveNamespace(existingNamespace(context, names[0].toString()),
+                                                    existingNamespace(context, names[1].toString()),
+                                                    call.has("force")));
+    return {};
+}
+
+// Taking away
+
+/// Takes away the namespaces in one and the one itself, which hold no nodes.
+void removeDeep(const CommandContext& context, const std::string& space)
+{
+    Scene& scene = sceneOf(context);
+    const std::vector<std::string> all = scene.namespaces();
+    for (auto other = all.rbegin(); other != all.rend(); ++other)
+        if (*other == space || isIn(*other, space, true))
+            require(context, scene.removeNamespace(*other));
+}
+
+void deleteNodes(const CommandContext& context, const std::string& space)
+{
+    Scene& scene = sceneOf(context);
+    const std::vector<engine::Node*> nodes = scene.nodesIn(space);
+    for (const engine::Node* node : nodes)
+        if (node->isLockedNode || node->isReferenced)
+            context.fail("namespace: '" + node->name() + "' cannot be deleted");
+    const std::vector<engine::Ref<engine::Node>> kept(nodes.begin(), nodes.end());
+    for (const auto& node : kept)
+        if (node->isAlive())
+            require(context, scene.deleteNode(*node));
+}
+
+Value removeNamespace(CommandContext& context, const ParsedCommand& call)
+{
+    Scene& scene = sceneOf(context);
+    const std::string space = existingNamespace(context, call.string("removeNamespace"));
+    const bool mergesUp = call.has("mergeNamespaceWithParent");
+    const bool mergesToRoot = call.has("mergeNamespaceWithRoot");
+    const bool deletes = call.has("deleteNamespaceContent");
+    if (mergesUp + mergesToRoot + deletes > 1)
+        context.fail("namespace: only one flag may say what becomes of the content");
+    if (deletes) {
+        deleteNodes(context, space);
+        removeDeep(context, space);
+        return {};
+    }
+    if (mergesUp || mergesToRoot)
+        require(context, scene.moveNamespace(space, mergesUp ? parentNamespace(space) : ":", true));
+    require(context, scene.removeNamespace(space));
+    return {};
+}
+
+/// Takes away the namespaces around one, which may be gone already, as long as they hold nothing.
+Value collapseAncestors(CommandContext& context, const ParsedCommand& call)
+{
+    Scene& scene = sceneOf(context);
+    std::string space = parentNamespace(plainName(call.string("collapseAncestors")));
+    while (!space.empty() && scene.removeNamespace(space))
+        space = parentNamespace(space);
+    return {};
+}
+
+// Asking
+
+bool existsAnywhere(const Scene& scene, const std::string& name)
+{
+    for (const std::string& space : scene.namespaces())
+        if (space == name ||
+            (space.size() > name.size() &&
+             space.compare(space.size() - name.size() - 1, std::string::npos, ":" + name) == 0))
+            return true;
+    return false;
+}
+
+Value namespaceExists(CommandContext& context, const ParsedCommand& call)
+{
+    const std::string name = call.string("exists");
+    return Value(findNamespace(sceneOf(context), name).has_value() ||
+                 (call.has("recurse") && existsAnywhere(sceneOf(context), plainName(name))));
+}
+
+/// The name made valid, without a namespace that there is not.
+Value validateName(CommandContext& context, const ParsedCommand& call)
+{
+    const std::string valid = validName(call.string("validateName"));
+    const std::string space = parentNamespace(plainName(valid));
+    const bool isKept =
+        space.empty() || findNamespace(sceneOf(context), (isAbsolute(valid) ? ":" : "") + space);
+    return Value(isKept ? valid : baseName(valid));
+}
+
+Value queryNamespace(CommandContext& context, const ParsedCommand& call)
+{
+    Scene& scene = sceneOf(context);
+    if (call.has("relativeNames"))
+        return Value(scene.hasRelativeNames());
+    if (call.has("isRootNamespace"))
+        return Value(existingNamespace(context, call.string("isRootNamespace")).empty());
+    if (call.has("exists"))
+        return namespaceExists(context, call);
+    const std::vector<std::string> names = call.names();
+    const std::string space =
+        names.empty() ? plainName(scene.currentNamespace()) : existingNamespace(context, names.front());
+    return Value(space.empty() || call.has("absoluteName") ? ":" + space : space);
+}
+
 Value setNamespace(CommandContext& context, const ParsedCommand& call)
 {
-    engine::Scene& scene = sceneOf(context);
-    if (call.has("exists"))
-        return Value(scene.hasNamespace(call.string("exists")));
-    if (call.has("add"))
-        require(context, scene.addNamespace(call.string("add")));
-    if (call.has("set"))
-        require(context, scene.setCurrentNamespace(call.string("set")));
-    return Value(call.has("add") ? call.string("add") : scene.currentNamespace());
+    const std::string space = existingNamespace(context, call.string("setNamespace"));
+    require(context, sceneOf(context).setCurrentNamespace(":" + space));
+    return Value(space.empty() ? ":" : space);
 }
 
-// namespaceInfo
-
-/// A namespace without the colon that means the root, which is empty.
-std::string plainName(const std::string& name)
+Value setRelativeNames(CommandContext& context, const ParsedCommand& call)
 {
-    return name.empty() || name.front() != ':' ? name : name.substr(1);
+    sceneOf(context).setRelativeNames(call.boolean("relativeNames"));
+    return {};
 }
 
-std::string shown(const std::string& plain, const ParsedCommand& call)
+struct Action
 {
-    return plain.empty() || call.has("absoluteName") ? ":" + plain : plain;
-}
+    const char* flag;
+    Value (*run)(CommandContext&, const ParsedCommand&);
+};
 
-/// Whether a name is in a namespace: directly, or anywhere below it.
-bool isIn(const std::string& name, const std::string& space, bool isDeep)
+constexpr Action kActions[] = {
+    {"addNamespace", addNamespace},       {"setNamespace", setNamespace},
+    {"removeNamespace", removeNamespace}, {"moveNamespace", moveNamespace},
+    {"rename", renameNamespace},          {"collapseAncestors", collapseAncestors},
+    {"exists", namespaceExists},          {"validateName", validateName},
+    {"relativeNames", setRelativeNames},
+};
+
+Value runNamespace(CommandContext& context, const ParsedCommand& call)
 {
-    const std::string begin = space.empty() ? space : space + ":";
-    return name.size() > begin.size() && name.compare(0, begin.size(), begin) == 0 &&
-           (isDeep || name.find(':', begin.size()) == std::string::npos);
+    if (!call.queries())
+        for (const Action& action : kActions)
+            if (call.has(action.flag))
+                return action.run(context, call);
+    return queryNamespace(context, call);
 }
-
-/// The namespaces and the nodes in one, as far as they are asked for.
-Value contentOf(engine::Scene& scene, const std::string& space, const ParsedCommand& call)
-{
-    Value::Strings list;
-    if (!call.has("listOnlyDependencyNodes"))
-        for (const std::string& name : scene.namespaces())
-            if (isIn(plainName(name), space, call.has("recurse")))
-                list.push_back(shown(plainName(name), call));
-    if (!call.has("listOnlyNamespaces"))
-        for (engine::Node* node : scene.nodes())
-            if (node != &scene.world() && isIn(node->name(), space, call.has("recurse")))
-                list.push_back(call.has("dagPath") ? scene.shortestName(*node) : shown(node->name(), call));
-    return Value(std::move(list));
-}
-
-Value namespaceInfo(CommandContext& context, const ParsedCommand& call)
-{
-    engine::Scene& scene = sceneOf(context);
-    const std::string space =
-        plainName(call.names().empty() ? scene.currentNamespace() : call.names().front());
-    if (!space.empty() && !scene.hasNamespace(":" + space))
-        context.fail("namespaceInfo: there is no namespace '" + space + "'");
-    const std::size_t colon = space.rfind(':');
-    const bool isTop = colon == std::string::npos;
-    for (const char* flag : {"listNamespace", "listOnlyNamespaces", "listOnlyDependencyNodes"})
-        if (call.has(flag))
-            return contentOf(scene, space, call);
-    if (call.has("isRootNamespace"))
-        return Value(space.empty());
-    if (call.has("parent"))
-        return Value(shown(isTop ? std::string() : space.substr(0, colon), call));
-    if (call.has("baseName") || call.has("shortName"))
-        return Value(isTop ? space : space.substr(colon + 1));
-    return Value(shown(space, call));
-}
-
-constexpr const char* kStays = "a namespace stays as long as the scene; rename its nodes";
 
 } // namespace
 
@@ -84,33 +227,30 @@ void registerNamespaceCommands(CommandTable& table)
     using A = ArgumentType;
     table.add({
         makeCommand(
-            "namespace", "Makes namespaces and sets the current one",
-            {valueFlag("add", "add", A::string, "makes one below the current one"),
-             valueFlag("set", "set", A::string, "makes it the current one"),
+            "namespace", "Makes, moves and takes away namespaces and sets the current one",
+            {valueFlag("add", "addNamespace", A::string, "makes one below the current one"),
+             valueFlag("p", "parent", A::string, "with -addNamespace and -rename: below this one instead"),
+             valueFlag("set", "setNamespace", A::string, "makes it the current one"),
+             valueFlag("rm", "removeNamespace", A::string, "takes it away; it must be empty"),
+             switchFlag("mnp", "mergeNamespaceWithParent", "with -removeNamespace: its content moves up"),
+             switchFlag("mnr", "mergeNamespaceWithRoot",
+                        "with -removeNamespace: its content moves to the root"),
+             switchFlag("dnc", "deleteNamespaceContent", "with -removeNamespace: its content is deleted"),
+             {"mv", "moveNamespace", {A::string, A::string}, kCreate, "moves its content into the other one"},
+             switchFlag("f", "force", "with -moveNamespace: names that are taken there are changed"),
+             {"ren", "rename", {A::string, A::string}, kCreate, "gives it the other name"},
+             valueFlag("ch", "collapseAncestors", A::string, "takes away the empty ones around it"),
              valueFlag("ex", "exists", A::string, "whether it exists", kCreateQuery | kQueryWithArguments),
-             refusedFlag("rm", "removeNamespace", kStays), refusedFlag("ren", "rename", kStays),
-             refusedFlag("mv", "moveNamespace", kStays),
-             refusedFlag("mnp", "mergeNamespaceWithParent", kStays),
-             refusedFlag("mnr", "mergeNamespaceWithRoot", kStays),
-             refusedFlag("dnc", "deleteNamespaceContent", kStays),
-             refusedFlag("rel", "relativeNames", "names are always told from the root")},
-            noArguments(), setNamespace, kQuery),
-        makeCommand("namespaceInfo", "Tells about a namespace, the current one unless one is named",
-                    {switchFlag("cur", "currentNamespace", "the current one"),
-                     switchFlag("fn", "fullName", "its name with all that it is in"),
-                     switchFlag("bn", "baseName", "its name alone"),
-                     switchFlag("sn", "shortName", "its name alone"),
-                     switchFlag("p", "parent", "the one that it is in"),
-                     switchFlag("ir", "isRootNamespace", "whether it is the root"),
-                     switchFlag("ls", "listNamespace", "the namespaces and nodes in it"),
-                     switchFlag("lon", "listOnlyNamespaces", "the namespaces in it"),
-                     switchFlag("lod", "listOnlyDependencyNodes", "the nodes in it"),
-                     switchFlag("r", "recurse", "with -listNamespace and the like: also of those in it"),
-                     switchFlag("dp", "dagPath", "nodes by path"),
-                     switchFlag("an", "absoluteName", "with a leading colon"),
-                     refusedFlag("int", "internal", "there are no internal namespaces")},
-                    {A::string, 0, 1}, namespaceInfo),
+             switchFlag("r", "recurse", "with -exists: in any other one", kCreateQuery),
+             valueFlag("ir", "isRootNamespace", A::string, "whether it is the root",
+                       kQuery | kQueryWithArguments),
+             valueFlag("vn", "validateName", A::string, "the name without characters that none may hold"),
+             valueFlag("rel", "relativeNames", A::boolean,
+                       "names are looked up in the current one before the root", kCreateQuery),
+             switchFlag("an", "absoluteName", "the name with a leading colon", kCreateQuery)},
+            {A::string, 0, 1}, runNamespace, kQuery),
     });
+    registerNamespaceInfoCommands(table);
 }
 
 } // namespace tvxhost::mel

@@ -167,32 +167,44 @@ Value oneOrAll(std::vector<T> values)
     return values.size() == 1 ? Value(values.front()) : Value(std::move(values));
 }
 
+/// The numbers in the order in which they were asked for.
+struct Answer
+{
+    Value::Numbers numbers;
+    bool isWhole = true; ///< there are only counts
+};
+
+void measure(const Subject& subject, const std::string& flag, Answer& answer)
+{
+    for (const Measure& row : kMeasures)
+        if (flag == row.longName)
+            answer.numbers.push_back(static_cast<double>(row.count(subject.mesh)));
+    for (const Size& row : kSizes)
+        if (flag == row.longName) {
+            const auto numbers = row.numbers(subject);
+            answer.numbers.insert(answer.numbers.end(), numbers.begin(), numbers.end());
+            answer.isWhole = false;
+        }
+}
+
 Value polyEvaluate(CommandContext& context, const ParsedCommand& call)
 {
-    Value::Integers counts;
-    Value::Numbers sizes;
+    Answer answer;
     std::string text;
     for (const engine::SelectionItem& item : itemsOrSelection(context, call.names())) {
         const std::optional<Subject> subject = subjectOf(item);
         if (!subject)
             continue;
         text += (text.empty() ? "" : " ") + describe(subject->mesh);
-        for (const Measure& measure : kMeasures)
-            if (call.has(measure.longName))
-                counts.push_back(static_cast<int>(measure.count(subject->mesh)));
-        for (const Size& size : kSizes)
-            if (call.has(size.longName))
-                for (const double number : size.numbers(*subject))
-                    sizes.push_back(number);
+        for (const FlagUse& use : call.flags)
+            measure(*subject, use.flag->longName, answer);
     }
     if (text.empty())
         return Value("Nothing counted : no polygonal object is selected.");
     if (call.flags.empty())
         return Value(text);
-    if (sizes.empty())
-        return oneOrAll(std::move(counts));
-    sizes.insert(sizes.begin(), counts.begin(), counts.end());
-    return oneOrAll(std::move(sizes));
+    return answer.isWhole ? oneOrAll(Value::Integers(answer.numbers.begin(), answer.numbers.end()))
+                          : oneOrAll(std::move(answer.numbers));
 }
 
 } // namespace
@@ -207,13 +219,29 @@ void registerPolyEvaluateCommands(CommandTable& table)
     const char* const noTextures = "the host keeps no texture coordinates of history";
     const char* const noComponents = "components are counted by what is selected of them: use ls -flatten";
     for (const auto& [shortName, longName, why] :
-         {std::tuple("uv", "uvcoord", noTextures), std::tuple("uvc", "uvComponent", noTextures),
-          std::tuple("b2", "boundingBox2d", noTextures), std::tuple("us", "uvShell", noTextures),
-          std::tuple("vc", "vertexComponent", noComponents), std::tuple("ec", "edgeComponent", noComponents),
+         {std::tuple("uv", "uvcoord", noTextures),
+          std::tuple("uvc", "uvComponent", noTextures),
+          std::tuple("b2", "boundingBox2d", noTextures),
+          std::tuple("us", "uvShell", noTextures),
+          std::tuple("vc", "vertexComponent", noComponents),
+          std::tuple("ec", "edgeComponent", noComponents),
           std::tuple("fc", "faceComponent", noComponents),
           std::tuple("tc", "triangleComponent", noComponents),
-          std::tuple("bc", "boundingBoxComponent", noComponents), std::tuple("fa", "faceArea", noComponents)})
+          std::tuple("bc", "boundingBoxComponent", noComponents),
+          std::tuple("fa", "faceArea", noComponents),
+          std::tuple("wfa", "worldFaceArea", noComponents),
+          std::tuple("as", "activeShells", noComponents),
+          std::tuple("bc2", "boundingBoxComponent2d", noTextures),
+          std::tuple("uva", "uvArea", noTextures),
+          std::tuple("ufa", "uvFaceArea", noTextures),
+          std::tuple("uep", "uvEdgePairs", noTextures),
+          std::tuple("uvs", "uvSetName", noTextures),
+          std::tuple("usi", "uvShellIds", noTextures),
+          std::tuple("uis", "uvsInShell", noTextures),
+          std::tuple("aus", "activeUVShells", noTextures),
+          std::tuple("ds", "displayStats", "nothing is shown above the view")})
         flags.push_back(refusedFlag(shortName, longName, why));
+    flags.push_back(switchFlag("ae", "accurateEvaluation", "boxes are always exact"));
     table.add({makeCommand("polyEvaluate", "Counts and measures what meshes are made of", std::move(flags),
                            names(), polyEvaluate)});
 }

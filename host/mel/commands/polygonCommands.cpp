@@ -104,6 +104,9 @@ const AttributeFlags& sharedFlags()
     static const AttributeFlags shared = {
         {"ax", "axis", A::number, "axis", "what it stands along", 3},
         {"cuv", "createUVs", A::integer, "createUVs", "how textures are laid on (kept only)"},
+        {"cch", "caching", A::boolean, "caching", "whether the history node keeps its values"},
+        {"nds", "nodeState", A::integer, "nodeState",
+         "whether the history node works: 0 normal, 1 without effect"},
     };
     return shared;
 }
@@ -209,6 +212,8 @@ CommandSpec specOf(const Primitive& primitive)
     flags.push_back(
         valueFlag("ch", "constructionHistory", A::boolean, "keeps the node that makes it (on by default)"));
     flags.push_back(valueFlag("n", "name", A::string, "of the transform"));
+    flags.push_back(refusedFlag("tx", "texture", "say -createUVs"));
+    flags.push_back(refusedFlag("o", "object", "make the node with createNode"));
     return makeCommand(
         primitive.command, primitive.summary, std::move(flags), names(0, 1),
         [&primitive](CommandContext& context, const ParsedCommand& call) {

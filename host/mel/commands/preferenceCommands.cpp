@@ -204,54 +204,63 @@ struct Fact
     const char* shortName;
     const char* longName;
     const char* help;
-    Value (*tell)(const engine::Scene& scene);
+    Value (*tell)(const CommandContext& context);
 };
 
 const Fact kFacts[] = {
     {"b", "batch", "whether there is no user interface",
-     [](const engine::Scene& scene) { return Value(scene.isBatch()); }},
-    {"v", "version", "the version", [](const engine::Scene&) { return Value("2016"); }},
+     [](const CommandContext& context) { return Value(sceneOf(context).isBatch()); }},
+    {"v", "version", "the version", [](const CommandContext&) { return Value("2016"); }},
     {"api", "apiVersion", "the version of the programming interface",
-     [](const engine::Scene&) { return Value(201602); }},
-    {"p", "product", "the product", [](const engine::Scene&) { return Value("Maya 2016"); }},
-    {"a", "application", "the application", [](const engine::Scene&) { return Value("maya"); }},
-    {"c", "cutIdentifier", "the build", [](const engine::Scene&) { return Value("201610262200-1005964"); }},
-    {"f", "file", "the version in scene files", [](const engine::Scene&) { return Value("2016"); }},
-    {"os", "operatingSystem", "the system", [](const engine::Scene&) { return Value("linux64"); }},
-    {"linux", "linux", "whether the system is Linux", [](const engine::Scene&) { return Value(1); }},
-    {"nt", "ntOS", "whether the system is Windows", [](const engine::Scene&) { return Value(0); }},
-    {"mac", "macOS", "whether the system is macOS", [](const engine::Scene&) { return Value(0); }},
-    {"uil", "uiLanguage", "the language", [](const engine::Scene&) { return Value("en_US"); }},
+     [](const CommandContext&) { return Value(201602); }},
+    {"p", "product", "the product", [](const CommandContext&) { return Value("Maya 2016"); }},
+    {"a", "application", "the application", [](const CommandContext&) { return Value("maya"); }},
+    {"c", "cutIdentifier", "the build", [](const CommandContext&) { return Value("201610262200-1005964"); }},
+    {"f", "file", "the version in scene files", [](const CommandContext&) { return Value("2016"); }},
+    {"os", "operatingSystem", "the system", [](const CommandContext&) { return Value("linux64"); }},
+    {"linux", "linux", "whether the system is Linux", [](const CommandContext&) { return Value(1); }},
+    {"nt", "ntOS", "whether the system is Windows", [](const CommandContext&) { return Value(0); }},
+    {"mac", "macOS", "whether the system is macOS", [](const CommandContext&) { return Value(0); }},
+    {"uil", "uiLanguage", "the language", [](const CommandContext&) { return Value("en_US"); }},
     {"uii", "uiLanguageIsLocalized", "whether that is another than English",
-     [](const engine::Scene&) { return Value(0); }},
-    {"cs", "codeset", "the encoding of texts", [](const engine::Scene&) { return Value("UTF-8"); }},
+     [](const CommandContext&) { return Value(0); }},
+    {"cs", "codeset", "the encoding of texts", [](const CommandContext&) { return Value("UTF-8"); }},
     {"iv", "installedVersion", "the version that is installed",
-     [](const engine::Scene&) { return Value("Maya 2016"); }},
-    {"cv", "customVersion", "the version of a custom build", [](const engine::Scene&) { return Value(""); }},
-    {"bv", "buildVariant", "the kind of build", [](const engine::Scene&) { return Value(""); }},
-    {"lt", "ltVersion", "the version of the small edition", [](const engine::Scene&) { return Value(""); }},
-    {"ev", "evalVersion", "whether it is for evaluation only", [](const engine::Scene&) { return Value(0); }},
-    {"x64", "is64", "whether the program has 64 bits", [](const engine::Scene&) { return Value(1); }},
+     [](const CommandContext&) { return Value("Maya 2016"); }},
+    {"cv", "customVersion", "whether this is a custom build", [](const CommandContext&) { return Value(0); }},
+    {"cvc", "customVersionClient", "whom a custom build is for",
+     [](const CommandContext&) { return Value(""); }},
+    {"cvs", "customVersionString", "the version of a custom build",
+     [](const CommandContext&) { return Value(""); }},
+    {"d", "date", "when it was built", [](const CommandContext&) { return Value("10/26/2016"); }},
+    {"pd", "preferences", "the folder of the user's preferences",
+     [](const CommandContext& context) { return Value(sessionOf(context).preferencesFolder.string()); }},
+    {"tab", "tablet", "whether the machine is a tablet", [](const CommandContext&) { return Value(0); }},
+    {"bv", "buildVariant", "the kind of build", [](const CommandContext&) { return Value(""); }},
+    {"lt", "ltVersion", "whether this is the small edition", [](const CommandContext&) { return Value(0); }},
+    {"ev", "evalVersion", "whether it is for evaluation only",
+     [](const CommandContext&) { return Value(0); }},
+    {"x64", "is64", "whether the program has 64 bits", [](const CommandContext&) { return Value(1); }},
     {"l64", "linux64", "whether the system is Linux with 64 bits",
-     [](const engine::Scene&) { return Value(1); }},
-    {"win", "windows", "whether the system is Windows", [](const engine::Scene&) { return Value(0); }},
+     [](const CommandContext&) { return Value(1); }},
+    {"win", "windows", "whether the system is Windows", [](const CommandContext&) { return Value(0); }},
     {"w64", "win64", "whether the system is Windows with 64 bits",
-     [](const engine::Scene&) { return Value(0); }},
-    {"ir", "irix", "whether the system is IRIX", [](const engine::Scene&) { return Value(0); }},
+     [](const CommandContext&) { return Value(0); }},
+    {"ir", "irix", "whether the system is IRIX", [](const CommandContext&) { return Value(0); }},
     {"osv", "operatingSystemVersion", "the system's version",
-     [](const engine::Scene&) { return Value(systemVersion()); }},
-    {"cd", "currentDate", "the date", [](const engine::Scene&) { return Value(dateText("%Y/%m/%d")); }},
-    {"ct", "currentTime", "the time", [](const engine::Scene&) { return Value(dateText("%H:%M:%S")); }},
+     [](const CommandContext&) { return Value(systemVersion()); }},
+    {"cd", "currentDate", "the date", [](const CommandContext&) { return Value(dateText("%Y/%m/%d")); }},
+    {"ct", "currentTime", "the time", [](const CommandContext&) { return Value(dateText("%H:%M:%S")); }},
     {"cti", "ctime", "both, as C writes them",
-     [](const engine::Scene&) { return Value(dateText("%a %b %e %H:%M:%S %Y")); }},
+     [](const CommandContext&) { return Value(dateText("%a %b %e %H:%M:%S %Y")); }},
 };
 
 Value about(CommandContext& context, const ParsedCommand& call)
 {
     for (const Fact& fact : kFacts)
         if (call.has(fact.longName))
-            return fact.tell(sceneOf(context));
-    context.fail("about: nothing was asked");
+            return fact.tell(context);
+    return Value("Maya 2016");
 }
 
 CommandSpec aboutCommand()

@@ -24,6 +24,7 @@ void registerSceneCommands(CommandTable& table)
                                        registerAttributeQueryCommands,
                                        registerCameraCommands,
                                        registerClassificationCommands,
+                                       registerConditionCommands,
                                        registerConnectionCommands,
                                        registerSetCommands,
                                        registerTransformCommands,

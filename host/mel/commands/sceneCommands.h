@@ -22,6 +22,7 @@ void registerAttributeNameCommands(CommandTable& table);
 void registerAttributeQueryCommands(CommandTable& table);
 void registerCameraCommands(CommandTable& table);
 void registerClassificationCommands(CommandTable& table);
+void registerConditionCommands(CommandTable& table);
 void registerConnectionCommands(CommandTable& table);
 void registerSetCommands(CommandTable& table);
 void registerTransformCommands(CommandTable& table);

@@ -46,7 +46,8 @@ Outcome mayReplace(const std::filesystem::path& file)
 } // namespace
 
 SceneSession::SceneSession(engine::Scene& scene, api::PluginLoader* plugins)
-    : workspace(std::filesystem::current_path()), jobs(scene), m_scene(scene), m_plugins(plugins)
+    : workspace(std::filesystem::current_path()), conditions(scene), jobs(scene), m_scene(scene),
+      m_plugins(plugins)
 {
 }
 

@@ -1,6 +1,7 @@
 // SceneSession: what scene commands work on: the scene, its plug-ins, files, preferences and interface.
 #pragma once
 
+#include "conditions.h"
 #include "interfaceTree.h"
 #include "scriptJobs.h"
 #include "windowPreferences.h"
@@ -47,6 +48,8 @@ public:
     WindowPreferences windows;
     /// The project.
     Workspace workspace;
+    /// What scripts may ask for by name.
+    Conditions conditions;
     /// Scripts that wait for something to happen.
     ScriptJobs jobs;
     /// What the user will answer to the next dialogs, in order; a dialog that finds none is cancelled.

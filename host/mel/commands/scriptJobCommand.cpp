@@ -1,10 +1,12 @@
 // scriptJob: scripts that run when something has happened.
 #include "commandSupport.h"
+#include "interfaceAccess.h"
 #include "sceneCommands.h"
 
 #include "../interpreter.h"
 
 #include <algorithm>
+#include <optional>
 
 namespace tvxhost::mel {
 
@@ -21,7 +23,9 @@ enum class Subject
     event,
     node,
     plug,
-    attribute ///< a node and an attribute that need not be there
+    attribute, ///< a node and an attribute that need not be there
+    condition,
+    element ///< of the user interface
 };
 
 struct Trigger
@@ -31,6 +35,7 @@ struct Trigger
     const char* help;
     Subject subject;
     std::vector<Happening> kinds;
+    std::optional<bool> state = std::nullopt; ///< of a condition; none: either
 };
 
 const std::vector<Trigger>& triggers()
@@ -61,6 +66,10 @@ const std::vector<Trigger>& triggers()
          {Happening::connectionMade, Happening::connectionBroken}},
         {"nd", "nodeDeleted", "a node that goes", Subject::node, {Happening::nodeAboutToBeDeleted}},
         {"nnc", "nodeNameChanged", "a node that gets another name", Subject::node, {Happening::nodeRenamed}},
+        {"cc", "conditionChange", "a condition that changes", Subject::condition, {}},
+        {"ct", "conditionTrue", "a condition that becomes true", Subject::condition, {}, true},
+        {"cf", "conditionFalse", "a condition that becomes false", Subject::condition, {}, false},
+        {"uid", "uiDeleted", "an element of the user interface that goes", Subject::element, {}},
     };
     return all;
 }
@@ -87,6 +96,15 @@ void takeAttribute(const CommandContext& context, const std::string& name, Scrip
     job.attribute = known ? known->longName : name.substr(dot + 1);
 }
 
+void takeCondition(const CommandContext& context, const Trigger& trigger, const std::string& name,
+                   ScriptJob& job)
+{
+    Conditions& conditions = sessionOf(context).conditions;
+    if (!conditions.exists(name))
+        context.fail("scriptJob: there is no condition '" + name + "'");
+    job.condition = {name, trigger.state, conditions.isTrue(name, context.interpreter())};
+}
+
 void takeSubject(const CommandContext& context, const Trigger& trigger, const std::string& name,
                  ScriptJob& job)
 {
@@ -100,6 +118,7 @@ void takeSubject(const CommandContext& context, const Trigger& trigger, const st
         break;
     case Subject::node:
         job.node = &nodeNamed(context, name);
+        job.outlivesNode = trigger.kinds.front() == Happening::nodeAboutToBeDeleted;
         break;
     case Subject::plug:
         job.plug = plugNamed(context, name);
@@ -107,6 +126,12 @@ void takeSubject(const CommandContext& context, const Trigger& trigger, const st
         break;
     case Subject::attribute:
         takeAttribute(context, name, job);
+        break;
+    case Subject::condition:
+        takeCondition(context, trigger, name, job);
+        break;
+    case Subject::element:
+        job.awaitedEnd = elementNamed(context, name).path();
         break;
     }
 }
@@ -118,6 +143,9 @@ ScriptJob jobFrom(const CommandContext& context, const ParsedCommand& call, cons
     job.script = arguments.back().toString();
     takeSubject(context, trigger, arguments.front().toString(), job);
     job.withChildren = call.has("allChildren");
+    job.withElements = call.has("disregardIndex") && !job.plug.isNull() && job.plug.isElement();
+    if (call.has("parent"))
+        job.parent = elementNamed(context, call.string("parent")).path();
     job.isProtected = call.has("protected");
     job.isPermanent = call.has("permanent");
     job.isOnce = call.boolean("runOnce");
@@ -151,7 +179,7 @@ Value scriptJob(CommandContext& context, const ParsedCommand& call)
     if (call.has("listEvents"))
         return Value(Value::Strings(engine::happeningNames()));
     if (call.has("listConditions"))
-        return Value(Value::Strings());
+        return Value(session.conditions.names());
     if (call.has("listJobs"))
         return Value(Value::Strings(session.jobs.list()));
     if (call.has("exists"))
@@ -160,17 +188,19 @@ Value scriptJob(CommandContext& context, const ParsedCommand& call)
         session.jobs.killAll(call.has("force"));
         return {};
     }
-    if (const FlagUse* use = call.use("kill")) {
-        const int number = use->arguments.front().toInteger();
-        if (session.jobs.exists(number) && !session.jobs.kill(number, call.has("force")))
-            context.fail("scriptJob: job " + std::to_string(number) + " is protected");
+    if (call.has("kill")) {
+        for (const FlagUse* use : call.uses("kill")) {
+            const int number = use->arguments.front().toInteger();
+            if (session.jobs.exists(number) && !session.jobs.kill(number, call.has("force")))
+                context.fail("scriptJob: job " + std::to_string(number) + " is protected");
+        }
         return {};
     }
     // Jobs belong to the event loop of the user interface: without one, nothing is done.
     if (session.scene().isBatch())
         return {};
     context.interpreter().idleWork = [&session](Interpreter& interpreter) {
-        return session.jobs.runIdle(interpreter);
+        return session.jobs.runIdle(interpreter, session.conditions, session.interface());
     };
     return addJob(context, call);
 }
@@ -186,7 +216,6 @@ void registerScriptJobCommands(CommandTable& table)
             arguments.insert(arguments.begin(), A::string);
         flags.push_back({trigger.shortName, trigger.longName, std::move(arguments), kCreate, trigger.help});
     }
-    const char* const noCondition = "the host has no conditions";
     const std::vector<FlagSpec> others = {
         switchFlag("ach", "allChildren", "with -attributeChange: what is below the attribute too"),
         valueFlag("ro", "runOnce", A::boolean, "is gone when it has run"),
@@ -195,19 +224,15 @@ void registerScriptJobCommands(CommandTable& table)
         switchFlag("kws", "killWithScene", "goes with the scene"),
         switchFlag("rp", "replacePrevious", "takes the place of a job with the same script"),
         valueFlag("ex", "exists", A::integer, "whether there is a job of this number"),
-        valueFlag("k", "kill", A::integer, "ends the job of this number"),
+        valueFlag("k", "kill", A::integer, "ends the job of this number", kCreate | kMultiUse),
         switchFlag("ka", "killAll", "ends all jobs"),
         switchFlag("f", "force", "protected ones too"),
         switchFlag("lj", "listJobs", "the jobs"),
         switchFlag("le", "listEvents", "the names of the events"),
         switchFlag("lc", "listConditions", "the names of the conditions"),
-        refusedFlag("cc", "conditionChange", noCondition),
-        refusedFlag("ct", "conditionTrue", noCondition),
-        refusedFlag("cf", "conditionFalse", noCondition),
+        valueFlag("p", "parent", A::string, "goes with this element of the user interface"),
+        switchFlag("di", "disregardIndex", "with -attributeChange of an element: all elements count"),
         refusedFlag("cu", "compressUndo", "what a job does is taken back by itself"),
-        refusedFlag("uid", "uiDeleted", "nobody closes windows here but scripts"),
-        refusedFlag("p", "parent", "jobs do not belong to elements of the user interface"),
-        refusedFlag("di", "disregardIndex", "each element is an attribute of its own"),
     };
     flags.insert(flags.end(), others.begin(), others.end());
     table.add({makeCommand("scriptJob", "Runs a script when something has happened", std::move(flags),

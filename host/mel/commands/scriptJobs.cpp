@@ -1,6 +1,9 @@
 // ScriptJobs: see scriptJobs.h.
 #include "scriptJobs.h"
 
+#include "conditions.h"
+#include "interfaceTree.h"
+
 #include "../arguments.h"
 #include "../interpreter.h"
 
@@ -23,7 +26,8 @@ bool isAsked(const ScriptJob& job, const Event& event)
     if (job.plug.isNull())
         return true;
     const auto matches = [&job](const engine::Plug* plug) {
-        return plug && (job.plug.isAtOrBelow(*plug) || (job.withChildren && plug->isAtOrBelow(job.plug)));
+        return plug && (job.plug.isAtOrBelow(*plug) || (job.withChildren && plug->isAtOrBelow(job.plug)) ||
+                        (job.withElements && plug->isAtOrBelow(job.plug.array())));
     };
     return matches(event.plug) || matches(event.otherPlug);
 }
@@ -52,6 +56,10 @@ int ScriptJobs::add(ScriptJob job)
     for (const Happening what : entry.job.triggers)
         entry.observers.push_back(m_scene.observers().add(
             {what}, [this, number](const Event& event) { trigger(number, event); }, entry.job.node.get()));
+    // What waits for something about a node goes with it.
+    if (entry.job.node && !entry.job.outlivesNode)
+        entry.observers.push_back(m_scene.observers().add(
+            {Happening::nodeRemoved}, [this, number](const Event&) { erase(number); }, entry.job.node.get()));
     m_entries.push_back(std::move(entry));
     return number;
 }
@@ -95,8 +103,38 @@ std::vector<std::string> ScriptJobs::list() const
     return lines;
 }
 
-int ScriptJobs::runIdle(Interpreter& interpreter)
+/// Triggers what waits for something that nobody tells, and ends jobs whose part of the interface is gone.
+void ScriptJobs::lookAround(Interpreter& interpreter, Conditions& conditions, const InterfaceTree& interface)
 {
+    std::vector<int> ended;
+    for (Entry& entry : m_entries) {
+        ScriptJob& job = entry.job;
+        if (!job.parent.empty() && !interface.find(job.parent))
+            ended.push_back(entry.number);
+        if (!job.awaitedEnd.empty() && !interface.find(job.awaitedEnd))
+            entry.isTriggered = true;
+    }
+    for (const int number : ended)
+        erase(number);
+    std::vector<std::pair<int, std::string>> awaited;
+    for (const Entry& entry : m_entries)
+        if (!entry.job.condition.name.empty())
+            awaited.emplace_back(entry.number, entry.job.condition.name);
+    for (const auto& [number, name] : awaited) {
+        const bool is = conditions.isTrue(name, interpreter);
+        // The script of a condition may have killed the job.
+        Entry* entry = find(number);
+        if (!entry || entry->job.condition.was == is)
+            continue;
+        entry->job.condition.was = is;
+        if (entry->job.condition.state.value_or(is) == is)
+            entry->isTriggered = true;
+    }
+}
+
+int ScriptJobs::runIdle(Interpreter& interpreter, Conditions& conditions, const InterfaceTree& interface)
+{
+    lookAround(interpreter, conditions, interface);
     std::vector<int> due;
     for (Entry& entry : m_entries)
         if (entry.isTriggered || entry.job.atEveryIdle) {
@@ -110,7 +148,7 @@ int ScriptJobs::runIdle(Interpreter& interpreter)
         if (!entry)
             continue;
         const std::string script = entry->job.script;
-        if (entry->job.isOnce)
+        if (entry->job.isOnce || !entry->job.awaitedEnd.empty())
             erase(number);
         failed += interpreter.run(script) ? 0 : 1;
     }

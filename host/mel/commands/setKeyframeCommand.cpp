@@ -116,8 +116,10 @@ Value setKeyframe(CommandContext& context, const ParsedCommand& call)
 {
     const NewKeys wanted = newKeys(context, call);
     int count = 0;
+    const bool onlyKeyable = call.boolean("respectKeyable");
     for (const Plug& plug : plugsToKey(context, call))
-        count += setKeys(context, plug, wanted);
+        if (!onlyKeyable || isKeyable(plug))
+            count += setKeys(context, plug, wanted);
     return Value(count);
 }
 
@@ -136,7 +138,17 @@ CommandSpec setKeyframeCommand()
          valueFlag("ott", "outTangentType", A::string, "how the curve leaves the key"),
          valueFlag("bd", "breakdown", A::boolean, "whether the key is a breakdown"),
          valueFlag("an", "animated", A::boolean, "only attributes that have keys already"),
-         switchFlag("i", "insert", "on the curve, whose shape stays")});
+         switchFlag("i", "insert", "on the curve, whose shape stays"),
+         valueFlag("rk", "respectKeyable", A::boolean, "with -attribute: only those that are keyable"),
+         refusedFlag("al", "animLayer", "there are no layers of animation"),
+         refusedFlag("id", "identity", "there are no layers of animation"),
+         refusedFlag("nr", "noResolve", "there are no layers of animation"),
+         refusedFlag("c", "clip", "there are no clips"),
+         refusedFlag("ib", "insertBlend", "what something else drives gets no keys"),
+         refusedFlag("mr", "minimizeRotation", "angles are independent"),
+         refusedFlag("pcs", "preserveCurveShape", "say -insert"),
+         refusedFlag("dd", "dirtyDG", "what hangs on a curve is always told"),
+         refusedFlag("ucl", "useCurrentLockedWeights", "a key that is replaced keeps its locks")});
     return makeCommand("setKeyframe", "Sets keys on attributes", std::move(flags), names(), setKeyframe);
 }
 

@@ -2,7 +2,11 @@
 #include "sceneCommands.h"
 #include "transformParts.h"
 
+#include <Imath/ImathBox.h>
+
 #include <array>
+#include <functional>
+#include <optional>
 
 namespace tvxhost::mel {
 
@@ -71,6 +75,50 @@ MVector rowOf(const MMatrix& matrix, unsigned row)
     return MVector(matrix.matrix[row]);
 }
 
+// What goes with an object, or stays
+
+/// The places of what is below an object in the world, which -preserveChildPosition keeps.
+class ChildPlaces
+{
+public:
+    explicit ChildPlaces(const DagPath& path) : m_path(path)
+    {
+        for (engine::DagNode* child : path.node()->children()) {
+            DagPath below = path;
+            if (child->isTransform() && below.push(*child))
+                m_places.emplace_back(child, below.inclusiveMatrix());
+        }
+    }
+
+    void restore(const CommandContext& context) const
+    {
+        const engine::Matrix back = m_path.inclusiveMatrix().inverse();
+        for (const auto& [child, place] : m_places)
+            require(context, setLocalMatrix(*child, place * back));
+    }
+
+private:
+    DagPath m_path;
+    std::vector<std::pair<engine::DagNode*, engine::Matrix>> m_places;
+};
+
+using PathChange = std::function<void(const DagPath& path)>;
+
+/// Changes each of the objects; what is below stays in its place when that is asked for.
+void changeEach(const CommandContext& context, const ParsedCommand& call, const std::vector<DagPath>& paths,
+                const PathChange& change)
+{
+    for (const DagPath& path : paths) {
+        if (!call.boolean("preserveChildPosition")) {
+            change(path);
+            continue;
+        }
+        const ChildPlaces places(path);
+        change(path);
+        places.restore(context);
+    }
+}
+
 // move
 
 /// The point that an absolute move puts in its place, in the world.
@@ -110,7 +158,7 @@ MVector alongAxes(const ParsedCommand& call, const MVector& by, const MMatrix& a
 Value move(CommandContext& context, const ParsedCommand& call)
 {
     const Amounts amounts = amountsOf(context, call, ArgumentType::linear);
-    for (const DagPath& path : transformsOf(context, amounts.objects))
+    changeEach(context, call, transformsOf(context, amounts.objects), [&](const DagPath& path) {
         changeParts(context, path, [&](Transformation& parts, const Parents& parents) {
             const bool isInObject = call.has("objectSpace");
             if (!isInObject && !call.has("localSpace"))
@@ -121,25 +169,56 @@ Value move(CommandContext& context, const ParsedCommand& call)
                 parts.translation +=
                     alongAxes(call, amounts.value, isInObject ? parts.matrix() : MMatrix(), parents.matrix);
         });
+    });
     return {};
 }
 
 // rotate, scale
 
-/// Has the parts changed in such a way that the point of -pivot stays where it is in the world.
-void changeAboutPivot(const CommandContext& context, const ParsedCommand& call, const DagPath& path,
-                      const PartsChange& change)
+MVector centerOf(const std::vector<DagPath>& paths)
 {
+    Imath::Box3d box;
+    for (const DagPath& path : paths)
+        box.extendBy(boxOf(path, true));
+    const engine::Vec3d center = box.center();
+    return MVector(center.x, center.y, center.z);
+}
+
+/// The point in the world that stays where it is, if the call names one.
+std::optional<MVector> fixedPoint(const CommandContext& context, const ParsedCommand& call,
+                                  const std::vector<DagPath>& paths, const DagPath& path)
+{
+    if (call.has("objectCenterPivot"))
+        return centerOf({path});
+    if (call.has("centerPivot"))
+        return centerOf(paths);
     const FlagUse* pivot = call.use("pivot");
     if (!pivot)
-        return changeParts(context, path, change);
-    MVector fixed;
+        return std::nullopt;
+    MVector point;
     for (unsigned axis = 0; axis < 3; ++axis)
-        fixed[axis] = toInternal(context, pivot->arguments[axis], ArgumentType::linear);
-    changeParts(context, path, [&](Transformation& parts, const Parents& parents) {
-        const MPoint own = MPoint(fixed) * (parts.matrix() * parents.matrix).inverse();
-        change(parts, parents);
-        api::shift(parts, parents, MVector(own * (parts.matrix() * parents.matrix)), fixed);
+        point[axis] = toInternal(context, pivot->arguments[axis], ArgumentType::linear);
+    return point;
+}
+
+/// Has the parts of each object changed in such a way that the fixed point, if there is one, stays.
+void changeAboutPivot(const CommandContext& context, const ParsedCommand& call, const Amounts& amounts,
+                      const PartsChange& change)
+{
+    const std::vector<DagPath> paths = transformsOf(context, amounts.objects);
+    std::vector<std::optional<MVector>> points;
+    for (const DagPath& path : paths)
+        points.push_back(fixedPoint(context, call, paths, path));
+    auto point = points.begin();
+    changeEach(context, call, paths, [&](const DagPath& path) {
+        const std::optional<MVector> fixed = *point++;
+        if (!fixed)
+            return changeParts(context, path, change);
+        changeParts(context, path, [&](Transformation& parts, const Parents& parents) {
+            const MPoint own = MPoint(*fixed) * (parts.matrix() * parents.matrix).inverse();
+            change(parts, parents);
+            api::shift(parts, parents, MVector(own * (parts.matrix() * parents.matrix)), *fixed);
+        });
     });
 }
 
@@ -162,31 +241,29 @@ Value rotate(CommandContext& context, const ParsedCommand& call)
 {
     const Amounts amounts = amountsOf(context, call, ArgumentType::angle);
     const MSpace::Space space = call.has("objectSpace") ? MSpace::kObject : MSpace::kWorld;
-    for (const DagPath& path : transformsOf(context, amounts.objects))
-        changeAboutPivot(context, call, path, [&](Transformation& parts, const Parents& parents) {
-            const auto order = call.has("forceOrderXYZ") ? MEulerRotation::kXYZ : parts.rotation.order;
-            if (!call.has("relative"))
-                rotateTo(amounts, space, order, parts, parents);
-            else if (call.has("euler"))
-                parts.rotation = parts.rotation.asVector() + amounts.value;
-            else
-                api::turn(parts, parents, space, MEulerRotation(amounts.value, order).asQuaternion());
-        });
+    changeAboutPivot(context, call, amounts, [&](Transformation& parts, const Parents& parents) {
+        const auto order = call.has("forceOrderXYZ") ? MEulerRotation::kXYZ : parts.rotation.order;
+        if (!call.has("relative"))
+            rotateTo(amounts, space, order, parts, parents);
+        else if (call.has("euler"))
+            parts.rotation = parts.rotation.asVector() + amounts.value;
+        else
+            api::turn(parts, parents, space, MEulerRotation(amounts.value, order).asQuaternion());
+    });
     return {};
 }
 
 Value scale(CommandContext& context, const ParsedCommand& call)
 {
     const Amounts amounts = amountsOf(context, call, ArgumentType::number);
-    for (const DagPath& path : transformsOf(context, amounts.objects))
-        changeAboutPivot(context, call, path, [&](Transformation& parts, const Parents&) {
-            const MVector factors = amounts.over(MVector(1.0, 1.0, 1.0));
-            if (call.has("relative"))
-                for (unsigned axis = 0; axis < 3; ++axis)
-                    parts.scale[axis] *= factors[axis];
-            else
-                parts.scale = amounts.over(parts.scale);
-        });
+    changeAboutPivot(context, call, amounts, [&](Transformation& parts, const Parents&) {
+        const MVector factors = amounts.over(MVector(1.0, 1.0, 1.0));
+        if (call.has("relative"))
+            for (unsigned axis = 0; axis < 3; ++axis)
+                parts.scale[axis] *= factors[axis];
+        else
+            parts.scale = amounts.over(parts.scale);
+    });
     return {};
 }
 
@@ -209,26 +286,33 @@ CommandSpec channelCommand(const char* name, const char* summary, std::vector<Fl
         flags.push_back(
             switchFlag(shortName, std::string(name) + axes, std::string("along ") + axes + " only"));
     }
+    flags.push_back(valueFlag("pcp", "preserveChildPosition", ArgumentType::boolean,
+                              "what is below stays where it is in the world"));
     const std::vector<FlagSpec> refused = {
-        refusedFlag("pcp", "preserveChildPosition", kMovesChildren),
-        refusedFlag("puv", "preserveUV", kNoComponents),
         refusedFlag("pgp", "preserveGeometryPosition", kNoComponents),
-        refusedFlag("rfl", "reflection", kNoComponents),
         refusedFlag("smn", "symNegative", kNoComponents),
         refusedFlag("cs", "componentSpace", kNoComponents),
-        refusedFlag("dph", "deletePriorHistory", kNoComponents),
         refusedFlag("xc", "xformConstraint", kNoComponents),
+        refusedFlag("xn", "constrainAlongNormal", kNoComponents),
         refusedFlag("oj", "orientJoint", "joints are transforms like others"),
+        refusedFlag("oa", "orientAxes", "say which space"),
     };
     flags.insert(flags.end(), refused.begin(), refused.end());
+    const std::vector<FlagSpec> ofComponents = componentFlags();
+    flags.insert(flags.end(), ofComponents.begin(), ofComponents.end());
     return makeCommand(name, summary, std::move(flags), {ArgumentType::any, 1, PositionalRule::kAny},
                        std::move(handler));
 }
 
-FlagSpec pivotFlag()
+/// The flags of a command that turns or scales about a point: its own, and those that name the point.
+std::vector<FlagSpec> withPivotFlags(std::vector<FlagSpec> flags)
 {
     using A = ArgumentType;
-    return {"p", "pivot", {A::linear, A::linear, A::linear}, kCreate, "a point that stays where it is"};
+    flags.push_back(
+        {"p", "pivot", {A::linear, A::linear, A::linear}, kCreate, "a point that stays where it is"});
+    flags.push_back(switchFlag("cp", "centerPivot", "the center of all objects stays where it is"));
+    flags.push_back(switchFlag("ocp", "objectCenterPivot", "the center of each object stays where it is"));
+    return flags;
 }
 
 } // namespace
@@ -242,10 +326,12 @@ void registerTransformCommands(CommandTable& table)
                         switchFlag("spr", "scalePivotRelative", "the scale pivot comes to the place")},
                        move),
         channelCommand("rotate", "Turns objects",
-                       {switchFlag("eu", "euler", "with -relative: adds to the angles"),
-                        switchFlag("fo", "forceOrderXYZ", "the angles are in the order xyz"), pivotFlag()},
+                       withPivotFlags({switchFlag("eu", "euler", "with -relative: adds to the angles"),
+                                       switchFlag("fo", "forceOrderXYZ", "the angles are in the order xyz")}),
                        rotate),
-        channelCommand("scale", "Scales objects", {pivotFlag()}, scale),
+        channelCommand("scale", "Scales objects",
+                       withPivotFlags({refusedFlag("dso", "distanceOnly", "objects are scaled themselves")}),
+                       scale),
     });
 }
 

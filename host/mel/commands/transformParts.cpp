@@ -3,6 +3,9 @@
 
 #include "api/support/matrix4.h"
 #include "api/support/transformNode.h"
+#include "engine/boundingBox.h"
+
+#include <Imath/ImathBoxAlgo.h>
 
 namespace tvxhost::mel {
 
@@ -62,6 +65,29 @@ Outcome setLocalMatrix(engine::DagNode& transform, const engine::Matrix& local)
         return parts.outcome;
     takeMatrix(parts.value, api::fromImath<MMatrix>(local));
     return api::writeTransformation(transform, parts.value);
+}
+
+Imath::Box3d boxOf(const DagPath& path, bool inWorld)
+{
+    const Imath::Box3d box = engine::boundingBoxOf(*path.node());
+    if (box.isEmpty())
+        return Imath::Box3d(engine::Vec3d(0.0));
+    return inWorld ? Imath::transform(box, path.exclusiveMatrix()) : box;
+}
+
+std::vector<FlagSpec> componentFlags()
+{
+    return {
+        refusedFlag("puv", "preserveUV", kNoComponents),
+        refusedFlag("rfl", "reflection", kNoComponents),
+        refusedFlag("rao", "reflectionAboutOrigin", kNoComponents),
+        refusedFlag("rab", "reflectionAboutBBox", kNoComponents),
+        refusedFlag("rax", "reflectionAboutX", kNoComponents),
+        refusedFlag("ray", "reflectionAboutY", kNoComponents),
+        refusedFlag("raz", "reflectionAboutZ", kNoComponents),
+        refusedFlag("rft", "reflectionTolerance", kNoComponents),
+        refusedFlag("dph", "deletePriorHistory", kNoComponents),
+    };
 }
 
 double unitOf(const CommandContext& context, ArgumentType type)

@@ -5,7 +5,10 @@
 
 #include "api/support/transformSpaces.h"
 
+#include <Imath/ImathBox.h>
+
 #include <functional>
+#include <vector>
 
 namespace tvxhost::mel {
 
@@ -18,8 +21,9 @@ std::vector<engine::DagPath> transformsOf(const CommandContext& context,
 api::Transformation partsOf(const CommandContext& context, const engine::DagPath& path);
 
 // Why flags of these commands are refused.
-constexpr const char* kMovesChildren = "what is below an object goes with it";
 constexpr const char* kNoComponents = "only whole objects are transformed here";
+/// Those that the commands share, which are about components.
+std::vector<FlagSpec> componentFlags();
 
 using PartsChange = std::function<void(api::Transformation& parts, const api::Parents& parents)>;
 /// Has the parts changed and writes those that differ; stops the script when one of them is refused.
@@ -29,6 +33,9 @@ void changeParts(const CommandContext& context, const engine::DagPath& path, con
 /// the rotation stay, the translation makes up for them.
 void takeMatrix(api::Transformation& parts, const MMatrix& local);
 engine::Outcome setLocalMatrix(engine::DagNode& transform, const engine::Matrix& local);
+
+/// The box of an object and all below it, in its parent's space or the world; a point when it is empty.
+Imath::Box3d boxOf(const engine::DagPath& path, bool inWorld);
 
 /// Internal units of one of the user's: 1 for plain numbers.
 double unitOf(const CommandContext& context, ArgumentType type);

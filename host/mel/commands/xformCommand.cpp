@@ -180,15 +180,6 @@ void append(Value::Numbers& numbers, const MVector& vector, double unit)
         numbers.push_back(component / unit);
 }
 
-/// The box of an object and all below it, in its parent's space or the world.
-Imath::Box3d boxOf(const DagPath& path, bool inWorld)
-{
-    const Imath::Box3d box = engine::boundingBoxOf(*path.node());
-    if (box.isEmpty())
-        return Imath::Box3d(engine::Vec3d(0.0));
-    return inWorld ? Imath::transform(box, path.exclusiveMatrix()) : box;
-}
-
 Value boundingBox(const CommandContext& context, const DagPath& path, const View& view)
 {
     const Imath::Box3d box = boxOf(path, view.isWorld());
@@ -204,7 +195,7 @@ Value queryXform(const CommandContext& context, const ParsedCommand& call, const
     const View view = viewOf(call);
     const Transformation parts = partsOf(context, path);
     const Parents parents = api::parentsOf(path);
-    if (call.has("boundingBox"))
+    if (call.has("boundingBox") || call.has("boundingBoxInvisible"))
         return boundingBox(context, path, view);
     if (call.has("matrix")) {
         const MMatrix matrix = view.isWorld() ? worldOf(parts, parents) : parts.matrix();
@@ -329,13 +320,11 @@ CommandSpec xformCommand()
         switchFlag("ztp", "zeroTransformPivots", "takes both pivots to the origin"),
         switchFlag("eu", "euler", "with -relative: adds to the angles"),
         refusedFlag("wd", "worldSpaceDistance", "use move"),
-        refusedFlag("bbi", "boundingBoxInvisible", "what is hidden is in the box always"),
+        switchFlag("bbi", "boundingBoxInvisible", "the same; what is hidden is in the box always", kQuery),
         refusedFlag("cpc", "centerPivotsOnComponents", "components have no box here"),
-        refusedFlag("pcp", "preserveChildPosition", kMovesChildren),
-        refusedFlag("puv", "preserveUV", kNoComponents),
-        refusedFlag("rfl", "reflection", kNoComponents),
-        refusedFlag("dph", "deletePriorHistory", kNoComponents),
     };
+    const std::vector<FlagSpec> refused = componentFlags();
+    flags.insert(flags.end(), refused.begin(), refused.end());
     for (const XformRow& row : kXform)
         flags.push_back({row.shortName, row.longName, {row.type, row.type, row.type}, kSetQuery, row.help});
     return makeCommand("xform", "Sets or tells the parts of a transform", std::move(flags), names(), xform,

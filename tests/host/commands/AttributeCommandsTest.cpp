@@ -248,4 +248,20 @@ TEST_F(AttributeCommandsTest, aDotAloneMeansTheSelection)
     EXPECT_EQ(run("getAttr n.tx"), "9");
 }
 
+TEST_F(AttributeCommandsTest, whatKeysDriveCanBeSet)
+{
+    run("createNode transform -n t; createNode transform -n u; setKeyframe t.tx; connectAttr u.ty t.ty");
+    EXPECT_EQ(run("getAttr -settable t.tx"), "1");
+    EXPECT_EQ(run("getAttr -settable t.ty"), "0");
+}
+
+TEST_F(AttributeCommandsTest, variablesInTextsAreReplacedWhenItIsAsked)
+{
+    run("createNode transform -n t; addAttr -ln place -dt \"string\" t; putenv \"TVX_TEST_PLACE\" "
+        "\"/pictures\";"
+        "setAttr -type \"string\" t.place \"$TVX_TEST_PLACE/sky.png\"");
+    EXPECT_EQ(run("getAttr t.place"), "$TVX_TEST_PLACE/sky.png");
+    EXPECT_EQ(run("getAttr -expandEnvironmentVariables t.place"), "/pictures/sky.png");
+}
+
 } // namespace tvxhost::mel

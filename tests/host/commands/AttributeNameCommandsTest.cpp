@@ -71,6 +71,24 @@ TEST_F(AttributeNameCommandsTest, addedAttributesGetOtherNames)
     EXPECT_EQ(failure("renameAttr n.tx \"x\""), "renameAttr: 'translateX' was not added to 'n'");
 }
 
+TEST_F(AttributeNameCommandsTest, anAliasGoesWithItsAttribute)
+{
+    run("addAttr -ln pair -at double2 n; addAttr -ln pairX -at double -p pair n;"
+        "addAttr -ln pairY -at double -p pair n; addAttr -ln list -m n; addAttr -ln pai n");
+    run("aliasAttr first n.pairX second n.list[3] third n.pai fourth n.tx");
+    run("deleteAttr n.pair; deleteAttr n.list");
+    EXPECT_THAT(strings("aliasAttr -q n"), ElementsAre("third", "pai", "fourth", "translateX"));
+    run("addAttr -ln first n");
+}
+
+TEST_F(AttributeNameCommandsTest, anAliasStaysWhenItsAttributeIsRenamed)
+{
+    run("addAttr -ln row -at compound -nc 1 -m n; addAttr -ln cell -p row n; setAttr n.row[1].cell 2");
+    run("aliasAttr best n.row[1].cell; renameAttr n.row line; renameAttr n.cell place");
+    EXPECT_EQ(run("getAttr n.best"), "2");
+    EXPECT_THAT(strings("aliasAttr -q n"), ElementsAre("best", "line[1].place"));
+}
+
 TEST_F(AttributeNameCommandsTest, declarationsAreAskedFor)
 {
     run("addAttr -ln \"part\" -min 0 -k true n; addAttr -ln \"note\" -dt \"string\" -h true n");

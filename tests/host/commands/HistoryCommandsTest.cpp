@@ -78,8 +78,8 @@ TEST_F(HistoryCommandsTest, whatIsBelowIsReachedWhenItIsWished)
     EXPECT_EQ(run("objExists x"), "1");
     run("delete -channels -hierarchy below a");
     EXPECT_EQ(run("objExists x"), "0");
-    EXPECT_EQ(failure("delete -channels -hierarchy above a"),
-              "delete: -hierarchy is below or none here, not 'above'");
+    EXPECT_EQ(failure("delete -channels -hierarchy sideways a"),
+              "delete: -hierarchy is above, below, both or none, not 'sideways'");
 }
 
 } // namespace tvxhost::mel

@@ -9,6 +9,7 @@ namespace {
 using testing::DoubleNear;
 using testing::ElementsAre;
 using testing::HasSubstr;
+using testing::Pointwise;
 
 class KeyframeCommandsTest : public CommandFixture
 {
@@ -109,6 +110,64 @@ TEST_F(KeyframeCommandsTest, KeysAreMovedAndChanged)
     EXPECT_THAT(numbers("keyframe -q ball.tx"), ElementsAre(2.0, 16.0));
     EXPECT_THAT(numbers("keyframe -q -vc -t 2 ball.tx"), ElementsAre(3.0));
     EXPECT_EQ(run("keyframe -e -t 99 -vc 3 ball.tx"), "0");
+}
+
+TEST_F(KeyframeCommandsTest, KeysThatMovePassOthersAsTheyAreTold)
+{
+    const auto keyThree = [&] {
+        run("cutKey ball.tx; setKeyframe -t 0 -v 1 ball.tx; setKeyframe -t 10 -v 2 ball.tx;"
+            "setKeyframe -t 20 -v 3 ball.tx");
+    };
+    keyThree();
+    run("keyframe -e -option over -t 0 -tc 15 ball.tx");
+    EXPECT_THAT(numbers("keyframe -q -vc ball.tx"), ElementsAre(2.0, 1.0, 3.0));
+    keyThree();
+    run("keyframe -e -option insert -t 10 -r -tc 5 ball.tx");
+    EXPECT_THAT(numbers("keyframe -q ball.tx"), Pointwise(DoubleNear(1e-9), Value::Numbers{0.0, 15.0, 25.0}));
+    run("keyframe -e -o insert -t 15 -r -tc -20 ball.tx");
+    EXPECT_THAT(numbers("keyframe -q ball.tx"),
+                Pointwise(DoubleNear(1e-9), Value::Numbers{-20.0, -5.0, 25.0}));
+    EXPECT_EQ(failure("keyframe -e -option move -t -5 -tc 25 ball.tx"),
+              "keyframe: a key of 'ball_translateX' would pass another one");
+    run("keyframe -e -option move -t -5 -tc 24 ball.tx");
+    EXPECT_THAT(numbers("keyframe -q ball.tx"),
+                Pointwise(DoubleNear(1e-9), Value::Numbers{-20.0, 24.0, 25.0}));
+    EXPECT_EQ(failure("keyframe -e -option segmentOver -tc 1 ball.tx"),
+              "keyframe: -option is over, insert or move here, not 'segmentOver'");
+}
+
+TEST_F(KeyframeCommandsTest, TheHierarchyIsReachedWhenAsked)
+{
+    run("createNode transform -n top; parent ball top; createNode transform -n leaf -p ball;"
+        "createNode locator -n leafShape -p leaf; setKeyframe top.tx; setKeyframe ball.tx; setKeyframe "
+        "leaf.tx;"
+        "setKeyframe leafShape.lpx");
+    EXPECT_THAT(strings("keyframe -q -n ball"), ElementsAre("ball_translateX"));
+    EXPECT_THAT(strings("keyframe -q -n -hierarchy above ball"),
+                ElementsAre("ball_translateX", "top_translateX"));
+    EXPECT_THAT(strings("keyframe -q -n -hi below ball"),
+                ElementsAre("ball_translateX", "leaf_translateX", "leafShape_localPositionX"));
+    EXPECT_THAT(strings("keyframe -q -n -hi below -shape off ball"),
+                ElementsAre("ball_translateX", "leaf_translateX"));
+    EXPECT_EQ(run("keyframe -q -kc -hi both ball"), "4");
+    EXPECT_EQ(run("cutKey -hi below -at tx ball"), "2");
+    EXPECT_EQ(run("setKeyframe -hi both -at ty ball"), "3");
+    EXPECT_EQ(failure("keyframe -q -hi sideways ball"), "Invalid value 'sideways' of -hierarchy");
+}
+
+TEST_F(KeyframeCommandsTest, PointsCountOnlyWhenAsked)
+{
+    run("createNode mesh -n net -p ball; setAttr net.pt[0] 1 0 0; setKeyframe \"net.pt[0].px\"");
+    EXPECT_EQ(run("keyframe -q -kc ball"), "0");
+    EXPECT_EQ(run("keyframe -q -kc -controlPoints true ball"), "1");
+}
+
+TEST_F(KeyframeCommandsTest, AttributesThatAreNotKeyableAreKeyedUnlessTheyAreRespected)
+{
+    EXPECT_EQ(run("setKeyframe -at rotateAxisX -respectKeyable true ball"), "0");
+    EXPECT_EQ(run("setKeyframe -at rotateAxisX ball"), "1");
+    EXPECT_EQ(failure("keyframe -q -animation keys ball"), "-animation keys: no keys are selected");
+    EXPECT_EQ(run("keyframe -q -kc -animation objects ball"), "1");
 }
 
 TEST_F(KeyframeCommandsTest, TangentsAreSetAndToldByKindAngleAndWeight)

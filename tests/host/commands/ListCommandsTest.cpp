@@ -37,7 +37,8 @@ TEST_F(ListCommandsTest, statesAreAskedFor)
     EXPECT_THAT(strings("ls -templated top low"), ElementsAre("low"));
     EXPECT_THAT(strings("ls -untemplated top low"), ElementsAre("top"));
     EXPECT_THAT(strings("ls -leaf top low"), ElementsAre("low"));
-    EXPECT_THAT(strings("ls -undeletable shiny time1 persp"), ElementsAre("time1", "persp"));
+    EXPECT_THAT(strings("ls -undeletable shiny time1 persp board"), ElementsAre("shiny", "time1", "persp"));
+    EXPECT_EQ(strings("ls -renderSetups"), strings("ls -renderGlobals"));
 }
 
 TEST_F(ListCommandsTest, namesAreWrittenAsAsked)
@@ -47,8 +48,27 @@ TEST_F(ListCommandsTest, namesAreWrittenAsAsked)
     EXPECT_THAT(strings("ls -recursive true \"lo*\""), ElementsAre("low", "crew:low"));
     EXPECT_THAT(strings("ls -showNamespace \"crew:low\" shiny"),
                 ElementsAre("crew:low", "crew", "shiny", ":"));
+    EXPECT_THAT(strings("ls -showNamespace -absoluteName \"crew:low\""), ElementsAre("|crew:low", ":crew"));
     run("select -r top.tx");
     EXPECT_THAT(strings("ls -sl -objectsOnly"), ElementsAre("top"));
+    EXPECT_THAT(strings("ls -sl"), ElementsAre("top.translateX"));
+    EXPECT_THAT(strings("ls -sl -shortNames"), ElementsAre("top.tx"));
+}
+
+TEST_F(ListCommandsTest, namespacesAreSearchedToAnyDepth)
+{
+    run("createNode transform -n \"crew:low\"; createNode transform -n \"crew:red:low\"");
+    EXPECT_THAT(strings("ls \"::low\""), ElementsAre("low", "crew:low", "crew:red:low"));
+    EXPECT_THAT(strings("ls \"crew::l*\""), ElementsAre("crew:low", "crew:red:low"));
+    EXPECT_THAT(strings("ls \"crew:*\""), ElementsAre("crew:low"));
+    EXPECT_THAT(strings("ls \"blue::*\""), IsEmpty());
+}
+
+TEST_F(ListCommandsTest, nodesAreNamedByTheirUniqueIdentifiersToo)
+{
+    const std::string uuid = strings("ls -uuid low").at(0);
+    EXPECT_THAT(strings("ls \"" + uuid + "\""), ElementsAre("low"));
+    EXPECT_THAT(strings("ls \"01234567-89AB-4CDE-8F01-23456789ABCD\""), IsEmpty());
 }
 
 TEST_F(ListCommandsTest, whatTheHostCannotTellIsRefused)

@@ -109,6 +109,7 @@ TEST_F(PolygonCommandsTest, AMeshStaysWhenItsHistoryIsDeleted)
 {
     run("polyCube; delete polyCube1");
     EXPECT_EQ(run("polyEvaluate -v -e -f pCube1"), "8 12 6");
+    EXPECT_EQ(run("polyEvaluate -f -area -v pCube1"), "6 6 8") << "in the order of the flags";
 }
 
 TEST_F(PolygonCommandsTest, NewMeshesAreShaded)
@@ -161,6 +162,15 @@ TEST_F(PolygonCommandsTest, meshesAreMeasured)
               "Flag '-faceArea' of polyEvaluate is refused: components are counted by what is selected of "
               "them: use "
               "ls -flatten");
+}
+
+TEST_F(PolygonCommandsTest, theStateOfTheHistoryNodeIsAFlagToo)
+{
+    run("polyCube -n box -nodeState 2");
+    EXPECT_EQ(run("getAttr polyCube1.nodeState"), "2");
+    run("polyCube -e -nds 0 -cch on box");
+    EXPECT_EQ(run("polyCube -q -nodeState box"), "0");
+    EXPECT_EQ(run("polyCube -q -caching box"), "1");
 }
 
 } // namespace tvxhost::mel

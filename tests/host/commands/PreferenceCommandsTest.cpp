@@ -53,7 +53,9 @@ TEST_F(PreferenceCommandsTest, savePrefsWritesTheFolderOfTheSession)
 
 TEST_F(PreferenceCommandsTest, aboutTellsTheVersion)
 {
+    EXPECT_EQ(run("about"), "Maya 2016");
     EXPECT_EQ(run("about -v"), "2016");
+    EXPECT_EQ(run("about -preferences"), "");
     EXPECT_EQ(run("about -api"), "201602");
     EXPECT_EQ(run("about -batch"), "1");
 }

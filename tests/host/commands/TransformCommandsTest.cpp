@@ -1,4 +1,4 @@
-// move, rotate, scale, xform, makeIdentity, currentTime, currentUnit, playbackOptions.
+// move, rotate, scale, xform, currentTime, currentUnit, playbackOptions.
 #include "CommandFixture.h"
 
 #include <cmath>
@@ -266,37 +266,35 @@ TEST_F(TransformCommandsTest, xformTellsBoxesAndCentresPivotsInThem)
     expectNear("xform -q -bb b", {3, 0, -1, 5, 2, 1});
 }
 
-TEST_F(TransformCommandsTest, frozenMeshesStayWhereTheyAre)
+TEST_F(TransformCommandsTest, whatIsBelowStaysInItsPlaceWhenItIsAsked)
 {
-    run("polyCube -n \"inner\"; group -n \"outer\" inner; setAttr outer.t 10 0 0; setAttr outer.s 2 2 2;"
-        "setAttr inner.t 1 0 0; setAttr inner.ry 90");
-    const std::string box = run("xform -q -ws -bb inner");
-    run("makeIdentity -apply true -n 0 -pn true outer");
-    EXPECT_EQ(run("xform -q -ws -bb inner"), box);
-    EXPECT_THAT(numbers("xform -q -m inner"), ElementsAre(1, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1));
-    EXPECT_THAT(numbers("xform -q -m outer"), ElementsAre(1, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1));
-    EXPECT_THAT(numbers("xform -q -ws -rp inner"), ElementsAre(12.0, 0.0, 0.0));
+    run("setAttr b.t 1 0 0; createNode transform -n c -p a; setAttr c.t 0 5 0");
+    run("move -pcp true 10 0 0 a");
+    expectNear("getAttr a.t", {10, 0, 0});
+    expectNear("xform -q -ws -t b", {1, 0, 0});
+    run("rotate -preserveChildPosition true 0 0 90 a; scale -pcp on 2 2 2 a");
+    expectNear("xform -q -ws -t c", {0, 5, 0});
+    expectNear("xform -q -ws -ro b", {0, 0, 0});
+    run("move -r -pcp false 1 0 0 a");
+    expectNear("xform -q -ws -t b", {2, 0, 0});
 }
 
-TEST_F(TransformCommandsTest, onlyThePartsThatAreNamedAreFrozen)
+TEST_F(TransformCommandsTest, objectsTurnAndGrowAboutTheirCenters)
 {
-    run("polyCube -n \"cube\"; setAttr cube.t 3 0 0; setAttr cube.s 2 1 1; makeIdentity -apply true -s true "
-        "cube");
-    EXPECT_THAT(numbers("getAttr cube.t"), ElementsAre(3.0, 0.0, 0.0));
-    EXPECT_THAT(numbers("getAttr cube.s"), ElementsAre(1.0, 1.0, 1.0));
-    EXPECT_THAT(numbers("xform -q -ws -bb cube"), ElementsAre(2.0, -0.5, -0.5, 4.0, 0.5, 0.5));
+    run("polyCube -n one; polyCube -n two; setAttr one.t 2 0 0; setAttr two.t 6 0 0; rotate -r -cp 0 0 180 "
+        "one two");
+    expectNear("xform -q -ws -t one", {6, 0, 0});
+    expectNear("xform -q -ws -t two", {2, 0, 0});
+    run("xform -ws -piv 0 0 0 one; scale -ocp 3 3 3 one");
+    expectNear("xform -q -ws -bb one", {4.5, -1.5, -1.5, 7.5, 1.5, 1.5});
 }
 
-TEST_F(TransformCommandsTest, makeIdentityResets)
+TEST_F(TransformCommandsTest, whatIsAboutComponentsIsRefused)
 {
-    run("setAttr a.t 1 2 3; setAttr a.r 10 20 30; setAttr a.s 2 2 2; makeIdentity -t on a");
-    expectNear("getAttr a.t", {0, 0, 0});
-    expectNear("getAttr a.r", {10, 20, 30});
-    run("makeIdentity a");
-    expectNear("getAttr a.r", {0, 0, 0});
-    expectNear("getAttr a.s", {1, 1, 1});
-    EXPECT_EQ(failure("spaceLocator -n \"mark\"; makeIdentity -apply on mark"),
-              "makeIdentity -apply: 'markShape' has no points to move");
+    EXPECT_EQ(failure("move -reflectionAboutX 1 2 3 a"),
+              "Flag '-reflectionAboutX' of move is refused: only whole objects are transformed here");
+    EXPECT_EQ(failure("xform -reflectionTolerance a"),
+              "Flag '-reflectionTolerance' of xform is refused: only whole objects are transformed here");
 }
 
 TEST_F(TransformCommandsTest, rangesOfPlayingAreInTheUnitsOfTheUser)

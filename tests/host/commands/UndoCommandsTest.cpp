@@ -45,6 +45,10 @@ constexpr const char* kExtra =
     "createNode transform -n a; addAttr -ln extra -at double -k 1 a; setAttr a.extra 3; "
     "createNode transform -n b; connectAttr a.extra b.tx; ";
 
+constexpr const char* kSpaces =
+    "createNode transform -n one; createNode transform -n \"crew:one\"; "
+    "createNode transform -n \"crew:red:two\" -p \"crew:one\"; namespace -set \":crew:red\"; ";
+
 const EditRow kRows[] = {
     // nodes
     {"", "createNode transform"},
@@ -80,6 +84,16 @@ const EditRow kRows[] = {
     {kTree, "duplicate -rr -n twin b"},
     {kCube, "duplicate cube"},
     {kTree, "parent -add -s cShape a"},
+    // namespaces
+    {"", "namespace -add \"crew:red\""},
+    {kSpaces, "namespace -set crew"},
+    {kSpaces, "namespace -rel on"},
+    {kSpaces, "namespace -ren \":crew\" \":team\""},
+    {kSpaces, "namespace -f -mv crew \":\""},
+    {kSpaces, "namespace -rm crew -mnr"},
+    {kSpaces, "namespace -rm \"crew:red\" -mnp"},
+    {kSpaces, "namespace -rm crew -dnc"},
+    {kSpaces, "rename \"crew:one\" \":blue:one\""},
     // values
     {kTwo, "setAttr a.tx 4"},
     {kTwo, "setAttr a.t 1 2 3"},
@@ -105,6 +119,8 @@ const EditRow kRows[] = {
     {kExtra, "deleteAttr -at extra a"},
     {kExtra, "addAttr -e -min -1 -max 7 a.extra"},
     {kExtra, "aliasAttr other a.extra"},
+    {"createNode transform -n a; addAttr -ln extra a; aliasAttr other a.extra", "deleteAttr a.extra"},
+    {"createNode transform -n a; addAttr -ln extra a; aliasAttr other a.extra", "renameAttr a.extra more"},
     {"createNode transform -n a; aliasAttr other a.tx", "aliasAttr -rm a.other"},
     // connections
     {kTwo, "connectAttr a.tx b.tx"},
