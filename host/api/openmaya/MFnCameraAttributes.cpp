@@ -3,46 +3,50 @@
 
 #include "support/attributeMembers.h"
 
-TVX_NUMBER_MEMBER(MFnCamera, double, horizontalFilmAperture, setHorizontalFilmAperture, double,
-                  "horizontalFilmAperture")
-TVX_NUMBER_MEMBER(MFnCamera, double, verticalFilmAperture, setVerticalFilmAperture, double,
-                  "verticalFilmAperture")
-TVX_NUMBER_MEMBER(MFnCamera, double, horizontalFilmOffset, setHorizontalFilmOffset, double,
-                  "horizontalFilmOffset")
-TVX_NUMBER_MEMBER(MFnCamera, double, verticalFilmOffset, setVerticalFilmOffset, double, "verticalFilmOffset")
-TVX_NUMBER_MEMBER(MFnCamera, bool, shakeEnabled, setShakeEnabled, bool, "shakeEnabled")
-TVX_NUMBER_MEMBER(MFnCamera, double, horizontalShake, setHorizontalShake, double, "horizontalShake")
-TVX_NUMBER_MEMBER(MFnCamera, double, verticalShake, setVerticalShake, double, "verticalShake")
-TVX_NUMBER_MEMBER(MFnCamera, bool, shakeOverscanEnabled, setShakeOverscanEnabled, bool,
-                  "shakeOverscanEnabled")
-TVX_NUMBER_MEMBER(MFnCamera, double, shakeOverscan, setShakeOverscan, double, "shakeOverscan")
-TVX_NUMBER_MEMBER(MFnCamera, bool, panZoomEnabled, setPanZoomEnabled, bool, "panZoomEnabled")
-TVX_NUMBER_MEMBER(MFnCamera, bool, renderPanZoom, setRenderPanZoom, bool, "renderPanZoom")
-TVX_NUMBER_MEMBER(MFnCamera, double, horizontalPan, setHorizontalPan, double, "horizontalPan")
-TVX_NUMBER_MEMBER(MFnCamera, double, verticalPan, setVerticalPan, double, "verticalPan")
-TVX_NUMBER_MEMBER(MFnCamera, double, zoom, setZoom, double, "zoom")
-TVX_NUMBER_MEMBER(MFnCamera, double, filmFitOffset, setFilmFitOffset, double, "filmFitOffset")
-TVX_NUMBER_MEMBER(MFnCamera, double, overscan, setOverscan, double, "overscan")
-TVX_NUMBER_MEMBER(MFnCamera, double, horizontalRollPivot, setHorizontalRollPivot, double,
-                  "horizontalRollPivot")
-TVX_NUMBER_MEMBER(MFnCamera, double, verticalRollPivot, setVerticalRollPivot, double, "verticalRollPivot")
-TVX_NUMBER_MEMBER(MFnCamera, double, filmRollValue, setFilmRollValue, double, "filmRollValue")
-TVX_NUMBER_MEMBER(MFnCamera, double, preScale, setPreScale, double, "preScale")
-TVX_NUMBER_MEMBER(MFnCamera, double, postScale, setPostScale, double, "postScale")
-TVX_NUMBER_MEMBER(MFnCamera, double, filmTranslateH, setFilmTranslateH, double, "filmTranslateH")
-TVX_NUMBER_MEMBER(MFnCamera, double, filmTranslateV, setFilmTranslateV, double, "filmTranslateV")
+// Members that are called as their attributes.
+#define TVX_CAMERA_NUMBER(getter, setter)                                                                    \
+    TVX_NUMBER_MEMBER(MFnCamera, double, getter, setter, double, #getter)
+#define TVX_CAMERA_SWITCH(getter, setter) TVX_NUMBER_MEMBER(MFnCamera, bool, getter, setter, bool, #getter)
+
+TVX_CAMERA_NUMBER(horizontalFilmAperture, setHorizontalFilmAperture)
+TVX_CAMERA_NUMBER(verticalFilmAperture, setVerticalFilmAperture)
+TVX_CAMERA_NUMBER(horizontalFilmOffset, setHorizontalFilmOffset)
+TVX_CAMERA_NUMBER(verticalFilmOffset, setVerticalFilmOffset)
+TVX_CAMERA_SWITCH(shakeEnabled, setShakeEnabled)
+TVX_CAMERA_NUMBER(horizontalShake, setHorizontalShake)
+TVX_CAMERA_NUMBER(verticalShake, setVerticalShake)
+TVX_CAMERA_SWITCH(shakeOverscanEnabled, setShakeOverscanEnabled)
+TVX_CAMERA_NUMBER(shakeOverscan, setShakeOverscan)
+TVX_CAMERA_SWITCH(panZoomEnabled, setPanZoomEnabled)
+TVX_CAMERA_SWITCH(renderPanZoom, setRenderPanZoom)
+TVX_CAMERA_NUMBER(horizontalPan, setHorizontalPan)
+TVX_CAMERA_NUMBER(verticalPan, setVerticalPan)
+TVX_CAMERA_NUMBER(zoom, setZoom)
+TVX_CAMERA_NUMBER(filmFitOffset, setFilmFitOffset)
+TVX_CAMERA_NUMBER(overscan, setOverscan)
+TVX_CAMERA_NUMBER(horizontalRollPivot, setHorizontalRollPivot)
+TVX_CAMERA_NUMBER(verticalRollPivot, setVerticalRollPivot)
+TVX_CAMERA_NUMBER(filmRollValue, setFilmRollValue)
+TVX_CAMERA_NUMBER(preScale, setPreScale)
+TVX_CAMERA_NUMBER(postScale, setPostScale)
+TVX_CAMERA_NUMBER(filmTranslateH, setFilmTranslateH)
+TVX_CAMERA_NUMBER(filmTranslateV, setFilmTranslateV)
+TVX_CAMERA_NUMBER(focalLength, setFocalLength)
+TVX_CAMERA_NUMBER(lensSqueezeRatio, setLensSqueezeRatio)
+TVX_CAMERA_NUMBER(cameraScale, setCameraScale)
+TVX_CAMERA_NUMBER(fStop, setFStop)
+TVX_CAMERA_NUMBER(focusDistance, setFocusDistance)
+TVX_CAMERA_NUMBER(shutterAngle, setShutterAngle)
+TVX_CAMERA_NUMBER(centerOfInterest, setCenterOfInterest)
+
+#undef TVX_CAMERA_SWITCH
+#undef TVX_CAMERA_NUMBER
+
 TVX_NUMBER_MEMBER(MFnCamera, bool, isDisplayGateMask, setDisplayGateMask, bool, "displayGateMask")
 TVX_NUMBER_MEMBER(MFnCamera, bool, isDisplayFilmGate, setDisplayFilmGate, bool, "displayFilmGate")
-TVX_NUMBER_MEMBER(MFnCamera, double, focalLength, setFocalLength, double, "focalLength")
-TVX_NUMBER_MEMBER(MFnCamera, double, lensSqueezeRatio, setLensSqueezeRatio, double, "lensSqueezeRatio")
-TVX_NUMBER_MEMBER(MFnCamera, double, cameraScale, setCameraScale, double, "cameraScale")
 TVX_NUMBER_MEMBER(MFnCamera, double, nearClippingPlane, setNearClippingPlane, double, "nearClipPlane")
 TVX_NUMBER_MEMBER(MFnCamera, double, farClippingPlane, setFarClippingPlane, double, "farClipPlane")
 TVX_NUMBER_MEMBER(MFnCamera, bool, isDepthOfField, setDepthOfField, bool, "depthOfField")
-TVX_NUMBER_MEMBER(MFnCamera, double, fStop, setFStop, double, "fStop")
-TVX_NUMBER_MEMBER(MFnCamera, double, focusDistance, setFocusDistance, double, "focusDistance")
-TVX_NUMBER_MEMBER(MFnCamera, double, shutterAngle, setShutterAngle, double, "shutterAngle")
-TVX_NUMBER_MEMBER(MFnCamera, double, centerOfInterest, setCenterOfInterest, double, "centerOfInterest")
 TVX_NUMBER_MEMBER(MFnCamera, double, orthoWidth, setOrthoWidth, double, "orthographicWidth")
 TVX_NUMBER_MEMBER(MFnCamera, bool, usePivotAsLocalSpace, setUsePivotAsLocalSpace, const bool,
                   "usePivotAsLocalSpace")

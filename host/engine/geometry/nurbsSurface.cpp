@@ -212,7 +212,7 @@ std::optional<NurbsSurface> parseNurbsSurface(const std::string& words)
 std::string nurbsSurfaceWords(const NurbsSurface& surface)
 {
     // The line that is empty would say how the surface is trimmed.
-    return "\n\t\t" + std::to_string(surface.u.degree) + ' ' + std::to_string(surface.v.degree) + ' ' +
+    return " \n\t\t" + std::to_string(surface.u.degree) + ' ' + std::to_string(surface.v.degree) + ' ' +
            std::to_string(static_cast<int>(surface.u.form)) + ' ' +
            std::to_string(static_cast<int>(surface.v.form)) + (surface.isRational ? " yes " : " no ") +
            knotWords(surface.u.knots) + knotWords(surface.v.knots) + "\n\t\t" +

@@ -106,8 +106,8 @@ TEST_F(MFnLightTest, SetsFitTheLightsTheyAreFor)
     EXPECT_EQ(status, MS::kNotImplemented);
     make("spotLight", "lamp");
     const MFnSpotLight lamp(object("lamp"), &status);
-    EXPECT_EQ(lamp.barnDoorAngle(static_cast<MFnSpotLight::MBarnDoor>(4), &status), 0.0);
-    EXPECT_EQ(status, MS::kInvalidParameter) << "there are four doors";
+    EXPECT_EQ(lamp.startDistance(static_cast<MFnSpotLight::MDecayRegion>(3), &status), 0.0F);
+    EXPECT_EQ(status, MS::kInvalidParameter) << "there are three regions";
 }
 
 TEST_F(MFnLightTest, LightDataIsACompoundOfItsParts)

@@ -43,7 +43,7 @@ NurbsSurface quarterCylinder()
 }
 
 constexpr const char* kWords =
-    "\n\t\t3 1 0 0 no \n\t\t6 0 0 0 1 1 1\n\t\t2 0 1\n\t\t\n\t\t8\n\t\t0 0 0\n\t\t0 0 -1"
+    " \n\t\t3 1 0 0 no \n\t\t6 0 0 0 1 1 1\n\t\t2 0 1\n\t\t\n\t\t8\n\t\t0 0 0\n\t\t0 0 -1"
     "\n\t\t1 0.5 0\n\t\t1 0.5 -1\n\t\t2 0.5 0\n\t\t2 0.5 -1\n\t\t3 0 0\n\t\t3 0 -1\n\t\t";
 
 } // namespace
