@@ -4,7 +4,7 @@
 #include "animCurve.h"
 #include "boundingBox.h"
 #include "cell.h"
-#include "dirtySpread.h"
+#include "computeSupport.h"
 #include "geometry/historyNodes.h"
 #include "geometry/polyNodes.h"
 #include "mesh.h"
@@ -20,53 +20,6 @@
 namespace tvxhost::engine {
 
 namespace {
-
-/// Stores a computed value and marks it clean, without telling anybody: those who hang on it know already.
-void finishNumber(const Plug& plug, double value)
-{
-    keepNumber(plug, Number(value));
-    setClean(plug);
-}
-
-void finishData(const Plug& plug, Ref<Data> data)
-{
-    keepData(plug, std::move(data));
-    setClean(plug);
-}
-
-void finishMatrix(const Plug& plug, const Matrix& matrix)
-{
-    finishData(plug, Ref<Data>(new MatrixData(matrix)));
-}
-
-void finishVector(const Plug& plug, const Vec3d& vector)
-{
-    for (std::size_t i = 0; i < 3; ++i)
-        keepNumber(plug.child(i), Number(vector[static_cast<int>(i)]));
-    setClean(plug);
-}
-
-Plug plugOf(Node& node, const char* name)
-{
-    Attribute* attribute = node.findAttribute(name);
-    return attribute ? Plug(node, *attribute) : Plug();
-}
-
-Matrix matrixOf(const Plug& plug)
-{
-    const Expected<Ref<Data>> data = readData(plug);
-    const bool isMatrix = data.value && data.value->type() == DataType::matrix;
-    return isMatrix ? static_cast<const MatrixData&>(*data.value).value : Matrix();
-}
-
-/// The plug at an attribute of the top level that a request is about: the element of an array.
-Plug topPlug(const Plug& plug)
-{
-    Plug top = plug;
-    while (top.isChild())
-        top = top.parent();
-    return top;
-}
 
 // DAG nodes
 
@@ -235,6 +188,7 @@ void addBuiltinComputes(TypeTable& types)
     addHistoryComputes(types);
     addParticleBehaviour(types);
     addUtilityComputes(types);
+    addMatrixComputes(types);
 }
 
 } // namespace tvxhost::engine

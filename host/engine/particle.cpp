@@ -19,10 +19,11 @@ bool isArrayOfValues(const Attribute& attribute)
             attribute.dataType == DataType::intArray);
 }
 
-/// "mass0" → "mass"; null when the attribute is no initial state.
+/// "mass0" → "mass"; null when the attribute is no initial state, such as one that only the node itself
+/// writes.
 Attribute* stateOfInitial(const Node& particles, const Attribute& initial)
 {
-    if (!isArrayOfValues(initial) || initial.longName.back() != '0')
+    if (!isArrayOfValues(initial) || !initial.flags.writable || initial.longName.back() != '0')
         return nullptr;
     Attribute* state = particles.findAttribute(initial.longName.substr(0, initial.longName.size() - 1));
     return state && state->dataType == initial.dataType ? state : nullptr;
@@ -171,7 +172,7 @@ Attribute* initialStateOf(const Node& particles, const Attribute& state)
     if (!isArrayOfValues(state))
         return nullptr;
     Attribute* initial = particles.findAttribute(state.longName + "0");
-    return initial && initial->dataType == state.dataType ? initial : nullptr;
+    return initial && stateOfInitial(particles, *initial) == &state ? initial : nullptr;
 }
 
 std::vector<Attribute*> particleState(const Node& particles)

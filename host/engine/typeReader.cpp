@@ -4,7 +4,6 @@
 #include "tableWords.h"
 #include "units.h"
 
-#include <array>
 #include <optional>
 #include <stdexcept>
 #include <string>
@@ -98,18 +97,50 @@ Ref<Attribute> makeOfKind(const std::string& kind, const std::string& longName, 
     return attribute->dataType == DataType::plugin ? Ref<Attribute>() : attribute;
 }
 
-/// A group of numbers, its children made by rule unless they follow in braces.
-Ref<Attribute> makeGroup(const std::string& stem, int count, const std::string& longName,
-                         const std::string& shortName, bool withChildren)
+/// What the children of a group are called: these letters behind the group's long name, and small behind the
+/// stem of the short names.
+struct ChildNames
 {
-    Ref<Attribute> group = makeOfKind(stem, longName, shortName);
+    std::string_view capitals;
+    std::string_view small;
+    std::string shortStem;
+};
+
+constexpr std::string_view kAxes = "XYZW", kSmallAxes = "xyzw", kColors = "RGB", kSmallColors = "rgb";
+
+/// A group of numbers, its children made by rule unless they follow in braces (no names).
+Ref<Attribute> makeGroup(const std::string& numberKind, int count, const std::string& longName,
+                         const std::string& shortName, const std::optional<ChildNames>& names)
+{
+    Ref<Attribute> group = makeOfKind(numberKind, longName, shortName);
     group->kind = AttributeKind::numeric;
     group->unit = UnitKind::none;
-    constexpr std::array<const char*, 4> kCapitals = {"X", "Y", "Z", "W"};
-    constexpr std::array<const char*, 4> kSmall = {"x", "y", "z", "w"};
-    for (std::size_t i = 0; withChildren && i < static_cast<std::size_t>(count); ++i)
-        group->addChild(makeOfKind(stem, longName + kCapitals[i], shortName + kSmall[i]));
+    for (std::size_t i = 0; names && i < static_cast<std::size_t>(count); ++i)
+        group->addChild(
+            makeOfKind(numberKind, longName + names->capitals[i], names->shortStem + names->small[i]));
     return group;
+}
+
+constexpr std::string_view kChildrenOption = "children=";
+
+/// The stem of the children's short names: that of the group unless "children=" says another.
+std::string childStem(const Words& words)
+{
+    for (const std::string& word : words)
+        if (word.compare(0, kChildrenOption.size(), kChildrenOption) == 0)
+            return word.substr(kChildrenOption.size());
+    return words[1];
+}
+
+/// Flags that are about the group itself, and those that are about its numbers alone.
+bool isOfGroup(const std::string& flag)
+{
+    return flag == "array" || flag == "unordered" || flag == "delete" || flag == "reset";
+}
+
+bool isOfChildren(const std::string& flag)
+{
+    return flag == "keyable" || flag == "channelBox";
 }
 
 double internalValue(const Attribute& attribute, double value)
@@ -204,7 +235,8 @@ private:
         if (!m_type || words.size() < 3)
             fail("LONG SHORT KIND");
         const bool opens = words.back() == "{";
-        Ref<Attribute> attribute = makeAttribute(words[0], words[1], words[2], !opens);
+        const auto stem = opens ? std::nullopt : std::optional<std::string>(childStem(words));
+        Ref<Attribute> attribute = makeAttribute(words[0], words[1], words[2], stem);
         if (!attribute)
             fail("unknown kind '" + words[2] + "'");
         for (std::size_t i = 3; i + (opens ? 1 : 0) < words.size(); ++i)
@@ -215,31 +247,35 @@ private:
             finish(attribute);
     }
 
+    /// Without a stem for their short names, a group's children follow in braces.
     static Ref<Attribute> makeAttribute(const std::string& longName, const std::string& shortName,
-                                        const std::string& kind, bool withChildren)
+                                        const std::string& kind, const std::optional<std::string>& stem)
     {
-        if (kind == "color" && withChildren)
-            return makeColor(longName, shortName);
+        const auto names = [&](std::string_view capitals, std::string_view small) {
+            return stem ? std::optional(ChildNames{capitals, small, *stem}) : std::nullopt;
+        };
         if (kind == "color") {
-            Ref<Attribute> color = makeGroup("float", 3, longName, shortName, false);
+            Ref<Attribute> color = makeGroup("float", 3, longName, shortName, names(kColors, kSmallColors));
             color->flags.usedAsColor = true;
             return color;
         }
         if (const auto group = groupKind(kind))
-            return makeGroup(group->first, group->second, longName, shortName, withChildren);
+            return makeGroup(group->first, group->second, longName, shortName, names(kAxes, kSmallAxes));
         return makeOfKind(kind, longName, shortName);
     }
 
     void readOption(Attribute& attribute, const std::string& word)
     {
         if (const auto flag = kFlags.find(word); flag != kFlags.end()) {
-            flag->second(attribute);
-            // What is said of a group holds for its numbers as well, but for what makes it an array.
-            if (word != "array" && word != "unordered" && word != "delete" && word != "reset")
+            if (attribute.children.empty() || !isOfChildren(word))
+                flag->second(attribute);
+            if (!isOfGroup(word))
                 for (const Ref<Attribute>& child : attribute.children)
                     flag->second(*child);
             return;
         }
+        if (word.compare(0, kChildrenOption.size(), kChildrenOption) == 0)
+            return;
         const std::size_t equals = word.find('=');
         if (equals == std::string::npos)
             fail("unknown word '" + word + "'");

@@ -1,19 +1,80 @@
 // Utility nodes: what they compute with numbers.
 #include "utilityNodes.h"
 
+#include "computeSupport.h"
 #include "node.h"
-#include "plug.h"
-#include "values.h"
+#include "ramp.h"
 
+#include <algorithm>
+#include <cmath>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace tvxhost::engine {
 
 namespace {
 
-/// The operations of plusMinusAverage, as its attribute numbers them.
-enum class Operation
+using Numbers = std::vector<double>;
+
+int wholeOf(Node& node, std::string_view attribute)
+{
+    return static_cast<int>(numberOf(node, attribute));
+}
+
+/// The result of a calculation for each component; inputs of one node are equally long.
+template <typename Calculation, typename... More>
+Numbers each(Calculation calculate, const Numbers& first, const More&... more)
+{
+    Numbers result;
+    for (std::size_t i = 0; i < first.size(); ++i)
+        result.push_back(calculate(first[i], more[i]...));
+    return result;
+}
+
+// Products and sums
+
+enum class ProductOperation
+{
+    none = 0, ///< the first input alone
+    multiply = 1,
+    divide = 2,
+    power = 3
+};
+
+double product(ProductOperation operation, double a, double b)
+{
+    switch (operation) {
+    case ProductOperation::multiply:
+        return a * b;
+    case ProductOperation::divide:
+        return a / b;
+    case ProductOperation::power:
+        return std::pow(a, b);
+    case ProductOperation::none:
+        break;
+    }
+    return a;
+}
+
+Numbers multiplyDivide(Node& node)
+{
+    const auto operation = static_cast<ProductOperation>(wholeOf(node, "operation"));
+    return each([operation](double a, double b) { return product(operation, a, b); },
+                numbersOf(node, "input1"), numbersOf(node, "input2"));
+}
+
+Numbers addDoubleLinear(Node& node)
+{
+    return {numberOf(node, "input1") + numberOf(node, "input2")};
+}
+
+Numbers multDoubleLinear(Node& node)
+{
+    return {numberOf(node, "input1") * numberOf(node, "input2")};
+}
+
+enum class SumOperation
 {
     none = 0, ///< the first input alone
     sum = 1,
@@ -22,38 +83,214 @@ enum class Operation
 };
 
 /// What the elements of an array come to, component by component.
-std::vector<double> combined(const Plug& inputs, Operation operation, std::size_t componentCount)
+Numbers combined(const Plug& inputs, SumOperation operation, std::size_t componentCount)
 {
-    std::vector<double> total(componentCount, 0.0);
+    Numbers total(componentCount, 0.0);
     const std::vector<int> elements = existingElements(inputs);
-    const std::size_t count = operation == Operation::none && !elements.empty() ? 1 : elements.size();
+    const std::size_t count = operation == SumOperation::none && !elements.empty() ? 1 : elements.size();
     for (std::size_t i = 0; i < count; ++i) {
-        const double sign = operation == Operation::subtract && i > 0 ? -1.0 : 1.0;
-        const std::vector<double> input = readNumbers(inputs.element(elements[i])).value;
+        const double sign = operation == SumOperation::subtract && i > 0 ? -1.0 : 1.0;
+        const Numbers input = readNumbers(inputs.element(elements[i])).value;
         for (std::size_t k = 0; k < componentCount && k < input.size(); ++k)
             total[k] += sign * input[k];
     }
-    if (operation == Operation::average && count > 0)
+    if (operation == SumOperation::average && count > 0)
         for (double& component : total)
             component /= static_cast<double>(count);
     return total;
 }
 
-Computed computePlusMinusAverage(Node& node, const Plug& plug)
+template <std::size_t componentCount>
+Numbers plusMinusAverage(Node& node, std::string_view inputs)
 {
-    const Plug output = plug.isChild() ? plug.parent() : plug;
-    const std::string& name = output.attribute()->longName;
-    if (name.rfind("output", 0) != 0)
+    return combined(plugOf(node, inputs), static_cast<SumOperation>(wholeOf(node, "operation")),
+                    componentCount);
+}
+
+// Ranges
+
+Numbers reversed(Node& node)
+{
+    return each([](double value) { return 1.0 - value; }, numbersOf(node, "input"));
+}
+
+Numbers clamped(Node& node)
+{
+    return each([](double value, double low, double high) { return std::min(std::max(value, low), high); },
+                numbersOf(node, "input"), numbersOf(node, "min"), numbersOf(node, "max"));
+}
+
+/// How far a value is on the way from one end to the other, at most the whole way; nowhere when both are one.
+double fraction(double value, double from, double to)
+{
+    return from == to ? 0.0 : std::clamp((value - from) / (to - from), 0.0, 1.0);
+}
+
+Numbers rangeSet(Node& node)
+{
+    const auto moved = [](double value, double oldMin, double oldMax, double low, double high) {
+        return low + fraction(value, oldMin, oldMax) * (high - low);
+    };
+    return each(moved, numbersOf(node, "value"), numbersOf(node, "oldMin"), numbersOf(node, "oldMax"),
+                numbersOf(node, "min"), numbersOf(node, "max"));
+}
+
+double rampPosition(Node& node)
+{
+    return fraction(numberOf(node, "inputValue"), numberOf(node, "inputMin"), numberOf(node, "inputMax"));
+}
+
+/// What a ramp of the node yields for its input; one without entries yields the position itself.
+Numbers rampOutput(Node& node, std::string_view ramp)
+{
+    const std::vector<RampEntry> entries = rampEntries(plugOf(node, ramp));
+    const double position = rampPosition(node);
+    if (entries.empty())
+        return Numbers(3, position);
+    const auto value = rampValueAt(entries, position);
+    return {value.begin(), value.end()};
+}
+
+Numbers remappedValue(Node& node)
+{
+    const double low = numberOf(node, "outputMin");
+    const double high = numberOf(node, "outputMax");
+    return {low + rampOutput(node, "value").front() * (high - low)};
+}
+
+Numbers remappedColor(Node& node)
+{
+    return rampOutput(node, "color");
+}
+
+// Colours
+
+Numbers gammaCorrected(Node& node)
+{
+    return each([](double value, double gamma) { return std::pow(value, 1.0 / gamma); },
+                numbersOf(node, "value"), numbersOf(node, "gamma"));
+}
+
+Numbers luminance(Node& node)
+{
+    const Numbers color = numbersOf(node, "value");
+    return {0.3 * color[0] + 0.59 * color[1] + 0.11 * color[2]};
+}
+
+// Choices and blends
+
+double mixed(double first, double second, double part)
+{
+    return first * part + second * (1.0 - part);
+}
+
+Numbers blendedColors(Node& node)
+{
+    const double blender = numberOf(node, "blender");
+    return each([blender](double first, double second) { return mixed(first, second, blender); },
+                numbersOf(node, "color1"), numbersOf(node, "color2"));
+}
+
+bool holds(int comparison, double first, double second)
+{
+    switch (comparison) {
+    case 0:
+        return first == second;
+    case 1:
+        return first != second;
+    case 2:
+        return first > second;
+    case 3:
+        return first >= second;
+    case 4:
+        return first < second;
+    default:
+        return first <= second;
+    }
+}
+
+Numbers condition(Node& node)
+{
+    const bool isTrue =
+        holds(wholeOf(node, "operation"), numberOf(node, "firstTerm"), numberOf(node, "secondTerm"));
+    return numbersOf(node, isTrue ? "colorIfTrue" : "colorIfFalse");
+}
+
+Numbers blendedTwo(Node& node)
+{
+    const Plug inputs = plugOf(node, "input");
+    const double part = numberOf(node, "attributesBlender");
+    return {mixed(readNumber(inputs.element(1)).value.asReal(), readNumber(inputs.element(0)).value.asReal(),
+                  part)};
+}
+
+Numbers blendedWeighted(Node& node)
+{
+    const Plug inputs = plugOf(node, "input");
+    const Plug weights = plugOf(node, "weight");
+    double sum = 0.0;
+    for (const int index : existingElements(inputs))
+        sum += readNumber(inputs.element(index)).value.asReal() *
+               readNumber(weights.element(index)).value.asReal();
+    return {sum};
+}
+
+Numbers muted(Node& node)
+{
+    return {numberOf(node, numberOf(node, "mute") != 0.0 ? "hold" : "input")};
+}
+
+/// The numbers of one output.
+using Formula = Numbers (*)(Node& node);
+
+struct FormulaRow
+{
+    std::string_view type;
+    std::string_view output;
+    Formula formula;
+};
+
+constexpr FormulaRow kFormulas[] = {
+    {"addDoubleLinear", "output", addDoubleLinear},
+    {"blendColors", "output", blendedColors},
+    {"blendTwoAttr", "output", blendedTwo},
+    {"blendWeighted", "output", blendedWeighted},
+    {"clamp", "output", clamped},
+    {"condition", "outColor", condition},
+    {"gammaCorrect", "outValue", gammaCorrected},
+    {"luminance", "outValue", luminance},
+    {"multDoubleLinear", "output", multDoubleLinear},
+    {"multiplyDivide", "output", multiplyDivide},
+    {"mute", "output", muted},
+    {"plusMinusAverage", "output1D", [](Node& node) { return plusMinusAverage<1>(node, "input1D"); }},
+    {"plusMinusAverage", "output2D", [](Node& node) { return plusMinusAverage<2>(node, "input2D"); }},
+    {"plusMinusAverage", "output3D", [](Node& node) { return plusMinusAverage<3>(node, "input3D"); }},
+    {"remapValue", "outColor", remappedColor},
+    {"remapValue", "outValue", remappedValue},
+    {"reverse", "output", reversed},
+    {"setRange", "outValue", rangeSet},
+};
+
+Computed computeFormula(Node& node, const Plug& plug)
+{
+    const Plug output = topPlug(plug);
+    for (const FormulaRow& row : kFormulas)
+        if (row.output == output.attribute()->longName && row.type == node.type().name) {
+            finishNumbers(output, row.formula(node));
+            return Computed::done;
+        }
+    return Computed::unknown;
+}
+
+/// Hands on whatever the chosen input has.
+Computed computeChoice(Node& node, const Plug& plug)
+{
+    if (plug.attribute()->longName != "output")
         return Computed::unknown;
-    // "output2D" is made of "input2D".
-    const Plug inputs = node.findPlug("input" + name.substr(6)).value;
-    const auto operation =
-        static_cast<Operation>(static_cast<int>(readNumber(node.findPlug("operation").value).value.asReal()));
-    const std::size_t children = output.childCount();
-    const std::vector<double> result = combined(inputs, operation, children > 0 ? children : 1);
-    for (std::size_t i = 0; i < result.size(); ++i)
-        keepNumber(children > 0 ? output.child(i) : output, Number(result[i]));
-    setClean(output);
+    const Expected<Ref<Data>> chosen = readData(plugOf(node, "input").element(wholeOf(node, "selector")));
+    if (!chosen || !chosen.value)
+        return Computed::failed;
+    finishData(plug, chosen.value->clone());
     return Computed::done;
 }
 
@@ -61,7 +298,9 @@ Computed computePlusMinusAverage(Node& node, const Plug& plug)
 
 void addUtilityComputes(TypeTable& types)
 {
-    types.find("plusMinusAverage")->compute = computePlusMinusAverage;
+    for (const FormulaRow& row : kFormulas)
+        types.find(std::string(row.type))->compute = computeFormula;
+    types.find("choice")->compute = computeChoice;
 }
 
 } // namespace tvxhost::engine

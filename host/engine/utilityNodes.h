@@ -1,11 +1,14 @@
-// Utility nodes: what they compute with numbers.
+// Utility nodes: what they compute with numbers and matrices.
 #pragma once
 
 #include "nodeType.h"
 
 namespace tvxhost::engine {
 
-/// Gives plusMinusAverage its outputs.
+/// Gives the nodes that calculate with numbers their outputs: sums, products, ranges, blends, conditions.
 void addUtilityComputes(TypeTable& types);
+
+/// Gives multMatrix, decomposeMatrix and distanceBetween their outputs.
+void addMatrixComputes(TypeTable& types);
 
 } // namespace tvxhost::engine

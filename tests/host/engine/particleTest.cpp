@@ -48,7 +48,7 @@ TEST_F(ParticleTest, TheStateIsWhatHasABeginningOrWasAdded)
     addArray("loose", DataType::vectorArray);
     addArray("other", DataType::stringArray);
     EXPECT_THAT(names(particleState(shape)),
-                ElementsAre("position", "velocity", "acceleration", "mass", "age", "birthTime", "particleId",
+                ElementsAre("position", "velocity", "acceleration", "mass", "particleId", "birthTime", "age",
                             "heatPP", "loose"));
     EXPECT_EQ(initialStateOf(shape, *shape.findAttribute("heatPP")), shape.findAttribute("heatPP0"));
     EXPECT_EQ(initialStateOf(shape, *shape.findAttribute("loose")), nullptr);
