@@ -20,6 +20,8 @@
 #include <maya/MDistance.h>
 #include <maya/MDoubleArray.h>
 #include <maya/MEulerRotation.h>
+#include <maya/MExternalContentInfoTable.h>
+#include <maya/MExternalContentLocationTable.h>
 #include <maya/MFloatArray.h>
 #include <maya/MFloatMatrix.h>
 #include <maya/MFloatPoint.h>
@@ -46,6 +48,7 @@
 #include <maya/MFnMessageAttribute.h>
 #include <maya/MFnNumericAttribute.h>
 #include <maya/MFnNumericData.h>
+#include <maya/MFnNurbsSurface.h>
 #include <maya/MFnParticleSystem.h>
 #include <maya/MFnPointArrayData.h>
 #include <maya/MFnStringArrayData.h>
@@ -65,6 +68,7 @@
 #include <maya/MMatrix.h>
 #include <maya/MMatrixArray.h>
 #include <maya/MNamespace.h>
+#include <maya/MNodeClass.h>
 #include <maya/MObject.h>
 #include <maya/MObjectArray.h>
 #include <maya/MObjectHandle.h>
@@ -73,18 +77,24 @@
 #include <maya/MPoint.h>
 #include <maya/MPointArray.h>
 #include <maya/MPxCommand.h>
+#include <maya/MPxData.h>
 #include <maya/MPxLocatorNode.h>
 #include <maya/MPxNode.h>
 #include <maya/MQuaternion.h>
+#include <maya/MRampAttribute.h>
+#include <maya/MRichSelection.h>
 #include <maya/MSelectionList.h>
+#include <maya/MSelectionMask.h>
 #include <maya/MSpace.h>
 #include <maya/MStatus.h>
 #include <maya/MString.h>
 #include <maya/MStringArray.h>
 #include <maya/MSyntax.h>
+#include <maya/MTesselationParams.h>
 #include <maya/MTime.h>
 #include <maya/MTimeArray.h>
 #include <maya/MTransformationMatrix.h>
+#include <maya/MTrimBoundaryArray.h>
 #include <maya/MTypeId.h>
 #include <maya/MUint64Array.h>
 #include <maya/MUintArray.h>
@@ -140,6 +150,8 @@ const Layout layouts[] = {
     LAYOUT(MDistance, 16, 8),
     LAYOUT(MDoubleArray, 24, 8),
     LAYOUT(MEulerRotation, 32, 8),
+    LAYOUT(MExternalContentInfoTable, 8, 8),
+    LAYOUT(MExternalContentLocationTable, 8, 8),
     LAYOUT(MFloatArray, 24, 8),
     LAYOUT(MFloatMatrix, 64, 4),
     LAYOUT(MFloatPoint, 16, 4),
@@ -166,6 +178,7 @@ const Layout layouts[] = {
     LAYOUT(MFnMessageAttribute, 64, 8),
     LAYOUT(MFnNumericAttribute, 64, 8),
     LAYOUT(MFnNumericData, 32, 8),
+    LAYOUT(MFnNurbsSurface, 80, 8),
     LAYOUT(MFnParticleSystem, 64, 8),
     LAYOUT(MFnPlugin, 32, 8),
     LAYOUT(MFnPointArrayData, 32, 8),
@@ -186,6 +199,7 @@ const Layout layouts[] = {
     LAYOUT(MMatrix, 128, 8),
     LAYOUT(MMatrixArray, 16, 8),
     LAYOUT(MNamespace, 1, 1),
+    LAYOUT(MNodeClass, 4, 4),
     LAYOUT(MObject, 16, 8),
     LAYOUT(MObjectArray, 8, 8),
     LAYOUT(MObjectHandle, 24, 8),
@@ -194,18 +208,24 @@ const Layout layouts[] = {
     LAYOUT(MPoint, 32, 8),
     LAYOUT(MPointArray, 24, 8),
     LAYOUT(MPxCommand, 32, 8),
+    LAYOUT(MPxData, 16, 8),
     LAYOUT(MPxLocatorNode, 24, 8),
     LAYOUT(MPxNode, 24, 8),
     LAYOUT(MQuaternion, 32, 8),
+    LAYOUT(MRampAttribute, 8, 8),
+    LAYOUT(MRichSelection, 16, 8),
     LAYOUT(MSelectionList, 24, 8),
+    LAYOUT(MSelectionMask, 24, 8),
     LAYOUT(MSpace, 1, 1),
     LAYOUT(MStatus, 3, 1),
     LAYOUT(MString, 16, 8),
     LAYOUT(MStringArray, 24, 8),
     LAYOUT(MSyntax, 24, 8),
+    LAYOUT(MTesselationParams, 8, 8),
     LAYOUT(MTime, 16, 8),
     LAYOUT(MTimeArray, 8, 8),
     LAYOUT(MTransformationMatrix, 8, 8),
+    LAYOUT(MTrimBoundaryArray, 16, 8),
     LAYOUT(MTypeId, 4, 4),
     LAYOUT(MUint64Array, 24, 8),
     LAYOUT(MUintArray, 24, 8),
