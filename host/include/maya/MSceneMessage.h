@@ -5,7 +5,8 @@
 
 /// Callbacks for files, references, plug-ins and the end of the program. To register gives the id of the
 /// callback, and 0 on failure: kInvalidParameter for a message of another kind, or without a function. Never
-/// sent by the host, which does no such thing: the messages of rendering and kBefore/AfterExportReference.
+/// sent by the host, which does no such thing: those of rendering, kBefore/AfterExportReference and
+/// kBefore/AfterImportReference.
 class OPENMAYA_EXPORT MSceneMessage : public MMessage
 {
 public:
