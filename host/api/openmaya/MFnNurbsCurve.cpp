@@ -1,7 +1,7 @@
 // MFnNurbsCurve: NURBS curves. What the host does not do is in MFnNurbsCurveUnsupported.cpp.
 #include <maya/MFnNurbsCurve.h>
 
-#include "engine/geometry/nurbsCurve.h"
+#include "engine/geometry/curveNode.h"
 #include "support/attributeMembers.h"
 #include "support/shapePlaces.h"
 #include "support/shapeSet.h"
@@ -24,29 +24,6 @@ using engine::NurbsCurve;
 
 namespace {
 
-/// As the words of a scene file, which is how plugs hold curves.
-constexpr const char* kTypeName = "nurbsCurve";
-
-/// The curve that a plug holds.
-std::optional<NurbsCurve> curveIn(const engine::Plug& plug)
-{
-    const auto data = engine::readData(plug);
-    if (!data || data.value->type() != engine::DataType::plugin)
-        return std::nullopt;
-    const auto& kept = static_cast<const engine::KeptData&>(*data.value);
-    return kept.typeName == kTypeName ? engine::parseNurbsCurve(kept.text) : std::nullopt;
-}
-
-engine::Plug plugOf(engine::Node& node, const char* name)
-{
-    return engine::Plug(node, *node.findAttribute(name));
-}
-
-bool isFed(engine::Node& node)
-{
-    return engine::isFedAnywhere(plugOf(node, "create"));
-}
-
 /// Runs `use(curve)`, which returns a status.
 template <class Use>
 MStatus withCurve(const MFnBase& set, Use use)
@@ -54,7 +31,7 @@ MStatus withCurve(const MFnBase& set, Use use)
     engine::Node* node = api::nodeOf(set);
     if (!node)
         return api::notAttached();
-    const auto curve = curveIn(plugOf(*node, isFed(*node) ? "create" : "cached"));
+    const auto curve = engine::curveOf(*node);
     return curve ? use(*curve) : failure(MS::kInvalidParameter, StatusText::objectDoesNotExist);
 }
 
@@ -71,10 +48,8 @@ Value readCurve(const MFnBase& set, MStatus* returnStatus, Value value, Read rea
 
 MStatus store(engine::Node& node, const NurbsCurve& curve)
 {
-    if (!curve.isValid())
-        return failure(MS::kInvalidParameter, StatusText::unexpectedFailure);
-    return api::toStatus(engine::writeData(plugOf(node, "cached"),
-                                           engine::KeptData(kTypeName, engine::nurbsCurveWords(curve))));
+    return curve.isValid() ? api::toStatus(engine::storeCurve(node, curve))
+                           : failure(MS::kInvalidParameter, StatusText::unexpectedFailure);
 }
 
 /// Has a curve without history changed; `change` returns a status.
@@ -83,7 +58,7 @@ MStatus changeCurve(const MFnBase& set, Change change)
 {
     return withCurve(set, [&](const NurbsCurve& old) -> MStatus {
         engine::Node& node = *api::nodeOf(set);
-        if (isFed(node))
+        if (engine::hasCurveHistory(node))
             return failure(StatusText::unexpectedFailure);
         NurbsCurve curve = old;
         const MStatus changed = change(curve);
@@ -229,7 +204,7 @@ bool MFnNurbsCurve::hasHistoryOnCreate(MStatus* ReturnStatus) const
 {
     TVX_API_CALL_OR("MFnNurbsCurve::hasHistoryOnCreate", ReturnStatus, false);
     engine::Node* node = api::nodeOf(*this);
-    return api::requireAttached(node, ReturnStatus) && isFed(*node);
+    return api::requireAttached(node, ReturnStatus) && engine::hasCurveHistory(*node);
 }
 
 int MFnNurbsCurve::numKnots(MStatus* ReturnStatus) const
