@@ -24,7 +24,8 @@ struct Primitive
     const char* name;    ///< of the transform, without its number
     const char* summary;
     AttributeFlags flags;
-    int capRings = -1; ///< subdivisions of the caps when no flag gives them; -1: as the node has them
+    int capRings = -1;  ///< subdivisions of the caps when no flag gives them; -1: as the node has them
+    int createUVs = -1; ///< how textures are laid on when no flag says it; -1: as the node has it
 };
 
 const std::vector<Primitive>& primitives()
@@ -38,7 +39,9 @@ const std::vector<Primitive>& primitives()
           {"sx", "subdivisionsX", A::integer, "subdivisionsWidth", "columns"},
           {"sy", "subdivisionsY", A::integer, "subdivisionsHeight", "rows"},
           {"sw", "subdivisionsWidth", A::integer, "subdivisionsWidth", "columns"},
-          {"sh", "subdivisionsHeight", A::integer, "subdivisionsHeight", "rows"}}},
+          {"sh", "subdivisionsHeight", A::integer, "subdivisionsHeight", "rows"}},
+         -1,
+         2},
         {"polyCube",
          "pCube",
          "Makes a cube of polygons",
@@ -70,7 +73,9 @@ const std::vector<Primitive>& primitives()
           {"sa", "subdivisionsAxis", A::integer, "subdivisionsAxis", "around the axis"},
           {"sh", "subdivisionsHeight", A::integer, "subdivisionsHeight", "along the axis"},
           {"sc", "subdivisionsCap", A::integer, "subdivisionsCap", "of the bottom"},
-          {"rcp", "roundCap", A::boolean, "roundCap", "whether the bottom is round"}}},
+          {"rcp", "roundCap", A::boolean, "roundCap", "whether the bottom is round"}},
+         -1,
+         3},
         {"polyCylinder",
          "pCylinder",
          "Makes a cylinder of polygons",
@@ -83,7 +88,8 @@ const std::vector<Primitive>& primitives()
           {"sh", "subdivisionsHeight", A::integer, "subdivisionsHeight", "along the axis"},
           {"sc", "subdivisionsCaps", A::integer, "subdivisionsCaps", "of the caps"},
           {"rcp", "roundCap", A::boolean, "roundCap", "whether the caps are round"}},
-         1},
+         1,
+         3},
         {"polyTorus",
          "pTorus",
          "Makes a torus of polygons",
@@ -153,6 +159,8 @@ Value create(CommandContext& context, const ParsedCommand& call, const Primitive
     Node& maker = *valueOf(context, scene.createNode(primitive.command));
     if (primitive.capRings >= 0 && !givesCapRings(call, primitive))
         require(context, writeNumber(plugOf(context, maker, "subdivisionsCaps"), primitive.capRings));
+    if (primitive.createUVs >= 0)
+        require(context, writeNumber(plugOf(context, maker, "createUVs"), primitive.createUVs));
     setAll(context, call, primitive, maker);
     require(context, scene.connect(plugOf(context, maker, "output"), plugOf(context, shape, "inMesh")));
     // Made at once, so that it stays when its history goes.

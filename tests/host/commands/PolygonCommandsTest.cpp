@@ -65,6 +65,18 @@ TEST_F(PolygonCommandsTest, FlagsAreAttributesOfTheNode)
     EXPECT_THAT(strings("listRelatives -shapes ball7"), ElementsAre("ballShape7"));
 }
 
+TEST_F(PolygonCommandsTest, TexturesAreLaidOnAsEachCommandDoesUnlessItIsTold)
+{
+    for (const auto& [command, laidOn] :
+         {std::pair("polyPlane", "2"), std::pair("polyCube", "3"), std::pair("polySphere", "2"),
+          std::pair("polyCone", "3"), std::pair("polyCylinder", "3"), std::pair("polyTorus", "1")}) {
+        run(command);
+        EXPECT_EQ(run("getAttr " + std::string(command) + "1.createUVs"), laidOn) << command;
+    }
+    run("polyPlane -createUVs 0");
+    EXPECT_EQ(run("getAttr polyPlane2.createUVs"), "0");
+}
+
 TEST_F(PolygonCommandsTest, LengthsAreInTheCurrentUnit)
 {
     run("currentUnit -linear m; polyPlane -w 2 -h 1cm -sx 1 -sy 1");
