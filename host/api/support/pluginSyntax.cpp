@@ -38,7 +38,8 @@ engine::PluginSyntax describeSyntax(const MSyntax& syntax)
     description.arguments = described(table.arguments);
     if (table.objectFormat != MSyntax::kNone) {
         description.leastObjects = table.minimumObjects;
-        description.mostObjects = table.maximumObjects.value_or(engine::PluginSyntax::kAnyNumber);
+        description.mostObjects =
+            table.maximumObjects ? *table.maximumObjects : engine::PluginSyntax::kAnyNumber;
     }
     description.isQueried = table.canQuery;
     description.isEdited = table.canEdit;

@@ -1,4 +1,5 @@
 // Commands of plug-ins, as scripts call them.
+#include "api/support/pluginSyntax.h"
 #include "app/session.h"
 
 #include <gtest/gtest.h>
@@ -73,6 +74,26 @@ TEST_F(PluginCommandsTest, AreDescribedByTheirSyntax)
                                         "    -q -query\n"
                                         "    -f -frames                Time Int (multi-use)\n"
                                         "    -c -clear\n");
+}
+
+TEST_F(PluginCommandsTest, TellTheSyntaxThatTheInterfaceHolds)
+{
+    MSyntax syntax;
+    syntax.addFlag("-g", "-gap", MSyntax::kDistance, MSyntax::kUnsigned);
+    syntax.makeFlagMultiUse("-g");
+    syntax.enableEdit(true);
+    syntax.setObjectType(MSyntax::kSelectionList, 1);
+    m_session.scene().pluginCommands["march"] = {
+        "march", "loud", {}, [syntax] { return api::describeSyntax(syntax); }};
+    m_session.commands().pluginsChanged();
+    EXPECT_EQ(resultOf("help march"), "Synopsis: march [flags] Name [Name...]\n"
+                                      "  a command of the plug-in loud\n"
+                                      "Flags:\n"
+                                      "    -e -edit\n"
+                                      "    -g -gap                   Length Int (multi-use)\n");
+    syntax.setObjectType(MSyntax::kStringObjects, 0, 2);
+    EXPECT_EQ(api::describeSyntax(syntax).mostObjects, 2u);
+    EXPECT_EQ(api::describeSyntax(MSyntax()).mostObjects, 0u);
 }
 
 TEST_F(PluginCommandsTest, AreGoneWithTheirPlugin)
