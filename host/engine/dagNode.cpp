@@ -46,7 +46,7 @@ constexpr int kTemplateDisplay = 1;
 
 DagNode::DagNode(Scene& scene, NodeType& type) : Node(scene, type) {}
 
-bool DagNode::isWorld() const
+bool DagNode::isWorldOfScene() const
 {
     return isAlive() && &scene().world() == this;
 }
@@ -54,6 +54,18 @@ bool DagNode::isWorld() const
 bool DagNode::isTransform() const
 {
     return !type().isShape && type().name != "world";
+}
+
+DagNode* DagNode::childAt(std::size_t i) const
+{
+    constexpr std::size_t kNodeAhead = 16, kShapeAhead = 8;
+    if (i + kNodeAhead < m_children.size()) {
+        __builtin_prefetch(m_children[i + kNodeAhead]);
+        const DagNode* soon = m_children[i + kShapeAhead];
+        if (!soon->m_children.empty())
+            __builtin_prefetch(soon->m_children.front());
+    }
+    return m_children[i];
 }
 
 bool DagNode::isIntermediate()

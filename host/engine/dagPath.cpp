@@ -8,6 +8,33 @@
 
 namespace tvxhost::engine {
 
+DagPath::DagPath(const DagPath& other)
+    : m_world(other.m_world), m_nodes(other.m_nodes), m_validAt(other.m_validAt)
+{
+    for (const DagNode* node : m_nodes)
+        node->retain();
+}
+
+DagPath::~DagPath()
+{
+    for (const DagNode* node : m_nodes)
+        node->release();
+}
+
+DagPath& DagPath::operator=(DagPath other) noexcept
+{
+    std::swap(m_world, other.m_world);
+    std::swap(m_nodes, other.m_nodes);
+    std::swap(m_validAt, other.m_validAt);
+    return *this;
+}
+
+void DagPath::append(DagNode& node)
+{
+    m_nodes.push_back(&node);
+    node.retain();
+}
+
 DagPath DagPath::world(Scene& scene)
 {
     DagPath path;
@@ -19,14 +46,15 @@ DagPath DagPath::firstTo(DagNode& node)
 {
     if (!node.isAlive())
         return {};
-    DagPath path = world(node.scene());
+    PointerList<DagNode, 4> upwards;
     for (DagNode* step = &node; !step->isWorld(); step = step->parents().front()) {
-        path.m_nodes.emplace_back(step);
+        upwards.push_back(step);
         // A node that is just being made hangs nowhere yet.
         if (step->parents().empty())
             break;
     }
-    std::reverse(path.m_nodes.begin(), path.m_nodes.end());
+    DagPath path = world(node.scene());
+    std::for_each(upwards.rbegin(), upwards.rend(), [&](DagNode* step) { path.append(*step); });
     return path;
 }
 
@@ -39,7 +67,7 @@ std::vector<DagPath> DagPath::allTo(DagNode& node)
     std::vector<DagPath> all;
     for (DagNode* parent : node.parents())
         for (DagPath& path : allTo(*parent)) {
-            path.m_nodes.emplace_back(&node);
+            path.append(node);
             all.push_back(std::move(path));
         }
     return all;
@@ -55,34 +83,21 @@ std::size_t DagPath::countTo(const DagNode& node)
     return count;
 }
 
-// Every call on a path asks this, so a path is walked again only after some object has died or come back.
-bool DagPath::isValid() const
-{
-    const std::uint64_t now = Object::lifeChanges() + 1;
-    if (m_validAt != now && isEachAlive())
-        m_validAt = now;
-    return m_world && m_validAt == now;
-}
-
 bool DagPath::isEachAlive() const
 {
-    return m_world && m_world->isAlive() &&
-           std::all_of(m_nodes.begin(), m_nodes.end(),
-                       [](const Ref<DagNode>& node) { return node->isAlive(); });
-}
-
-DagNode* DagPath::node() const
-{
-    if (!m_nodes.empty())
-        return m_nodes.back().get();
-    return m_world ? m_world->asDag() : nullptr;
+    const bool isEach =
+        m_world->isAlive() &&
+        std::all_of(m_nodes.begin(), m_nodes.end(), [](const DagNode* node) { return node->isAlive(); });
+    if (isEach)
+        m_validAt = Object::lifeChanges() + 1;
+    return isEach;
 }
 
 DagNode* DagPath::transform() const
 {
     for (auto step = m_nodes.rbegin(); step != m_nodes.rend(); ++step)
         if ((*step)->isTransform())
-            return step->get();
+            return *step;
     return nullptr;
 }
 
@@ -90,7 +105,8 @@ Outcome DagPath::pop(std::size_t n)
 {
     if (n > m_nodes.size())
         return {Reason::badIndex, "the path has no more than " + std::to_string(m_nodes.size()) + " nodes"};
-    m_nodes.resize(m_nodes.size() - n);
+    std::for_each(m_nodes.end() - n, m_nodes.end(), [](const DagNode* node) { node->release(); });
+    m_nodes.dropLast(n);
     return {};
 }
 
@@ -102,7 +118,7 @@ Outcome DagPath::push(DagNode& child)
     const auto& parents = child.parents();
     if (std::find(parents.begin(), parents.end(), end) == parents.end())
         return {Reason::notFound, "'" + child.name() + "' is no child of '" + end->name() + "'"};
-    m_nodes.emplace_back(&child);
+    append(child);
     return {};
 }
 
@@ -111,7 +127,7 @@ int DagPath::instanceNumber() const
     // The paths before this one: at each step down, all those through the parents before the one taken.
     std::size_t number = 0;
     for (std::size_t i = m_nodes.size(); i-- > 0;) {
-        const DagNode* parent = i == 0 ? m_world->asDag() : m_nodes[i - 1].get();
+        const DagNode* parent = i == 0 ? m_world->asDag() : m_nodes[i - 1];
         for (const DagNode* other : m_nodes[i]->parents()) {
             if (other == parent)
                 break;
@@ -124,7 +140,7 @@ int DagPath::instanceNumber() const
 std::string DagPath::fullName() const
 {
     std::string name;
-    for (const Ref<DagNode>& step : m_nodes)
+    for (const DagNode* step : m_nodes)
         name += "|" + step->name();
     return name;
 }
@@ -137,7 +153,7 @@ std::string DagPath::partialName() const
     std::vector<DagNode*> ending;
     std::string name;
     for (auto step = m_nodes.rbegin(); step != m_nodes.rend(); ++step) {
-        ending.insert(ending.begin(), step->get());
+        ending.insert(ending.begin(), *step);
         name = name.empty() ? (*step)->name() : (*step)->name() + "|" + name;
         if (scene.countPathsEndingIn(ending) <= 1)
             return name;
@@ -148,7 +164,7 @@ std::string DagPath::partialName() const
 Matrix DagPath::inclusiveMatrix() const
 {
     Matrix matrix;
-    for (const Ref<DagNode>& step : m_nodes)
+    for (DagNode* step : m_nodes)
         matrix = inheritsTransform(*step) ? step->localMatrix() * matrix : step->localMatrix();
     return matrix;
 }
@@ -161,14 +177,13 @@ Matrix DagPath::exclusiveMatrix() const
 
 bool DagPath::isVisible() const
 {
-    return std::all_of(m_nodes.begin(), m_nodes.end(),
-                       [](const Ref<DagNode>& step) { return isShownByItself(*step); });
+    return std::all_of(m_nodes.begin(), m_nodes.end(), [](DagNode* step) { return isShownByItself(*step); });
 }
 
 bool DagPath::isTemplated() const
 {
     return std::any_of(m_nodes.begin(), m_nodes.end(),
-                       [](const Ref<DagNode>& step) { return isTemplatedByItself(*step); });
+                       [](DagNode* step) { return isTemplatedByItself(*step); });
 }
 
 DagNode* DagPath::shapeBelow() const

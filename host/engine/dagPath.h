@@ -5,6 +5,7 @@
 #include "outcome.h"
 
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace tvxhost::engine {
@@ -14,6 +15,10 @@ class DagPath
 {
 public:
     DagPath() = default;
+    DagPath(const DagPath& other);
+    DagPath(DagPath&& other) noexcept = default;
+    ~DagPath();
+    DagPath& operator=(DagPath other) noexcept;
     /// The path of the world of a scene.
     static DagPath world(Scene& scene);
     /// The first path that leads to a node (for an instanced one the path of instance 0).
@@ -23,12 +28,18 @@ public:
     /// How many there are.
     static std::size_t countTo(const DagNode& node);
 
-    bool isValid() const;
+    // Every call on a path asks this, so a path is walked again only after some object has died or come back.
+    bool isValid() const { return m_world && (m_validAt == Object::lifeChanges() + 1 || isEachAlive()); }
     /// Nodes below the world.
     std::size_t length() const { return m_nodes.size(); }
     /// The node at the end (the world for length 0, null when invalid).
-    DagNode* node() const;
-    DagNode* nodeAt(std::size_t i) const { return m_nodes[i].get(); }
+    DagNode* node() const
+    {
+        if (!m_nodes.empty())
+            return m_nodes.back();
+        return m_world ? m_world->asDag() : nullptr;
+    }
+    DagNode* nodeAt(std::size_t i) const { return m_nodes[i]; }
     /// The nearest transform upwards, the end included; null when there is none.
     DagNode* transform() const;
 
@@ -54,9 +65,10 @@ public:
 
 private:
     bool isEachAlive() const;
+    void append(DagNode& node);
 
     Ref<Node> m_world;
-    std::vector<Ref<DagNode>> m_nodes;
+    PointerList<DagNode, 4> m_nodes;     ///< held as by a Ref each
     mutable std::uint64_t m_validAt = 0; ///< Object::lifeChanges() when all were last seen alive, and 1 more
 };
 

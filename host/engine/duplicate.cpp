@@ -80,7 +80,7 @@ Expected<DagNode*> copyNode(DagNode& original, DagNode& parent, const std::strin
 
 Outcome copyBelow(DagNode& original, DagNode& copy, const DuplicateOptions& options, bool isRoot)
 {
-    for (DagNode* child : std::vector<DagNode*>(original.children())) {
+    for (DagNode* child : Node::Links(original.children())) {
         if (child->isIntermediate())
             continue;
         if (child->isShape() && options.sharesLeaves) {

@@ -62,21 +62,11 @@ bool isLegalAttributeName(const std::string& name)
 } // namespace
 
 Node::Node(Scene& scene, NodeType& type)
-    : Object(ObjectClass::node), m_scene(&scene), m_type(&type), m_cells(std::make_unique<CellStore>(*this))
+    : Object(ObjectClass::node), m_type(&type), m_scene(&scene), m_cells(std::make_unique<CellStore>(*this))
 {
 }
 
 Node::~Node() = default;
-
-DagNode* Node::asDag()
-{
-    return m_type->isDag ? static_cast<DagNode*>(this) : nullptr;
-}
-
-const DagNode* Node::asDag() const
-{
-    return m_type->isDag ? static_cast<const DagNode*>(this) : nullptr;
-}
 
 std::vector<Attribute*> Node::attributes() const
 {

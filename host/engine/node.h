@@ -4,6 +4,7 @@
 #include "nodeType.h"
 #include "object.h"
 #include "plug.h"
+#include "pointerList.h"
 
 #include <Imath/ImathBox.h>
 
@@ -46,20 +47,28 @@ public:
     virtual void* apiObject() { return nullptr; }
 };
 
-/// A dependency node. Made and deleted by Scene only.
-class Node : public Object
+/// A dependency node. Made and deleted by Scene only. Begins on a line of the processor's cache.
+class alignas(64) Node : public Object
 {
-    // What every walk through a scene reads stands together at the front.
+public:
+    /// Nodes above or below one.
+    using Links = PointerList<DagNode, 1>;
+
+protected:
+    // What every walk through a scene reads stands together at the front, so that it is fetched at once; what
+    // only DAG nodes have, too.
+    /// Whether a value of "intermediateObject" was ever kept: seldom, and asked of every shape.
+    bool m_mayBeIntermediate = false;
+    Links m_parents;
+    Links m_children;
+
+private:
     friend class CellStore;
     friend class NameTable;
     friend class Scene;
-    Scene* m_scene;
     NodeType* m_type;
+    Scene* m_scene;
     std::unique_ptr<CellStore> m_cells;
-
-protected:
-    /// Whether a value of "intermediateObject" was ever kept: seldom, and asked of every shape.
-    bool m_mayBeIntermediate = false;
 
 public:
     Node(Scene& scene, NodeType& type);
@@ -157,15 +166,18 @@ class DagNode final : public Node
 public:
     DagNode(Scene& scene, NodeType& type);
 
-    bool isWorld() const;
+    bool isWorld() const { return m_parents.empty() && isWorldOfScene(); }
     bool isTransform() const;
     bool isShape() const { return type().isShape; }
 
     /// In the order of parenting; several when the node is instanced. Top-level nodes have the world as
     /// parent.
-    const std::vector<DagNode*>& parents() const { return m_parents; }
+    const Links& parents() const { return m_parents; }
     /// In DAG order, shapes and transforms mixed.
-    const std::vector<DagNode*>& children() const { return m_children; }
+    const Links& children() const { return m_children; }
+    /// The i-th child. Children are mostly asked for one after the other, so those that come next, and what
+    /// is directly below them, are on their way into the processor's cache.
+    DagNode* childAt(std::size_t i) const;
 
     /// Reads the attribute without evaluating anything.
     bool isIntermediate();
@@ -173,9 +185,17 @@ public:
     Matrix localMatrix();
 
 private:
-    friend class Scene;
-    std::vector<DagNode*> m_parents;
-    std::vector<DagNode*> m_children;
+    bool isWorldOfScene() const;
 };
+
+inline DagNode* Node::asDag()
+{
+    return m_type->isDag ? static_cast<DagNode*>(this) : nullptr;
+}
+
+inline const DagNode* Node::asDag() const
+{
+    return m_type->isDag ? static_cast<const DagNode*>(this) : nullptr;
+}
 
 } // namespace tvxhost::engine

@@ -81,6 +81,14 @@ public:
     /// once, since whoever looks for the shape below a transform asks for it.
     Attribute* intermediateObject() const;
 
+    /// What the API has found out about the type: the engine never looks at it.
+    class Notes
+    {
+    public:
+        virtual ~Notes() = default;
+    };
+    mutable std::unique_ptr<Notes> apiNotes;
+
     int liveNodes = 0;    ///< nodes of exactly this type in the scene
     int waitingNodes = 0; ///< those that are gone, but that undo or redo may bring back
 

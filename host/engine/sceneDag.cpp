@@ -43,7 +43,7 @@ void Scene::unlink(DagNode& parent, DagNode& child)
 
 void Scene::linkAt(DagNode& parent, DagNode& child, const LinkPlace& place)
 {
-    const auto put = [](std::vector<DagNode*>& all, std::size_t at, DagNode* node) {
+    const auto put = [](Node::Links& all, std::size_t at, DagNode* node) {
         all.insert(all.begin() + static_cast<std::ptrdiff_t>(std::min(at, all.size())), node);
     };
     put(parent.m_children, place.inParent, &child);

@@ -212,7 +212,7 @@ MObject MDagPath::child(unsigned int i, MStatus* ReturnStatus) const
     TVX_API_CALL_OR("MDagPath::child", ReturnStatus, MObject());
     const auto* place = valid(path, ReturnStatus);
     if (place && i < place->node()->children().size())
-        return tvxAccess::handle(place->node()->children()[i]);
+        return tvxAccess::handle(place->node()->childAt(i));
     if (place)
         api::give(ReturnStatus, failure(StatusText::noElementAtIndex));
     return MObject();
@@ -295,7 +295,7 @@ bool MDagPath::isInstanced(MStatus* ReturnStatus) const
 {
     TVX_API_CALL_OR("MDagPath::isInstanced", ReturnStatus, false);
     const auto* place = valid(path, ReturnStatus);
-    return place && engine::DagPath::allTo(*place->node()).size() > 1;
+    return place && engine::DagPath::countTo(*place->node()) > 1;
 }
 
 unsigned int MDagPath::instanceNumber(MStatus* ReturnStatus) const

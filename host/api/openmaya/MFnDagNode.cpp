@@ -27,17 +27,27 @@ using tvxhost::engine::NodeType;
 using tvxhost::engine::Plug;
 using tvxhost::engine::Scene;
 
+namespace {
+
+void forgetPathOf(MFnDagNode& set)
+{
+    if (tvxAccess::dagPath(tvxAccess::pathOf(set)))
+        tvxAccess::pathOf(set) = MDagPath();
+}
+
+} // namespace
+
 namespace tvxhost::api {
 
 MStatus attachTo(MFnDagNode& set, const MObject& object)
 {
-    tvxAccess::pathOf(set) = MDagPath();
+    forgetPathOf(set);
     return attachTo(static_cast<MFnBase&>(set), object);
 }
 
 MStatus attachTo(MFnDagNode& set, const MDagPath& path)
 {
-    tvxAccess::pathOf(set) = MDagPath();
+    forgetPathOf(set);
     const engine::DagPath* target = tvxAccess::dagPath(path);
     if (!target || !target->isValid()) {
         tvxAccess::attach(set, nullptr);
@@ -83,7 +93,7 @@ MObject create(MFnDagNode& set, NodeType* type, const std::string& name, const M
     give(returnStatus, toStatus(made.outcome));
     if (!made)
         return MObject();
-    tvxAccess::pathOf(set) = MDagPath();
+    forgetPathOf(set);
     tvxAccess::attach(set, made.value);
     return tvxAccess::handle(made.value);
 }
@@ -125,10 +135,11 @@ bool isBelow(const DagNode& node, const DagNode& ancestor)
     });
 }
 
-MObject nodeAt(const std::vector<DagNode*>& nodes, unsigned int i, MStatus* returnStatus)
+/// A parent or child; null: there is none of that index.
+MObject neighbour(const DagNode* node, MStatus* returnStatus)
 {
-    give(returnStatus, i < nodes.size() ? MStatus() : failure(StatusText::noElementAtIndex));
-    return i < nodes.size() ? tvxAccess::handle(nodes[i]) : MObject();
+    give(returnStatus, node ? MStatus() : failure(StatusText::noElementAtIndex));
+    return tvxAccess::handle(node);
 }
 
 MString pathName(const MFnDagNode& set, const char* name, std::string (DagPath::*spell)() const,
@@ -236,7 +247,9 @@ MObject MFnDagNode::parent(unsigned int i, MStatus* ReturnStatus) const
 {
     TVX_API_CALL_OR("MFnDagNode::parent", ReturnStatus, MObject());
     const DagNode* node = dagNodeOf(*this);
-    return requireAttached(node, ReturnStatus) ? nodeAt(node->parents(), i, ReturnStatus) : MObject();
+    if (!requireAttached(node, ReturnStatus))
+        return MObject();
+    return neighbour(i < node->parents().size() ? node->parents()[i] : nullptr, ReturnStatus);
 }
 
 unsigned int MFnDagNode::childCount(MStatus* ReturnStatus) const
@@ -250,7 +263,9 @@ MObject MFnDagNode::child(unsigned int i, MStatus* ReturnStatus) const
 {
     TVX_API_CALL_OR("MFnDagNode::child", ReturnStatus, MObject());
     const DagNode* node = dagNodeOf(*this);
-    return requireAttached(node, ReturnStatus) ? nodeAt(node->children(), i, ReturnStatus) : MObject();
+    if (!requireAttached(node, ReturnStatus))
+        return MObject();
+    return neighbour(i < node->children().size() ? node->childAt(i) : nullptr, ReturnStatus);
 }
 
 // Children stand in the order of parenting: one cannot be put before others.

@@ -7,8 +7,9 @@
 #include "engine/node.h"
 #include "engine/scene.h"
 
-#include <algorithm>
+#include <bitset>
 #include <cctype>
+#include <memory>
 #include <string>
 #include <unordered_map>
 #include <vector>
@@ -98,29 +99,6 @@ MFn::Type builtInTypeNamed(const std::string& name)
     return regular == typesByEnumerator().end() ? MFn::kInvalid : regular->second;
 }
 
-/// The names of the built-in node types that an enumerator is the type of: none, or one or two.
-const std::vector<std::string>& builtInNamesOf(MFn::Type type)
-{
-    static const std::vector<std::vector<std::string>> names = [] {
-        std::vector<std::vector<std::string>> made(MFn::kLast);
-        for (const auto& [name, irregular] : irregularNodeTypes())
-            made[irregular].push_back(name);
-        for (const auto& [enumerator, regular] : typesByEnumerator()) {
-            std::string name = enumerator.substr(1);
-            for (const char first : {name[0], static_cast<char>(std::tolower(name[0]))}) {
-                name[0] = first;
-                auto& ofType = made[regular];
-                if (builtInTypeNamed(name) == regular &&
-                    std::find(ofType.begin(), ofType.end(), name) == ofType.end())
-                    ofType.push_back(name);
-            }
-        }
-        return made;
-    }();
-    static const std::vector<std::string> none;
-    return type < MFn::kLast ? names[type] : none;
-}
-
 /// The kind of a plug-in's node by the built-in type it stands on.
 MFn::Type pluginTypeOn(const NodeType& type)
 {
@@ -145,14 +123,24 @@ MFn::Type ownType(const NodeType& type)
     return type.plugin.empty() ? builtInTypeNamed(type.name) : pluginTypeOn(type);
 }
 
-/// Whether that is the given one. Asked by every function set, so that it looks nothing up.
-bool hasOwnType(const NodeType& nodeType, MFn::Type type)
+/// The function sets for nodes of a type. Every function set asks for them, so they are put together once.
+class FunctionSets : public NodeType::Notes
 {
-    if (!nodeType.plugin.empty())
-        return pluginTypeOn(nodeType) == type;
-    const std::vector<std::string>& names = builtInNamesOf(type);
-    return std::find(names.begin(), names.end(), nodeType.name) != names.end();
-}
+public:
+    explicit FunctionSets(const NodeType& nodeType)
+    {
+        for (const MFn::Type any : {MFn::kBase, MFn::kNamedObject, MFn::kDependencyNode})
+            m_types.set(any);
+        for (const NodeType* t = &nodeType; t; t = t->parent)
+            m_types.set(ownType(*t));
+        m_types.reset(MFn::kInvalid); // said of a type that adds none
+    }
+
+    bool have(MFn::Type type) const { return type < MFn::kLast && m_types[type]; }
+
+private:
+    std::bitset<MFn::kLast> m_types;
+};
 
 MFn::Type groupType(NumberKind kind, std::size_t count, const MFn::Type (&byKind)[4], MFn::Type fourDoubles)
 {
@@ -393,14 +381,9 @@ MFn::Type apiTypeOf(const engine::Object* object)
 
 bool hasFn(const NodeType& nodeType, MFn::Type type)
 {
-    if (type == MFn::kBase || type == MFn::kNamedObject || type == MFn::kDependencyNode)
-        return true;
-    if (type == MFn::kInvalid)
-        return false;
-    for (const NodeType* t = &nodeType; t; t = t->parent)
-        if (hasOwnType(*t, type))
-            return true;
-    return false;
+    if (!nodeType.apiNotes)
+        nodeType.apiNotes = std::make_unique<FunctionSets>(nodeType);
+    return static_cast<const FunctionSets&>(*nodeType.apiNotes).have(type);
 }
 
 bool typeHasFn(MFn::Type objectType, MFn::Type type)

@@ -239,7 +239,7 @@ DagNode& transformLike(CommandContext& context, DagNode& original, const std::st
 /// What hangs below a transform as instances below another; with `onlyLeaves` transforms are made anew.
 void addInstances(CommandContext& context, DagNode& original, DagNode& copy, bool onlyLeaves)
 {
-    for (DagNode* child : std::vector<DagNode*>(original.children())) {
+    for (DagNode* child : engine::Node::Links(original.children())) {
         if (onlyLeaves && child->isTransform())
             addInstances(context, *child, transformLike(context, *child, child->name(), &copy), true);
         else

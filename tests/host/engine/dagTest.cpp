@@ -151,6 +151,25 @@ TEST_F(DagTest, APathThatWasMovedFromIsNoneAnyMore)
     EXPECT_FALSE(path.isValid());
 }
 
+TEST_F(DagTest, PathsOfAnyLengthHoldTheirNodes)
+{
+    std::vector<DagNode*> chain = {&makeTransform("n0")};
+    while (chain.size() < 9)
+        chain.push_back(&makeTransform("n" + std::to_string(chain.size()), chain.back()));
+    DagPath shortened = DagPath::firstTo(*chain.back());
+    const DagPath whole = shortened;
+    EXPECT_EQ(whole, shortened);
+    EXPECT_EQ(whole.fullName(), "|n0|n1|n2|n3|n4|n5|n6|n7|n8");
+    EXPECT_TRUE(shortened.pop(7));
+    EXPECT_EQ(shortened.fullName(), "|n0|n1");
+    EXPECT_TRUE(scene.deleteNode(*chain.front()));
+    scene.journal().flush();
+    EXPECT_FALSE(whole.isValid());
+    ASSERT_EQ(whole.length(), 9u);
+    for (std::size_t i = 0; i < 9; ++i)
+        EXPECT_FALSE(whole.nodeAt(i)->isAlive()) << i;
+}
+
 TEST_F(DagTest, TheShapeBelowIsTheFirstThatIsNotIntermediate)
 {
     DagNode& a = makeTransform("a");
