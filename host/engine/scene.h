@@ -177,6 +177,8 @@ public:
     Outcome addNamespace(const std::string& name);
     /// Takes an empty one away; the root is the current one then if that was it.
     Outcome removeNamespace(const std::string& name);
+    /// Takes one away with all nodes and namespaces in it. Nothing goes when some node in it may not.
+    Outcome deleteNamespace(const std::string& name);
     /// Moves nodes and namespaces from one into another. Where a name is taken there, `force` gives the node
     /// another one; else nothing is moved. What is locked or of a reference cannot be moved.
     Outcome moveNamespace(const std::string& from, const std::string& to, bool force = false);

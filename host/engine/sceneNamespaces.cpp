@@ -166,6 +166,28 @@ Outcome Scene::removeNamespace(const std::string& name)
     return {};
 }
 
+Outcome Scene::deleteNamespace(const std::string& name)
+{
+    const std::string space = withoutColon(name);
+    const std::vector<Node*> nodes = nodesIn(space);
+    for (const Node* node : nodes)
+        if (node->isLockedNode || node->isReferenced)
+            return {Reason::readOnly, "'" + node->name() + "' cannot be deleted"};
+    if (const Outcome allowed = checkNamespace(space); !allowed)
+        return allowed;
+    // One may take others with it.
+    for (const Ref<Node>& node : std::vector<Ref<Node>>(nodes.begin(), nodes.end()))
+        if (node->isAlive())
+            if (Outcome deleted = deleteNode(*node); !deleted)
+                return deleted;
+    const std::vector<std::string> all = namespaces();
+    for (auto other = all.rbegin(); other != all.rend(); ++other)
+        if (isAtOrBelow(*other, space))
+            dropNamespace(*other);
+    isModified = true;
+    return {};
+}
+
 Outcome Scene::moveNamespace(const std::string& from, const std::string& to, bool force)
 {
     const std::string source = withoutColon(from);

@@ -7,7 +7,6 @@
 #include "engine/scene.h"
 #include "support/access.h"
 #include "support/apiCall.h"
-#include "support/notImplemented.h"
 
 #include <cctype>
 
@@ -137,16 +136,21 @@ MString MNamespace::parentNamespace(MStatus* ReturnStatus)
     return shown(namespaceOf(current));
 }
 
-MStatus MNamespace::removeNamespace(const MString&, bool)
+MStatus MNamespace::removeNamespace(const MString& name, bool removeContents)
 {
     TVX_API_CALL("MNamespace::removeNamespace");
-    return api::notImplemented("MNamespace::removeNamespace");
+    const std::string space = fromRoot(tvxAccess::text(name));
+    Scene& scene = Scene::current();
+    return api::toStatus(removeContents ? scene.deleteNamespace(space) : scene.removeNamespace(space));
 }
 
-MStatus MNamespace::renameNamespace(const MString&, const MString&, const MString*)
+MStatus MNamespace::renameNamespace(const MString& oldName, const MString& newName, const MString* parent)
 {
     TVX_API_CALL("MNamespace::renameNamespace");
-    return api::notImplemented("MNamespace::renameNamespace");
+    const std::string from = fromRoot(tvxAccess::text(oldName));
+    const std::string above = parent ? fromRoot(tvxAccess::text(*parent)) : namespaceOf(from);
+    const std::string name = tvxAccess::text(newName);
+    return api::toStatus(Scene::current().renameNamespace(from, above.empty() ? name : above + ":" + name));
 }
 
 MObjectArray MNamespace::getNamespaceObjects(const MString& parentNamespace, const bool recurse,
@@ -162,10 +166,11 @@ MObjectArray MNamespace::getNamespaceObjects(const MString& parentNamespace, con
     return found;
 }
 
-MStatus MNamespace::moveNamespace(const MString&, const MString&, const bool)
+MStatus MNamespace::moveNamespace(const MString& src, const MString& dst, const bool force)
 {
     TVX_API_CALL("MNamespace::moveNamespace");
-    return api::notImplemented("MNamespace::moveNamespace");
+    return api::toStatus(Scene::current().moveNamespace(fromRoot(tvxAccess::text(src)),
+                                                        fromRoot(tvxAccess::text(dst)), force));
 }
 
 MString MNamespace::rootNamespace(MStatus* ReturnStatus)
@@ -179,13 +184,14 @@ bool MNamespace::relativeNames(MStatus* ReturnStatus)
 {
     TVX_API_CALL_OR("MNamespace::relativeNames", ReturnStatus, false);
     api::giveSuccess(ReturnStatus);
-    return false;
+    return Scene::current().hasRelativeNames();
 }
 
 MStatus MNamespace::setRelativeNames(bool newState)
 {
     TVX_API_CALL("MNamespace::setRelativeNames");
-    return newState ? api::notImplemented("MNamespace::setRelativeNames") : MStatus();
+    Scene::current().setRelativeNames(newState);
+    return MS::kSuccess;
 }
 
 MString MNamespace::getNamespaceFromName(const MString& fullName, MStatus* ReturnStatus)

@@ -49,7 +49,7 @@ public:
     /// The root.
     static MString rootNamespace(MStatus* ReturnStatus = nullptr);
 
-    /// Whether names are shown relative to the current namespace.
+    /// Whether names are looked up in the current namespace before the root.
     static bool relativeNames(MStatus* ReturnStatus = nullptr);
     static MStatus setRelativeNames(bool newState);
 

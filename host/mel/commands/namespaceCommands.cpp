@@ -87,29 +87,6 @@ Value moveNamespace(CommandContext& context, const ParsedCommand& call)
 
 // Taking away
 
-/// Takes away the namespaces in one and the one itself, which hold no nodes.
-void removeDeep(const CommandContext& context, const std::string& space)
-{
-    Scene& scene = sceneOf(context);
-    const std::vector<std::string> all = scene.namespaces();
-    for (auto other = all.rbegin(); other != all.rend(); ++other)
-        if (*other == space || isIn(*other, space, true))
-            require(context, scene.removeNamespace(*other));
-}
-
-void deleteNodes(const CommandContext& context, const std::string& space)
-{
-    Scene& scene = sceneOf(context);
-    const std::vector<engine::Node*> nodes = scene.nodesIn(space);
-    for (const engine::Node* node : nodes)
-        if (node->isLockedNode || node->isReferenced)
-            context.fail("namespace: '" + node->name() + "' cannot be deleted");
-    const std::vector<engine::Ref<engine::Node>> kept(nodes.begin(), nodes.end());
-    for (const auto& node : kept)
-        if (node->isAlive())
-            require(context, scene.deleteNode(*node));
-}
-
 Value removeNamespace(CommandContext& context, const ParsedCommand& call)
 {
     Scene& scene = sceneOf(context);
@@ -120,8 +97,7 @@ Value removeNamespace(CommandContext& context, const ParsedCommand& call)
     if (mergesUp + mergesToRoot + deletes > 1)
         context.fail("namespace: only one flag may say what becomes of the content");
     if (deletes) {
-        deleteNodes(context, space);
-        removeDeep(context, space);
+        require(context, scene.deleteNamespace(space));
         return {};
     }
     if (mergesUp || mergesToRoot)

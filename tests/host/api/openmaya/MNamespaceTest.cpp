@@ -1,6 +1,7 @@
 // MNamespace: the namespaces of the scene.
 #include "../sceneFixture.h"
 
+#include <maya/MFnDependencyNode.h>
 #include <maya/MNamespace.h>
 #include <maya/MObjectArray.h>
 
@@ -62,10 +63,64 @@ TEST_F(MNamespaceTest, TakesNamesApart)
     EXPECT_EQ(text(MNamespace::makeNamepathAbsolute(":figure")), ":figure");
 }
 
-TEST_F(MNamespaceTest, SaysWhatItCannotDo)
+TEST_F(MNamespaceTest, IsRemovedWhenItIsEmptyOrWithItsContents)
 {
-    EXPECT_EQ(MNamespace::removeNamespace("shot"), MS::kNotImplemented);
-    EXPECT_EQ(MNamespace::setRelativeNames(true), MS::kNotImplemented);
+    MNamespace::addNamespace("shot:crowd");
+    make("transform", "shot:crowd:figure");
+    make("transform", "outside");
+    EXPECT_EQ(MNamespace::removeNamespace("shot"), MS::kFailure);
+    EXPECT_EQ(MNamespace::removeNamespace("nowhere"), MS::kFailure);
+    EXPECT_EQ(MNamespace::removeNamespace(":", true), MS::kFailure);
+    EXPECT_EQ(MNamespace::removeNamespace("shot", true), MS::kSuccess);
+    EXPECT_EQ(texts(MNamespace::getNamespaces(MString(":"), true)), Texts{});
+    EXPECT_EQ(MNamespace::getNamespaceObjects(":shot", true).length(), 0u);
+    EXPECT_FALSE(object("outside").isNull());
+    MNamespace::addNamespace("empty");
+    EXPECT_EQ(MNamespace::removeNamespace("empty"), MS::kSuccess);
+    EXPECT_FALSE(MNamespace::namespaceExists("empty"));
+}
+
+TEST_F(MNamespaceTest, StaysWholeWhenOneOfItsNodesMayNotGo)
+{
+    make("transform", "shot:first");
+    make("transform", "shot:second");
+    const MObject second = object("shot:second");
+    MFnDependencyNode(second).setLocked(true);
+    EXPECT_EQ(MNamespace::removeNamespace("shot", true), MS::kFailure);
+    EXPECT_EQ(MNamespace::getNamespaceObjects(":shot").length(), 2u);
+}
+
+TEST_F(MNamespaceTest, IsRenamedInItsParentOrIntoAnother)
+{
+    MNamespace::addNamespace("shot:crowd");
+    make("transform", "shot:crowd:figure");
+    EXPECT_EQ(MNamespace::renameNamespace("shot:crowd", "people"), MS::kSuccess);
+    EXPECT_FALSE(object("shot:people:figure").isNull());
+    const MString root(":");
+    EXPECT_EQ(MNamespace::renameNamespace("shot:people", "people", &root), MS::kSuccess);
+    EXPECT_FALSE(object("people:figure").isNull());
+    EXPECT_EQ(texts(MNamespace::getNamespaces(root, true)), (Texts{"people", "shot"}));
+    EXPECT_EQ(MNamespace::renameNamespace("people", "shot"), MS::kFailure) << "taken";
+}
+
+TEST_F(MNamespaceTest, GivesItsContentsToAnother)
+{
+    make("transform", "a:figure");
+    make("transform", "b:figure");
+    EXPECT_EQ(MNamespace::moveNamespace("a", "b"), MS::kFailure) << "there is a figure already";
+    EXPECT_EQ(MNamespace::moveNamespace("a", "b", true), MS::kSuccess);
+    EXPECT_EQ(MNamespace::getNamespaceObjects(":a").length(), 0u);
+    EXPECT_EQ(MNamespace::getNamespaceObjects(":b").length(), 2u);
+}
+
+TEST_F(MNamespaceTest, NamesAreLookedUpInTheCurrentOneFirstWhenTheyAreRelative)
+{
+    EXPECT_FALSE(MNamespace::relativeNames());
+    EXPECT_EQ(MNamespace::setRelativeNames(true), MS::kSuccess);
+    EXPECT_TRUE(MNamespace::relativeNames());
+    make("transform", "shot:figure");
+    MNamespace::setCurrentNamespace("shot");
+    EXPECT_TRUE(object("figure") == object(":shot:figure"));
     EXPECT_EQ(MNamespace::setRelativeNames(false), MS::kSuccess);
     EXPECT_FALSE(MNamespace::relativeNames());
 }
