@@ -4,12 +4,12 @@
 #include <maya/MFnPlugin.h>
 
 #include "plugins/pluginLoader.h"
-#include "support/pluginSyntax.h"
 #include "support/arguments.h"
 #include "support/builtInAttributes.h"
 #include "support/commandState.h"
 #include "support/functionSet.h"
 #include "support/notImplemented.h"
+#include "support/pluginSyntax.h"
 #include "support/pxBehaviour.h"
 #include "support/registeringType.h"
 
@@ -292,7 +292,9 @@ MStatus MFnPlugin::registerCommand(const MString& commandName, MCreatorFunction 
                               return factory.run(arguments, result);
                           }};
     if (createSyntaxFunction)
-        command.syntax = [createSyntaxFunction] { return tvxhost::api::describeSyntax(createSyntaxFunction()); };
+        command.syntax = [createSyntaxFunction] {
+            return tvxhost::api::describeSyntax(createSyntaxFunction());
+        };
     if (factory.name.empty() || !sessionScene().pluginCommands.emplace(factory.name, command).second)
         return failure(StatusText::unexpectedFailure);
     plugin->commands.push_back(factory.name);

@@ -91,8 +91,8 @@ public:
     void declareGlobals(Interpreter& interpreter) const;
 
 private:
-    engine::Outcome write(const std::filesystem::path& file, engine::Happening check,
-                          engine::Happening begun, engine::Happening done);
+    engine::Outcome write(const std::filesystem::path& file, engine::Happening check, engine::Happening begun,
+                          engine::Happening done);
 
     scene::ReadOptions readOptions(Interpreter& interpreter);
 

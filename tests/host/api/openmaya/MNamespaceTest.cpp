@@ -84,7 +84,7 @@ TEST_F(MNamespaceTest, StaysWholeWhenOneOfItsNodesMayNotGo)
 {
     make("transform", "shot:first");
     make("transform", "shot:second");
-    const MObject second = object("shot:second");
+    MObject second = object("shot:second");
     MFnDependencyNode(second).setLocked(true);
     EXPECT_EQ(MNamespace::removeNamespace("shot", true), MS::kFailure);
     EXPECT_EQ(MNamespace::getNamespaceObjects(":shot").length(), 2u);
