@@ -84,8 +84,7 @@ TEST_F(MNamespaceTest, StaysWholeWhenOneOfItsNodesMayNotGo)
 {
     make("transform", "shot:first");
     make("transform", "shot:second");
-    MObject second = object("shot:second");
-    MFnDependencyNode(second).setLocked(true);
+    MFnDependencyNode(object("shot:second"), nullptr).setLocked(true);
     EXPECT_EQ(MNamespace::removeNamespace("shot", true), MS::kFailure);
     EXPECT_EQ(MNamespace::getNamespaceObjects(":shot").length(), 2u);
 }
