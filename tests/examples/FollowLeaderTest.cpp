@@ -71,7 +71,7 @@ TEST_F(FollowLeader, IsSavedAsNodesOfMayaAndReadAgain)
     const std::string scene = sceneMadeBy("followLeader.mel", "line.ma");
     EXPECT_EQ(nodeText(contentsOf(scene), "second_translateX"),
               "createNode plusMinusAverage -n \"second_translateX\";\n"
-              "\tsetAttr -s 2 \".i1[1]\" 4;\n");
+              "\tsetAttr -s 2 \".i1[1]\"  4;\n");
     // Whoever reads the scene needs no plug-in.
     EXPECT_THAT(contentsOf(scene), testing::Not(HasSubstr("followLeader")));
     expectReadingAndSavingChangesNothing(scene);

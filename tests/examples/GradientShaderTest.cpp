@@ -43,7 +43,7 @@ TEST_F(GradientShader, IsSavedWithItsRampsAndReadAgain)
               "\tsetAttr \".cr[4].crv\" -type \"float3\" 0.25 0.5 1 ;\n"
               "\tsetAttr -s 3 \".ar\";\n"
               "\tsetAttr \".ar[0:1]\"  0 1 1 0.5 0.5 2;\n"
-              "\tsetAttr \".ar[4]\"  1 0 1;\n");
+              "\tsetAttr \".ar[4]\" 1 0 1;\n");
     expectReadingAndSavingChangesNothing(scene);
 
     const ProgramResult read = run({scene, "-e", "getAttr sky.color"});

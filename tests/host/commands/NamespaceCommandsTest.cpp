@@ -103,7 +103,7 @@ TEST_F(NamespaceCommandsTest, whatIsInANamespaceThatGoesIsMergedOrDeleted)
 TEST_F(NamespaceCommandsTest, whatALockedNodeIsInStays)
 {
     run("lockNode \"crew:red:two\"");
-    EXPECT_EQ(failure("namespace -rm crew -dnc"), "namespace: 'crew:red:two' cannot be deleted");
+    EXPECT_EQ(failure("namespace -rm crew -dnc"), "'crew:red:two' cannot be deleted");
     EXPECT_EQ(failure("namespace -rm crew -mnr"), "'crew:red:two' cannot be renamed");
     EXPECT_THAT(strings("namespaceInfo -lod -r crew"), ElementsAre("crew:one", "crew:red:two"));
     EXPECT_EQ(failure("namespace -rm crew -mnr -mnp"),
