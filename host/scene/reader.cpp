@@ -32,6 +32,12 @@ void takeTimeOver(engine::Scene& scene)
         scene.setTime(seconds.value.asReal());
 }
 
+void tellBeginning(const ReadOptions& options)
+{
+    if (options.begins)
+        options.begins();
+}
+
 ReadResult readInto(engine::Scene& scene, std::string_view text, const std::string& name,
                     const ReadOptions& options)
 {
@@ -52,6 +58,7 @@ ReadResult openSceneText(engine::Scene& scene, std::string_view text, const std:
 {
     if (const SceneTextError error = checkSceneText(text, name); !error.outcome)
         return refused(error.outcome, name, error.line);
+    tellBeginning(options);
     const engine::Journal::Into nothing(scene.journal(), nullptr);
     scene.newScene();
     ReadResult result = readInto(scene, text, name, options);
@@ -76,6 +83,7 @@ ReadResult importScene(engine::Scene& scene, const std::filesystem::path& file, 
         return refused(text.outcome, file.string());
     if (const SceneTextError error = checkSceneText(text.value, file.string()); !error.outcome)
         return refused(error.outcome, file.string(), error.line);
+    tellBeginning(options);
     scene.journal().keep(scene.keptConnections);
     scene.journal().keep(scene.fileInfo);
     scene.journal().keep(scene.requirements);

@@ -30,6 +30,8 @@ struct ReadOptions
     std::vector<std::filesystem::path> projectFolders;
     /// Leaves references unloaded, whatever the files say.
     bool loadsReferences = true;
+    /// Called once the file has turned out to be a scene, right before the present one changes.
+    std::function<void()> begins;
     /// Told how far the reading is, in bytes, now and then and at the end.
     std::function<void(std::size_t done, std::size_t total)> progress;
 };

@@ -47,6 +47,14 @@ TEST_F(ScriptNodes, RunWhenTheirSceneOpensAndCloses)
               "s opens\ns closes\nnow\n\n");
 }
 
+TEST_F(ScriptNodes, StayQuietWhenAnotherSceneCannotBeOpened)
+{
+    // The 1 is what catchQuiet gives: opening failed.
+    EXPECT_EQ(printed({"--run-script-nodes", scene("s", 1), "-e",
+                       "catchQuiet(`file -f -o \"missing.ma\"`); print \"now\\n\""}),
+              "s opens\nnow\n1\ns closes\n");
+}
+
 TEST_F(ScriptNodes, OfOtherTypesDoNotRun)
 {
     for (const int type : {0, 3, 4, 5, 6, 7})

@@ -132,9 +132,12 @@ scene::ReadResult SceneSession::open(Interpreter& interpreter, const std::filesy
     result.outcome = mayDo(m_scene, Happening::openChecked, file);
     if (!result.outcome)
         return result;
-    tell(m_scene, Happening::openBegun, file);
-    tell(m_scene, Happening::readBegun, file);
-    result = scene::openScene(m_scene, file, readOptions(interpreter));
+    scene::ReadOptions options = readOptions(interpreter);
+    options.begins = [&] {
+        tell(m_scene, Happening::openBegun, file);
+        tell(m_scene, Happening::readBegun, file);
+    };
+    result = scene::openScene(m_scene, file, options);
     lastSummary = result.summary;
     if (!result.outcome)
         return result;
@@ -149,9 +152,12 @@ scene::ReadResult SceneSession::import(Interpreter& interpreter, const std::file
     result.outcome = mayDo(m_scene, Happening::importChecked, file);
     if (!result.outcome)
         return result;
-    tell(m_scene, Happening::importBegun, file);
-    tell(m_scene, Happening::readBegun, file);
-    result = scene::importScene(m_scene, file, readOptions(interpreter));
+    scene::ReadOptions options = readOptions(interpreter);
+    options.begins = [&] {
+        tell(m_scene, Happening::importBegun, file);
+        tell(m_scene, Happening::readBegun, file);
+    };
+    result = scene::importScene(m_scene, file, options);
     lastSummary = result.summary;
     if (!result.outcome)
         return result;

@@ -35,6 +35,16 @@ protected:
     std::vector<std::string> heard;
 };
 
+TEST_F(FileEventsTest, OfAFileThatIsNoSceneNothingBegins)
+{
+    hear(Happening::openBegun, "open");
+    hear(Happening::importBegun, "import");
+    hear(Happening::readBegun, "read");
+    for (const char* const command : {"file -f -o", "file -i"})
+        EXPECT_NE(failure(std::string(command) + " \"" + (folder / "missing.ma").string() + "\""), "");
+    EXPECT_THAT(takeHeard(), ElementsAre());
+}
+
 TEST_F(FileEventsTest, EachStepIsToldInOrder)
 {
     hear(Happening::newBegun, "new");
