@@ -297,6 +297,15 @@ void Cell::disconnectFromSource()
     source.dropEmptyLinks();
 }
 
+void CellStore::clear()
+{
+    m_roots.clear();
+    derivedMesh = {};
+    derivedMeshSource = {};
+    ownMesh = {};
+    ++edits;
+}
+
 Cell* CellStore::find(const Attribute& topLevel) const
 {
     const auto place =

@@ -162,6 +162,8 @@ public:
     explicit CellStore(Node& node) : m_node(node) {}
 
     Node& node() const { return m_node; }
+    /// Forgets everything. Cells of other nodes are not told.
+    void clear();
 
     Cell* find(const Attribute& topLevel) const;
     Cell& make(Attribute& topLevel);

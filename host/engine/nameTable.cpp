@@ -79,9 +79,8 @@ void NameTable::remove(Node& node)
 {
     const auto found = m_buckets.find(node.name());
     Bucket& bucket = found->second;
-    bucket.nodes[node.m_nameSlot] = bucket.nodes.back();
-    bucket.nodes[node.m_nameSlot]->m_nameSlot = node.m_nameSlot;
-    bucket.nodes.pop_back();
+    bucket.nodes.back()->m_nameSlot = node.m_nameSlot;
+    bucket.nodes.eraseUnordered(node.m_nameSlot);
     bucket.dependencyNodes -= !node.asDag();
     if (!bucket.nodes.empty())
         return;
@@ -91,9 +90,9 @@ void NameTable::remove(Node& node)
         m_numbers[split.stem].erase(split.number);
 }
 
-const std::vector<Node*>& NameTable::nodesNamed(const std::string& name) const
+const NameTable::Holders& NameTable::nodesNamed(const std::string& name) const
 {
-    static const std::vector<Node*> none;
+    static const Holders none{};
     const auto found = m_buckets.find(name);
     return found == m_buckets.end() ? none : found->second.nodes;
 }

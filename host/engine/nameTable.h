@@ -1,12 +1,13 @@
 // NameTable: who has which name, among all nodes and among siblings, and which numbers are free.
 #pragma once
 
+#include "pointerList.h"
+
 #include <cstddef>
 #include <map>
 #include <string>
 #include <string_view>
 #include <unordered_map>
-#include <vector>
 
 namespace tvxhost::engine {
 
@@ -38,10 +39,13 @@ NumberedName splitNumber(const std::string& name);
 class NameTable
 {
 public:
+    /// Most names belong to one node.
+    using Holders = PointerList<Node, 1>;
+
     void add(Node& node);
     void remove(Node& node);
     /// All nodes of a name, in no order.
-    const std::vector<Node*>& nodesNamed(const std::string& name) const;
+    const Holders& nodesNamed(const std::string& name) const;
     bool isTaken(const std::string& name) const { return !nodesNamed(name).empty(); }
     bool isTakenByDependencyNode(const std::string& name) const;
 
@@ -60,7 +64,7 @@ public:
 private:
     struct Bucket
     {
-        std::vector<Node*> nodes;
+        Holders nodes;
         std::size_t dependencyNodes = 0;
     };
     struct Sibling

@@ -1,6 +1,7 @@
 // Node and DagNode: the things of a scene.
 #pragma once
 
+#include "nodeMemory.h"
 #include "nodeType.h"
 #include "object.h"
 #include "plug.h"
@@ -73,6 +74,9 @@ private:
 public:
     Node(Scene& scene, NodeType& type);
     ~Node() override;
+
+    static void* operator new(std::size_t size) { return takeNodeMemory(size); }
+    static void operator delete(void* memory, std::size_t size) { giveBackNodeMemory(memory, size); }
 
     Scene& scene() const { return *m_scene; }
     NodeType& type() const { return *m_type; }

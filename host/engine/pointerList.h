@@ -64,6 +64,12 @@ public:
         push_back(pointer);
         std::rotate(data() + place, data() + m_size - 1, data() + m_size);
     }
+    /// Takes one away and puts the last in its place.
+    void eraseUnordered(std::size_t i)
+    {
+        data()[i] = back();
+        --m_size;
+    }
     void erase(const_iterator at)
     {
         std::copy(at + 1, end(), data() + (at - begin()));

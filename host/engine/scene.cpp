@@ -87,7 +87,8 @@ Scene::~Scene()
     // Those who listened may be gone before the scene is.
     m_observers = std::make_unique<Observers>();
     emptyScene();
-    retireNode(*m_world);
+    takeOut(*m_world);
+    dispose(*m_world);
     if (g_current == this)
         g_current = nullptr;
 }
@@ -152,6 +153,7 @@ public:
             return;
         m_node->scene().observers().tell({Happening::nodeRemoved, m_node.get()});
         m_next = m_node->scene().leave(*m_node);
+        m_node->scene().wait(*m_node);
     }
 
 private:
@@ -162,24 +164,37 @@ private:
 void Scene::retireNode(Node& node)
 {
     const Ref<Node> next = leave(node);
+    if (!m_journal.isRecording() && node.m_departures == 0) {
+        dispose(node);
+        return;
+    }
+    wait(node);
     if (m_journal.isRecording())
         m_journal.record(std::make_unique<Departure>(node, next));
-    else if (node.m_departures == 0)
-        dispose(node);
 }
 
 /// Takes a node out with all that it holds; gives the one that follows it.
 Ref<Node> Scene::leave(Node& node)
 {
-    if (&node != m_world)
-        m_names->remove(node);
+    m_names->remove(node);
+    return takeOut(node);
+}
+
+/// The same for a node whose name has been forgotten.
+Ref<Node> Scene::takeOut(Node& node)
+{
     const auto next = m_nodes.erase(node.m_place);
     --node.type().liveNodes;
-    ++node.type().waitingNodes;
     node.setAlive(false);
+    return next == m_nodes.end() ? Ref<Node>() : Ref<Node>(*next);
+}
+
+/// Keeps a node that left, so that it can come back.
+void Scene::wait(Node& node)
+{
+    ++node.type().waitingNodes;
     node.m_isWaiting = true;
     m_waiting.insert(&node);
-    return next == m_nodes.end() ? Ref<Node>() : Ref<Node>(*next);
 }
 
 void Scene::comeBack(Node& node, const Ref<Node>& next)
@@ -206,13 +221,15 @@ void Scene::comeBack(Node& node, const Ref<Node>& next)
 /// Ends a node that cannot come back any more.
 void Scene::dispose(Node& node)
 {
-    m_waiting.erase(&node);
-    node.m_isWaiting = false;
-    --node.type().waitingNodes;
+    if (node.m_isWaiting) {
+        m_waiting.erase(&node);
+        node.m_isWaiting = false;
+        --node.type().waitingNodes;
+    }
     m_observers->tell({Happening::nodeDestroyed, &node});
     m_observers->forget(node);
     node.m_behaviour.reset();
-    node.m_cells = std::make_unique<CellStore>(node);
+    node.m_cells->clear();
     node.release();
 }
 
@@ -426,7 +443,7 @@ bool Scene::isNameFree(const std::string& name, const Node* except, const DagNod
         const DagNode* sibling = m_names->childNamed(*parent, name);
         return (!sibling || sibling == except) && !m_names->isTakenByDependencyNode(name);
     }
-    const std::vector<Node*>& holders = m_names->nodesNamed(name);
+    const NameTable::Holders& holders = m_names->nodesNamed(name);
     return holders.empty() || (holders.size() == 1 && holders.front() == except);
 }
 
@@ -558,13 +575,13 @@ void Scene::emptyScene()
             dag->m_parents.clear();
             dag->m_children.clear();
         }
-        node->m_cells = std::make_unique<CellStore>(*node);
-        if (node != m_world)
-            m_names->add(*node);
+        node->m_cells->clear();
     }
     for (Node* node : all)
-        if (node != m_world)
-            retireNode(*node);
+        if (node != m_world) {
+            takeOut(*node);
+            dispose(*node);
+        }
     while (!m_waiting.empty())
         dispose(**m_waiting.begin());
 }

@@ -265,6 +265,8 @@ private:
     void retireNode(Node& node);
     class Departure;
     Ref<Node> leave(Node& node);
+    Ref<Node> takeOut(Node& node);
+    void wait(Node& node);
     void comeBack(Node& node, const Ref<Node>& next);
     void dispose(Node& node);
     void becomeTransform(DagNode& placeholder);
@@ -284,7 +286,8 @@ private:
     void moveContent(const std::string& from, const std::string& to);
     void emptyScene();
 
-    std::vector<Node*> candidates(const std::string& name) const;
+    using Found = PointerList<Node, 1>;
+    Found candidates(const std::string& name) const;
     std::vector<DagNode*> candidatesOfPath(const std::string& path) const;
 
     /// Where a child stands among those of its parent, and the parent among those of the child.

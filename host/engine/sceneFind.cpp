@@ -57,13 +57,13 @@ bool bySerial(const Node* a, const Node* b)
 
 } // namespace
 
-std::vector<Node*> Scene::candidates(const std::string& name) const
+Scene::Found Scene::candidates(const std::string& name) const
 {
     const auto named = [&](const std::string& full) { return m_names->nodesNamed(full); };
     if (!name.empty() && name[0] == ':')
         return named(name.substr(1));
     if (m_hasRelativeNames)
-        if (std::vector<Node*> found = named(absoluteName(name)); !found.empty())
+        if (Found found = named(absoluteName(name)); !found.empty())
             return found;
     return named(name);
 }
@@ -98,7 +98,7 @@ std::vector<DagNode*> Scene::candidatesOfPath(const std::string& path) const
 
 Expected<Node*> Scene::findNode(const std::string& name) const
 {
-    std::vector<Node*> found;
+    Found found;
     if (name.find('|') == std::string::npos)
         found = candidates(name);
     else if (name.find_first_not_of('|') != std::string::npos)
@@ -116,9 +116,9 @@ namespace {
 /// The path that a name with bars means: its last nodes are those that were named.
 DagPath namedPath(DagNode& node, const std::string& name)
 {
+    if (name.find('|') == std::string::npos)
+        return DagPath::firstTo(node);
     const std::vector<DagPath> all = DagPath::allTo(node);
-    if (all.size() == 1 || name.find('|') == std::string::npos)
-        return all.front();
     const std::string ending = name[0] == '|' ? name : "|" + name;
     for (const DagPath& path : all) {
         const std::string full = path.fullName();
@@ -195,8 +195,9 @@ std::vector<SelectionItem> Scene::findItems(const std::string& pattern) const
     const Glob glob(isPath ? nodePattern : withoutColon(nodePattern));
     if (!glob.hasWildcards()) {
         const std::vector<DagNode*> dags = isPath ? candidatesOfPath(nodePattern) : std::vector<DagNode*>();
-        std::vector<Node*> nodes =
-            isPath ? std::vector<Node*>(dags.begin(), dags.end()) : candidates(nodePattern);
+        const Found named = isPath ? Found() : candidates(nodePattern);
+        std::vector<Node*> nodes(dags.begin(), dags.end());
+        nodes.insert(nodes.end(), named.begin(), named.end());
         std::sort(nodes.begin(), nodes.end(), bySerial);
         for (Node* node : nodes)
             found.push_back(itemOf(*node));

@@ -64,7 +64,7 @@ void SceneReader::createNode(const SceneStatement& statement)
     }
     DagNode* under = request.parent.empty() ? nullptr : parentNamed(request.parent, statement.line);
     Node* node = existingNode(request.type, request.name, request.isShared);
-    if (node && m_reference && m_created.count(node) == 0) {
+    if (node && m_reference && !m_created.contains(*node)) {
         // A node that every scene has: the scene's own stays as it is.
         ++m_summary.nodes[request.type];
         return;
@@ -87,7 +87,7 @@ void SceneReader::createNode(const SceneStatement& statement)
         forgetKeyableState(*node);
     }
     ++m_summary.nodes[request.type];
-    m_created.insert(node);
+    m_created.insert(*node);
     m_section.node = node;
     m_section.isUnknown = !node->unknownType.empty();
     if (m_section.isUnknown) {
@@ -106,7 +106,7 @@ Node* SceneReader::existingNode(const std::string& type, const std::string& name
     if (!found || typeNameOf(*found.value) != type)
         return nullptr;
     Node& node = *found.value;
-    if (m_created.count(&node) != 0)
+    if (m_created.contains(node))
         return isShared ? &node : nullptr;
     if (!node.isDefaultNode && !node.isShared)
         return nullptr;
@@ -141,7 +141,6 @@ DagNode* SceneReader::turnIntoTransform(Node& node)
     const std::string uuid = node.uuid();
     const bool isShared = node.isShared;
     std::vector<std::string> lines = std::move(node.keptLines);
-    m_created.erase(&node);
     if (!m_scene.deleteNode(node))
         return nullptr;
     const Expected<Node*> made = m_scene.createNode("unknownTransform", name, above);
@@ -151,7 +150,7 @@ DagNode* SceneReader::turnIntoTransform(Node& node)
     made.value->setUuid(uuid);
     made.value->isShared = isShared;
     made.value->keptLines = std::move(lines);
-    m_created.insert(made.value);
+    m_created.insert(*made.value);
     return made.value->asDag();
 }
 

@@ -53,7 +53,8 @@ SceneReader::Handler SceneReader::handlerOf(std::string_view name)
 SceneReader::SceneReader(engine::Scene& scene, const ReadOptions& options, std::string file,
                          engine::Reference* reference, ReferenceStates* states)
     : m_scene(scene), m_options(options), m_file(std::move(file)), m_reference(reference),
-      m_states(states ? *states : m_ownStates), m_addAttr(addAttrSpec())
+      m_states(states ? *states : m_ownStates), m_addAttr(addAttrSpec()),
+      m_created(scene.nodes().back()->serial())
 {
     m_summary.file = m_file;
 }

@@ -1,6 +1,7 @@
 // SceneReader: reads the statements of one scene file into a scene.
 #pragma once
 
+#include "nodeSet.h"
 #include "pendingCompounds.h"
 #include "reader.h"
 #include "references.h"
@@ -108,8 +109,8 @@ private:
     std::size_t m_textSize = 0;
     bool m_isCutOff = false; ///< the end of the file came within a statement, and that has been told
     mel::CommandSpec m_addAttr;
-    std::unordered_set<const engine::Node*> m_created; ///< by this file
-    std::unordered_set<std::string> m_toldTypes;       ///< unknown types that were warned of
+    NodeSet m_created;                           ///< by this file, or described in it
+    std::unordered_set<std::string> m_toldTypes; ///< unknown types that were warned of
     std::unordered_set<std::string> m_triedPlugins;
 };
 

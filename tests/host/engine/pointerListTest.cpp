@@ -92,7 +92,7 @@ TEST(PointerList, DoesAsAVectorDoesUnderRandomEdits)
     for (int step = 0; step < 20'000; ++step) {
         int* const pointer = &g_numbers[random() % g_numbers.size()];
         const std::size_t place = vector.empty() ? 0 : random() % vector.size();
-        switch (random() % 4) {
+        switch (random() % 5) {
         case 0:
             list.push_back(pointer);
             vector.push_back(pointer);
@@ -105,6 +105,13 @@ TEST(PointerList, DoesAsAVectorDoesUnderRandomEdits)
             if (!vector.empty()) {
                 list.erase(list.begin() + place);
                 vector.erase(vector.begin() + static_cast<std::ptrdiff_t>(place));
+            }
+            break;
+        case 3:
+            if (!vector.empty()) {
+                list.eraseUnordered(place);
+                vector[place] = vector.back();
+                vector.pop_back();
             }
             break;
         default: {
