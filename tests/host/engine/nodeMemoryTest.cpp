@@ -26,10 +26,10 @@ TEST(NodeMemory, BeginsOnALineOfTheCacheAndIsNobodyElses)
         std::memset(memory, i % 256, kSize);
         EXPECT_EQ(reinterpret_cast<std::uintptr_t>(memory) % kLine, 0u);
         const auto next = taken.insert(memory).first;
-        if (next != taken.begin())
-            ASSERT_GE(memory - *std::prev(next), static_cast<std::ptrdiff_t>(kSize));
-        if (std::next(next) != taken.end())
-            ASSERT_GE(*std::next(next) - memory, static_cast<std::ptrdiff_t>(kSize));
+        const auto after = std::next(next);
+        const auto room = static_cast<std::ptrdiff_t>(kSize);
+        ASSERT_TRUE(next == taken.begin() || memory - *std::prev(next) >= room);
+        ASSERT_TRUE(after == taken.end() || *after - memory >= room);
     }
     for (char* const memory : taken)
         giveBackNodeMemory(memory, kSize);
