@@ -19,16 +19,10 @@ std::size_t lengthOf(const MString& name)
 
 void MeshPathWalk::visit(MDagPath path)
 {
-    if (!appendIfMesh(path) && path.hasFn(MFn::kTransform))
-        visitChildren(path, MFnDagNode(path.node(), nullptr), lengthOf(path.fullPathName()));
-}
-
-bool MeshPathWalk::appendIfMesh(const MDagPath& path)
-{
-    const bool isMesh = path.hasFn(MFn::kMesh);
-    if (isMesh)
+    if (path.hasFn(MFn::kMesh))
         m_meshes.push_back(path);
-    return isMesh;
+    else if (path.hasFn(MFn::kTransform))
+        visitChildren(path, MFnDagNode(path.node(), nullptr), lengthOf(path.fullPathName()));
 }
 
 void MeshPathWalk::visitChildren(MDagPath& path, const MFnDagNode& end, std::size_t nameLength)
@@ -40,16 +34,34 @@ void MeshPathWalk::visitChildren(MDagPath& path, const MFnDagNode& end, std::siz
 
 void MeshPathWalk::visitChild(MDagPath& path, const MObject& child, std::size_t nameLength)
 {
-    const MFnDagNode node(child, nullptr);
-    // Of the paths to a child with one parent only the one from here has all of this path's name in common.
-    if (node.parentCount() == 1 && nameLength < InstancePaths::kComparedLength && path.push(child)) {
-        if (!appendIfMesh(path) && child.hasFn(MFn::kTransform))
-            visitChildren(path, node, nameLength + 1 + lengthOf(node.name()));
+    if (nameLength < InstancePaths::kComparedLength && path.push(child)) {
+        const bool isDone = visitEnd(path, child, nameLength);
         path.pop();
-        return;
+        if (isDone)
+            return;
     }
     if (const MDagPath* best = pathsTo(child).bestFor(path.fullPathName()))
         visit(*best);
+}
+
+bool MeshPathWalk::visitEnd(MDagPath& path, const MObject& child, std::size_t nameLength)
+{
+    if (path.hasFn(MFn::kMesh)) {
+        // Most meshes are in one place, which the path tells without a function set for each.
+        MStatus status;
+        const bool isElsewhere = path.isInstanced(&status) || !status;
+        if (isElsewhere && MFnDagNode(child, nullptr).parentCount() != 1)
+            return false;
+        m_meshes.push_back(path);
+        return true;
+    }
+    if (!child.hasFn(MFn::kTransform))
+        return true;
+    const MFnDagNode node(child, nullptr);
+    if (node.parentCount() != 1)
+        return false;
+    visitChildren(path, node, nameLength + 1 + lengthOf(node.name()));
+    return true;
 }
 
 const InstancePaths& MeshPathWalk::pathsTo(const MObject& child)

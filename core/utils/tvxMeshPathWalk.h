@@ -25,9 +25,12 @@ public:
     void visit(MDagPath path);
 
 private:
-    bool appendIfMesh(const MDagPath& path);
     void visitChildren(MDagPath& path, const MFnDagNode& end, std::size_t nameLength);
     void visitChild(MDagPath& path, const MObject& child, std::size_t nameLength);
+    /// Visits the child to which a path has just been lengthened, unless other parents make it a matter of
+    /// scores: of the paths to a child with one parent only this one has all of the shorter path's name in
+    /// common. Returns whether it did. `nameLength`: that of the shorter path's name.
+    bool visitEnd(MDagPath& path, const MObject& child, std::size_t nameLength);
     const InstancePaths& pathsTo(const MObject& child);
 
     struct Hash

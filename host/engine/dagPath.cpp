@@ -75,10 +75,13 @@ std::vector<DagPath> DagPath::allTo(DagNode& node)
 
 std::size_t DagPath::countTo(const DagNode& node)
 {
-    if (node.isWorld() || node.parents().empty())
+    const DagNode* fork = &node;
+    while (fork->parents().size() == 1)
+        fork = fork->parents().front();
+    if (fork->parents().empty())
         return 1;
     std::size_t count = 0;
-    for (const DagNode* parent : node.parents())
+    for (const DagNode* parent : fork->parents())
         count += countTo(*parent);
     return count;
 }

@@ -8,6 +8,7 @@
 #include "support/apiTypes.h"
 #include "support/displayStatus.h"
 #include "support/handles.h"
+#include "support/instancing.h"
 #include "support/matrix4.h"
 
 #include <algorithm>
@@ -295,7 +296,7 @@ bool MDagPath::isInstanced(MStatus* ReturnStatus) const
 {
     TVX_API_CALL_OR("MDagPath::isInstanced", ReturnStatus, false);
     const auto* place = valid(path, ReturnStatus);
-    return place && engine::DagPath::countTo(*place->node()) > 1;
+    return place && api::hasSeveralPaths(*place->node());
 }
 
 unsigned int MDagPath::instanceNumber(MStatus* ReturnStatus) const

@@ -11,6 +11,7 @@
 #include <maya/MTypeId.h>
 
 #include "support/dagSet.h"
+#include "support/instancing.h"
 #include "support/matrix4.h"
 #include "support/nodeSet.h"
 #include "support/notImplemented.h"
@@ -371,7 +372,7 @@ MStatus MFnDagNode::setInstanceable(const bool)
 bool MFnDagNode::isInstanced(bool indirect, MStatus* ReturnStatus) const
 {
     return ask(*this, "MFnDagNode::isInstanced", ReturnStatus, [&](const DagNode& node) {
-        return (indirect ? DagPath::countTo(node) : node.parents().size()) > 1;
+        return indirect ? hasSeveralPaths(node) : node.parents().size() > 1;
     });
 }
 

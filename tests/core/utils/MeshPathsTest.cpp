@@ -264,6 +264,18 @@ TEST_F(MeshPaths, AWalkWithoutItsShortWayFollowsTheRule)
     EXPECT_THAT(collect(group), IsEmpty());
 }
 
+TEST_F(MeshPaths, APathThatCannotTellWhetherItIsInstancedIsTakenForOne)
+{
+    make("transform", "outer");
+    make("transform", "inner", "outer");
+    makeMesh("a", "inner");
+    instance("a", "outer");
+    const Names expected = literally(path("outer"));
+    EXPECT_THAT(expected, ElementsAre("|outer|inner|a", "|outer|inner|a"));
+    faults::failCall("MDagPath::isInstanced", 0, failure());
+    EXPECT_EQ(collect("outer"), expected);
+}
+
 TEST_F(MeshPaths, OfTheSelectionAreInItsOrder)
 {
     make("transform", "group");

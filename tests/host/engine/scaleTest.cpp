@@ -33,6 +33,17 @@ TEST_F(ScaleTest, ChildrenOfOneNameUnderManyParents)
         ASSERT_EQ(scene.shortestName(last), "figure99999|body");
 }
 
+TEST_F(ScaleTest, PathsAreCountedHoweverDeepTheyAre)
+{
+    DagNode& top = makeTransform("top");
+    DagNode* end = &top;
+    for (int i = 0; i < kMany; ++i)
+        end = &makeTransform("level", end);
+    EXPECT_EQ(DagPath::countTo(*end), 1u);
+    ASSERT_TRUE(scene.addParent(top, makeTransform("other")));
+    EXPECT_EQ(DagPath::countTo(*end), 2u);
+}
+
 TEST_F(ScaleTest, ManyMembersOfOneSetComeAndGo)
 {
     make("objectSet", "crowd");

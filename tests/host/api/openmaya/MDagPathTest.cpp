@@ -134,6 +134,8 @@ TEST_F(MDagPathTest, ThereIsOnePathPerInstance)
     EXPECT_EQ(all[1].instanceNumber(), 1u);
     EXPECT_TRUE(all[0].isInstanced());
     EXPECT_FALSE(path("|a").isInstanced());
+    make("transform", "below", "leaf");
+    EXPECT_TRUE(path("|b|leaf|below").isInstanced());
     EXPECT_FALSE(all[0] == all[1]);
     MDagPath first;
     EXPECT_EQ(MDagPath::getAPathTo(object("leaf"), first), MS::kSuccess);
