@@ -10,10 +10,9 @@
 namespace tarvox::crowd {
 
 BorderWalk::BorderWalk(MItMeshEdge& edge, std::vector<core::Vector2<float>>& outline)
-    : m_edge(edge), m_outline(outline), m_start(edge.index()),
-      m_visited(static_cast<std::size_t>(std::max(edge.count(), 0)))
+    : m_edge(edge), m_outline(outline), m_visited(static_cast<std::size_t>(std::max(edge.count(), 0)))
 {
-    markVisited(m_start);
+    markVisited(edge.index());
 }
 
 MStatus BorderWalk::run()
@@ -54,7 +53,7 @@ MStatus BorderWalk::step(bool& goesOn)
             continue;
         int previous = 0;
         status = m_edge.setIndex(m_connected[i], previous);
-        if (!status || m_edge.index() == m_start)
+        if (!status)
             return status;
         if (m_edge.onBoundary()) {
             markVisited(current);

@@ -31,7 +31,6 @@ private:
 
     MItMeshEdge& m_edge;
     std::vector<core::Vector2<float>>& m_outline;
-    const int m_start;
     std::vector<bool> m_visited; ///< by edge
     MIntArray m_connected;       ///< kept for its memory
 };

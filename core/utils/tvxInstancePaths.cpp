@@ -1,6 +1,8 @@
 // All paths to one node, and which of them continues a path best.
 #include "core/utils/tvxInstancePaths.h"
 
+#include <algorithm>
+
 namespace tarvox::crowd {
 
 namespace {
@@ -22,17 +24,14 @@ std::string_view takeName(std::string_view& path)
     return name;
 }
 
-int score(std::string_view candidate, std::string_view parent)
+/// The leading characters that two names share, as far as names are compared.
+std::size_t sharedBy(std::string_view a, std::string_view b)
 {
+    const std::size_t end = std::min({a.size(), b.size(), InstancePaths::kComparedLength});
     std::size_t shared = 0;
-    while (shared < InstancePaths::kComparedLength && shared < candidate.size()) {
-        if (shared == parent.size())
-            return static_cast<int>(shared) + (candidate[shared] == '|' ? 1 : 0);
-        if (candidate[shared] != parent[shared])
-            break;
+    while (shared < end && a[shared] == b[shared])
         ++shared;
-    }
-    return static_cast<int>(shared);
+    return shared;
 }
 
 } // namespace
@@ -83,14 +82,15 @@ const MDagPath* InstancePaths::firstThrough(const MString& parent) const
     return &m_paths[m_steps[step].firstPath];
 }
 
+// For a parent that no path goes on behind, as far as it is compared: none gets the one character more.
 const MDagPath* InstancePaths::bestByScore(const MString& parent) const
 {
     const MDagPath* best = nullptr;
-    int bestScore = -1;
+    std::size_t mostShared = 0;
     for (unsigned int i = 0; i < m_paths.length(); ++i) {
-        const int candidate = score(viewOf(m_names[i]), viewOf(parent));
-        if (candidate > bestScore) {
-            bestScore = candidate;
+        const std::size_t shared = sharedBy(viewOf(m_names[i]), viewOf(parent));
+        if (!best || shared > mostShared) {
+            mostShared = shared;
             best = &m_paths[i];
         }
     }

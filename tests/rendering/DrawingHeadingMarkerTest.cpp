@@ -52,7 +52,8 @@ class HeadingMarkers : public testing::TestWithParam<std::pair<int, int>>
 };
 INSTANTIATE_TEST_SUITE_P(SegmentsAndSteps, HeadingMarkers,
                          testing::Values(std::pair(0, 0), std::pair(1, 0), std::pair(3, 0), std::pair(4, 1),
-                                         std::pair(7, 1), std::pair(12, 3), std::pair(64, 16)));
+                                         std::pair(7, 1), std::pair(12, 3), std::pair(44, 11),
+                                         std::pair(64, 16)));
 
 TEST_P(HeadingMarkers, AreAnArrowHeadAndABlendedDisc)
 {

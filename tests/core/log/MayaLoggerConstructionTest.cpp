@@ -8,6 +8,7 @@
 
 #include <gmock/gmock.h>
 
+#include <cstdlib>
 #include <filesystem>
 #include <string>
 
@@ -166,6 +167,24 @@ TEST_F(MayaLoggerConstruction, DoesNotRun)
     logger->registerLog(log, "Mine", core::kDebug);
     EXPECT_EQ(log.getSeverityFilter(), core::kWarning) << "the filter is set when the logger starts";
     logger->unregisterLog(log);
+}
+
+bool isCoreLogMade()
+{
+    return detail::coreLogFilter != &detail::kFilterOfNewLog;
+}
+
+// What is made first ends last: a logger reports, and detaches its logs, until its own end.
+TEST_F(MayaLoggerConstruction, MakesTheCoreLogBeforeTheLogger)
+{
+    // In a process where nobody has asked for the log yet.
+    GTEST_FLAG_SET(death_test_style, "threadsafe");
+    const auto construct = [] {
+        const bool wasMade = isCoreLogMade();
+        makeLogger();
+        std::exit(!wasMade && isCoreLogMade() ? 0 : 1);
+    };
+    EXPECT_EXIT(construct(), testing::ExitedWithCode(0), "");
 }
 
 } // namespace

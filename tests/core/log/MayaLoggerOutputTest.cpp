@@ -315,6 +315,19 @@ TEST_F(LoggerOutput, ANestedTraceOfTheSameLogLeavesTheOuterOneAlone)
                              "[TarvoxCrowd::INFO]\tMine: outer\n");
 }
 
+TEST_F(LoggerOutput, ALogMayBeUnregisteredByWhatItsOwnMessageSetsOff)
+{
+    registerLog(log, "Mine", core::kInfo);
+    logger.start();
+    logger.setOutputStream(&console);
+    host.scene.scriptEditor().setListener(
+        [this](const tvxhost::engine::Message&) { logger.unregisterLog(log); });
+    trace(log, core::kInfo, "the last one");
+    host.scene.scriptEditor().setListener(nullptr);
+    trace(log, core::kInfo, "unheard");
+    EXPECT_EQ(takeConsole(), "[TarvoxCrowd::INFO]\tMine: the last one\n");
+}
+
 // write
 
 TEST_F(LoggerOutput, ANestedWriteLeavesTheOuterOneAlone)

@@ -240,6 +240,19 @@ TYPED_TEST(ArrayAttributes, SettersReportFourSteps)
                         [&] { this->row.setByObject(this->holder, attribute, this->row.value, false); });
 }
 
+TYPED_TEST(ArrayAttributes, GettersCopyWhateverFailedBefore)
+{
+    this->write(this->row.value);
+    for (const Step& step : this->together(this->lookUp(), this->reading())) {
+        auto result = this->row.value;
+        faults::record(true);
+        faults::failCall(step.call, 1, MStatus(MStatus::kFailure));
+        this->row.getByName(this->holder, this->row.name, result);
+        EXPECT_EQ(faults::countOf(this->row.functionSet + "::copyTo"), 1u) << step.call;
+        faults::clear();
+    }
+}
+
 TYPED_TEST(ArrayAttributes, AnArrayThatCannotBeReadStaysAsItWas)
 {
     auto result = this->row.value;

@@ -26,6 +26,7 @@ TEST_F(FreeIndex, IsOneWithoutOthers)
 TEST_F(FreeIndex, IsBelowTheSmallestWhenThereIsRoom)
 {
     EXPECT_EQ(beside({3, 5}), 2);
+    EXPECT_EQ(beside({2}), 1); // beside 3, 5 and 2
 }
 TEST_F(FreeIndex, IsAboveTheLargestOtherwise)
 {

@@ -222,6 +222,45 @@ TEST_F(MeshPaths, OfLongNamesAreThoseOfTheWrittenRule)
     EXPECT_EQ(collect(first).size(), 2u);
 }
 
+// What follows the last character that is compared does not count, not even where the name ends.
+TEST_F(MeshPaths, OfNamesThatDifferBehindTheLimitTheFirstIsTaken)
+{
+    for (const std::size_t length : {9999u, 10000u, 10001u}) {
+        const std::string digits = std::to_string(length);
+        const std::string name = "n" + digits + std::string(length - 2 - digits.size(), 'n');
+        make("transform", name + "more");
+        make("transform", name);
+        make("transform", "shared" + digits, name + "more");
+        makeMesh("m" + digits, "shared" + digits);
+        instance("shared" + digits, name);
+        const MDagPath from = path(name);
+        ASSERT_EQ(from.fullPathName().length(), length);
+        const std::string taken = length < 10000 ? name : name + "more";
+        EXPECT_THAT(collect(from), ElementsAre("|" + taken + "|shared" + digits + "|m" + digits));
+        EXPECT_EQ(collect(from), literally(from));
+    }
+}
+
+TEST_F(MeshPaths, OfAChildWithOneParentThatIsInstancedTheRightOneIsTakenUpToTheLimit)
+{
+    for (const std::size_t length : {9999u, 10000u, 10001u}) {
+        const std::string digits = std::to_string(length);
+        const std::string below = "g" + digits;
+        const std::string outer(length - 2 - below.size(), 'n');
+        const std::string inner = below + "more";
+        make("transform", outer);
+        make("transform", inner, outer);
+        make("transform", below, inner);
+        makeMesh("m" + digits, below);
+        instance(below, outer);
+        const MDagPath from = path("|" + outer + "|" + below);
+        ASSERT_EQ(from.fullPathName().length(), length);
+        const std::string way = length < 10000 ? outer : outer + "|" + inner;
+        EXPECT_THAT(collect(from), ElementsAre("|" + way + "|" + below + "|m" + digits));
+        EXPECT_EQ(collect(from), literally(from));
+    }
+}
+
 TEST_F(MeshPaths, WithOneParentNoOtherPathIsLookedFor)
 {
     make("transform", "group");

@@ -334,6 +334,18 @@ TEST_F(Visibility, AnotherFailureOfTheReadingIsNot)
     EXPECT_THAT(recorder.take(), IsEmpty());
 }
 
+TEST_F(Visibility, TheStatusIsThatOfTheLastNodeOnTheWayUp)
+{
+    for (const std::size_t level : {1u, 2u, 3u}) {
+        faults::failCall("MPlug::getValue", level, MStatus(MStatus::kInvalidParameter));
+        MStatus status;
+        EXPECT_FALSE(isVisible("shape", &status)) << level;
+        EXPECT_EQ(status, MStatus::kInvalidParameter) << level;
+        faults::clear();
+    }
+    EXPECT_THAT(recorder.take(), IsEmpty());
+}
+
 TEST_F(Visibility, WithAParentThatCannotBeReachedANodeIsNotVisible)
 {
     const MFnDagNode shape(object("shape"), nullptr);
