@@ -134,8 +134,8 @@ void Attribute::swapDeclaration(Attribute& other)
 {
     const auto all = [](Attribute& a) {
         return std::tie(a.longName, a.shortName, a.otherShortName, a.niceName, a.categories, a.flags,
-                        a.acceptedData, a.fields, a.defaultNumber, a.defaultData, a.minimum, a.maximum,
-                        a.softMinimum, a.softMaximum, a.disconnectBehaviour);
+                        a.acceptedData, a.acceptedPluginData, a.fields, a.defaultNumber, a.defaultData,
+                        a.minimum, a.maximum, a.softMinimum, a.softMaximum, a.disconnectBehaviour);
     };
     auto mine = all(*this);
     auto theirs = all(other);

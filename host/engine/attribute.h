@@ -112,6 +112,7 @@ public:
     std::string pluginDataType;         ///< typed: the name of a data type that is `DataType::plugin`
     bool singleMatrix = false;          ///< matrix of floats
     std::vector<DataType> acceptedData; ///< generic
+    std::vector<std::string> acceptedPluginData; ///< generic: names of plug-ins' types of data
     std::vector<EnumField> fields;
 
     /// Default of a number (for a group each child has its own); in internal units.

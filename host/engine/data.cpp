@@ -37,6 +37,7 @@ constexpr std::array kTypeNames = {
     TypeName{DataType::polyFaces, "polyFaces"},
     TypeName{DataType::attributeAlias, "attributeAlias"},
     TypeName{DataType::plugin, "plugin"},
+    TypeName{DataType::registered, "plugin"},
 };
 
 } // namespace

@@ -44,7 +44,8 @@ enum class DataType : std::uint8_t
     sphere,
     polyFaces,
     attributeAlias,
-    plugin, ///< a plug-in's own, or any type that the host only keeps
+    plugin,     ///< a plug-in's own, or any type that the host only keeps
+    registered, ///< data that a plug-in made itself (PluginData); its attributes are of `plugin`
 };
 
 /// The name of a data type in MEL ("string", "Int32Array" …); for `plugin` the attribute knows better.

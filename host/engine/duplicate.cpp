@@ -115,6 +115,7 @@ Ref<Attribute> copyOf(const Attribute& attribute)
     copy->pluginDataType = attribute.pluginDataType;
     copy->singleMatrix = attribute.singleMatrix;
     copy->acceptedData = attribute.acceptedData;
+    copy->acceptedPluginData = attribute.acceptedPluginData;
     copy->fields = attribute.fields;
     copy->defaultNumber = attribute.defaultNumber;
     copy->defaultData = attribute.defaultData;

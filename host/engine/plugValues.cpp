@@ -6,6 +6,7 @@
 #include "node.h"
 #include "number.h"
 #include "observers.h"
+#include "pluginData.h"
 #include "scene.h"
 #include "valueEdits.h"
 #include "values.h"
@@ -135,11 +136,14 @@ Outcome countMismatch(const Plug& plug, std::size_t wanted, std::size_t given)
 bool isDataOf(const Attribute& attribute, const Data& data)
 {
     const DataType type = data.type();
+    if (type == DataType::registered)
+        return takesPluginData(attribute, static_cast<const PluginData&>(data).dataType().name);
     switch (attribute.kind) {
     case AttributeKind::matrix:
         return type == DataType::matrix || type == DataType::plugin;
     case AttributeKind::generic:
-        return attribute.acceptedData.empty() || type == DataType::plugin ||
+        return (attribute.acceptedData.empty() && attribute.acceptedPluginData.empty()) ||
+               type == DataType::plugin ||
                std::find(attribute.acceptedData.begin(), attribute.acceptedData.end(), type) !=
                    attribute.acceptedData.end();
     case AttributeKind::typed:

@@ -8,6 +8,7 @@
 #include "glob.h"
 #include "nameTable.h"
 #include "observers.h"
+#include "pluginData.h"
 #include "uuid.h"
 
 #include <algorithm>
@@ -72,7 +73,8 @@ void outdateComputed(Node& node)
 } // namespace
 
 Scene::Scene(bool batch)
-    : m_batch(batch), m_observers(std::make_unique<Observers>()), m_types(std::make_unique<TypeTable>()),
+    : m_batch(batch), m_observers(std::make_unique<Observers>()),
+      m_dataTypes(std::make_unique<PluginDataTypes>()), m_types(std::make_unique<TypeTable>()),
       m_names(std::make_unique<NameTable>()), m_journal(!batch)
 {
     if (!g_current)

@@ -28,6 +28,7 @@ namespace tvxhost::engine {
 
 class NameTable;
 class Observers;
+class PluginDataTypes;
 
 /// Runs a script: implemented by the language, called by the API. `result` is the value of the last statement
 /// as the language's own type, opaque here.
@@ -118,6 +119,8 @@ public:
     bool isBatch() const { return m_batch; }
     void setBatch(bool batch) { m_batch = batch; }
     TypeTable& types() { return *m_types; }
+    /// The types of data that plug-ins registered.
+    PluginDataTypes& dataTypes() { return *m_dataTypes; }
     ScriptEditor& scriptEditor() { return m_scriptEditor; }
     OptionVars& optionVars() { return m_optionVars; }
     Units& units() { return m_units; }
@@ -309,6 +312,7 @@ private:
 
     bool m_batch;
     std::unique_ptr<Observers> m_observers;
+    std::unique_ptr<PluginDataTypes> m_dataTypes;
     std::unique_ptr<TypeTable> m_types;
     ScriptEditor m_scriptEditor;
     OptionVars m_optionVars;

@@ -22,7 +22,10 @@ bool isSingleNumber(const Plug& plug)
 
 bool acceptsData(const Attribute& generic, const Attribute& other)
 {
-    if (generic.acceptedData.empty())
+    if (generic.acceptedData.empty() && generic.acceptedPluginData.empty())
+        return true;
+    const auto& names = generic.acceptedPluginData;
+    if (std::find(names.begin(), names.end(), other.pluginDataType) != names.end())
         return true;
     const DataType type = isNumberLeaf(other) || other.isNumberGroup() ? DataType::numeric
                           : other.kind == AttributeKind::matrix        ? DataType::matrix

@@ -9,6 +9,7 @@
 #include "support/handleValues.h"
 #include "support/handles.h"
 #include "support/notImplemented.h"
+#include "support/pxData.h"
 #include "support/valueTypes.h"
 
 #include <algorithm>
@@ -20,6 +21,7 @@ using tvxhost::engine::Data;
 using tvxhost::engine::NumberKind;
 using tvxhost::engine::NumericData;
 using tvxhost::engine::Plug;
+using tvxhost::engine::PluginData;
 using tvxhost::engine::Ref;
 
 namespace {
@@ -46,6 +48,11 @@ MObject objectOfType(const MDataHandle& handle, tvxhost::engine::DataType type)
 {
     const Ref<Data> data = objectOf(HandleState::read(handle));
     return data && data->type() == type ? tvxAccess::handle(data.get()) : MObject();
+}
+
+bool isPluginData(const Ref<Data>& data)
+{
+    return data && data->type() == tvxhost::engine::DataType::registered;
 }
 
 /// Copies numbers, each converted; false when there are not as many.
@@ -112,6 +119,14 @@ MStatus takeObject(MDataHandle& handle, const MObject& object)
     if (!data)
         return failure(object.isNull() ? StatusText::nullArgument : StatusText::objectIsIncompatible);
     return setData(handle, data) ? MStatus() : failure(StatusText::objectIsIncompatible);
+}
+
+MStatus takePluginObject(MDataHandle& handle, MPxData* object)
+{
+    if (!object)
+        return failure(StatusText::nullArgument);
+    const Ref<PxData> holder = holderOf(object);
+    return holder && setData(handle, holder) ? MStatus() : failure(StatusText::objectIsIncompatible);
 }
 
 /// The number in a value of any kind, converted; 0 when it is none.
@@ -183,16 +198,23 @@ MFnData::Type MDataHandle::type() const
     return attribute.kind == AttributeKind::matrix ? MFnData::kMatrix : dataTypeOf(attribute.dataType);
 }
 
-// Data of plug-ins' own types cannot be made here, so no value has such an id.
+// Only data of plug-ins' own types has an id.
 MTypeId MDataHandle::typeId() const
 {
-    return MTypeId();
+    const Ref<Data> data = objectOf(HandleState::read(*this));
+    return isPluginData(data) ? MTypeId(static_cast<const PluginData&>(*data).dataType().id) : MTypeId();
 }
 
 MStatus MDataHandle::acceptedTypeIds(MUintArray& ids) const
 {
     TVX_API_CALL("MDataHandle::acceptedTypeIds");
     ids.clear();
+    const HandleState state = HandleState::read(*this);
+    if (state.isNull())
+        return MS::kSuccess;
+    for (const std::string& name : state.attribute()->acceptedPluginData)
+        if (const auto type = tvxhost::engine::Scene::current().dataTypes().find(name))
+            ids.append(type->id);
     return MS::kSuccess;
 }
 
@@ -219,6 +241,25 @@ MStatus MDataHandle::set(const MObject& data)
 {
     TVX_API_CALL("MDataHandle::set");
     return takeObject(*this, data);
+}
+
+MStatus MDataHandle::set(MPxData* data)
+{
+    TVX_API_CALL("MDataHandle::set");
+    return takePluginObject(*this, data);
+}
+
+MStatus MDataHandle::setMPxData(MPxData* data)
+{
+    TVX_API_CALL("MDataHandle::setMPxData");
+    return takePluginObject(*this, data);
+}
+
+MPxData* MDataHandle::asPluginData() const
+{
+    const Ref<Data> data = objectOf(HandleState::read(*this));
+    const auto* held = isPluginData(data) ? dynamic_cast<const PxData*>(data.get()) : nullptr;
+    return held ? held->object() : nullptr;
 }
 
 #define TVX_OBJECT(plain, transformed, dataType)                                                             \

@@ -3,6 +3,7 @@
 #include <maya/MStringArray.h>
 #include <maya/MTypeId.h>
 
+#include "engine/pluginData.h"
 #include "support/addAttrCommand.h"
 #include "support/attributeSets.h"
 #include "support/notImplemented.h"
@@ -13,6 +14,7 @@
 using namespace tvxhost::api;
 using tvxhost::engine::Attribute;
 using tvxhost::engine::AttributeFlags;
+using tvxhost::engine::AttributeKind;
 
 namespace {
 
@@ -219,10 +221,19 @@ bool MFnAttribute::accepts(MFnData::Type dataType, MStatus* ReturnStatus) const
            std::find(accepted.begin(), accepted.end(), wanted) != accepted.end();
 }
 
-bool MFnAttribute::accepts(const MTypeId&, MStatus* ReturnStatus) const
+bool MFnAttribute::accepts(const MTypeId& id, MStatus* ReturnStatus) const
 {
-    notImplemented("MFnAttribute::accepts(MTypeId)", ReturnStatus);
-    return false;
+    TVX_API_CALL_OR("MFnAttribute::accepts", ReturnStatus, false);
+    const Attribute* attribute = attributeOf(*this);
+    if (!requireAttached(attribute, ReturnStatus))
+        return false;
+    const auto type = tvxhost::engine::Scene::current().dataTypes().find(id.id());
+    if (!type)
+        return false;
+    if (attribute->kind != AttributeKind::generic)
+        return tvxhost::engine::takesPluginData(*attribute, type->name);
+    const auto& accepted = attribute->acceptedPluginData;
+    return std::find(accepted.begin(), accepted.end(), type->name) != accepted.end();
 }
 
 MObject MFnAttribute::parent(MStatus* ReturnStatus) const

@@ -2,8 +2,8 @@
 #include <maya/MFnGenericAttribute.h>
 #include <maya/MTypeId.h>
 
+#include "engine/pluginData.h"
 #include "support/attributeSets.h"
-#include "support/notImplemented.h"
 #include "support/valueTypes.h"
 
 #include <algorithm>
@@ -15,32 +15,52 @@ using tvxhost::engine::DataType;
 
 namespace {
 
-MStatus accept(MFnBase& set, const char* name, DataType type)
+/// The list in an attribute that holds such things.
+std::vector<DataType>& acceptedIn(Attribute& attribute, const DataType&)
+{
+    return attribute.acceptedData;
+}
+std::vector<std::string>& acceptedIn(Attribute& attribute, const std::string&)
+{
+    return attribute.acceptedPluginData;
+}
+
+/// `type`: a kind of data, or the name of a plug-in's own; the neutral value is no type.
+template <class Type>
+MStatus accept(MFnBase& set, const char* name, const Type& type)
 {
     TVX_API_CALL(name);
     Attribute* attribute = attributeOf(set);
     if (!attribute)
         return notAttached();
-    if (type == DataType::none)
+    if (type == Type())
         return failure(MS::kInvalidParameter, StatusText::unexpectedFailure);
-    auto& accepted = attribute->acceptedData;
+    auto& accepted = acceptedIn(*attribute, type);
     if (std::find(accepted.begin(), accepted.end(), type) == accepted.end())
         accepted.push_back(type);
     return MS::kSuccess;
 }
 
-MStatus refuse(MFnBase& set, const char* name, DataType type)
+template <class Type>
+MStatus refuse(MFnBase& set, const char* name, const Type& type)
 {
     TVX_API_CALL(name);
     Attribute* attribute = attributeOf(set);
     if (!attribute)
         return notAttached();
-    auto& accepted = attribute->acceptedData;
+    auto& accepted = acceptedIn(*attribute, type);
     const auto place = std::find(accepted.begin(), accepted.end(), type);
     if (place == accepted.end())
         return failure(StatusText::itemNotFound);
     accepted.erase(place);
     return MS::kSuccess;
+}
+
+/// The name of a plug-in's type of data; empty when no plug-in registered it.
+std::string dataTypeName(const MTypeId& id)
+{
+    const auto type = tvxhost::engine::Scene::current().dataTypes().find(id.id());
+    return type ? type->name : std::string();
 }
 
 /// Numbers are accepted as a whole: each kind converts to every other.
@@ -81,9 +101,9 @@ MStatus MFnGenericAttribute::addAccept(MFnNumericData::Type newType)
     return accept(*this, "MFnGenericAttribute::addAccept", numericDataOf(newType));
 }
 
-MStatus MFnGenericAttribute::addAccept(const MTypeId&)
+MStatus MFnGenericAttribute::addAccept(const MTypeId& newType)
 {
-    return notImplemented("MFnGenericAttribute::addAccept(MTypeId)");
+    return accept(*this, "MFnGenericAttribute::addAccept", dataTypeName(newType));
 }
 
 MStatus MFnGenericAttribute::removeDataAccept(MFnData::Type oldType)
@@ -106,7 +126,7 @@ MStatus MFnGenericAttribute::removeAccept(MFnNumericData::Type oldType)
     return refuse(*this, "MFnGenericAttribute::removeAccept", numericDataOf(oldType));
 }
 
-MStatus MFnGenericAttribute::removeAccept(const MTypeId&)
+MStatus MFnGenericAttribute::removeAccept(const MTypeId& oldType)
 {
-    return notImplemented("MFnGenericAttribute::removeAccept(MTypeId)");
+    return refuse(*this, "MFnGenericAttribute::removeAccept", dataTypeName(oldType));
 }

@@ -11,6 +11,7 @@
 #include "support/notImplemented.h"
 #include "support/pluginSyntax.h"
 #include "support/pxBehaviour.h"
+#include "support/pxData.h"
 #include "support/registeringType.h"
 
 #include <algorithm>
@@ -21,6 +22,9 @@ using tvxhost::engine::Node;
 using tvxhost::engine::NodeBehaviour;
 using tvxhost::engine::NodeType;
 using tvxhost::engine::PluginCommand;
+using tvxhost::engine::PluginData;
+using tvxhost::engine::PluginDataType;
+using tvxhost::engine::Ref;
 using tvxhost::engine::Scene;
 using tvxhost::engine::ScriptRunner;
 
@@ -274,6 +278,40 @@ MStatus MFnPlugin::deregisterNode(const MTypeId& typeId)
 bool MFnPlugin::isNodeRegistered(const MString& typeName)
 {
     return sessionScene().types().find(tvxAccess::text(typeName)) != nullptr;
+}
+
+// Types of data
+
+MStatus MFnPlugin::registerData(const MString& typeName, const MTypeId& typeId,
+                                MCreatorFunction creatorFunction, MPxData::Type type)
+{
+    TVX_API_CALL("MFnPlugin::registerData");
+    const Plugin* plugin = pluginOf(*this);
+    if (!plugin)
+        return notAttached();
+    if (!creatorFunction)
+        return failure(StatusText::nullArgument);
+    if (type != MPxData::kData)
+        return notImplemented("MFnPlugin::registerData of geometry");
+    PluginDataType added{tvxAccess::text(typeName), typeId.id(), plugin->name};
+    added.make = [creatorFunction](const auto& dataType) {
+        std::unique_ptr<MPxData> object(static_cast<MPxData*>(creatorFunction()));
+        return object ? Ref<PluginData>(new PxData(dataType, std::move(object))) : Ref<PluginData>();
+    };
+    return toStatus(sessionScene().dataTypes().add(std::move(added)));
+}
+
+MStatus MFnPlugin::deregisterData(const MTypeId& typeId)
+{
+    TVX_API_CALL("MFnPlugin::deregisterData");
+    const Plugin* plugin = pluginOf(*this);
+    if (!plugin)
+        return notAttached();
+    const auto type = sessionScene().dataTypes().find(typeId.id());
+    if (!type || type->plugin != plugin->name)
+        return failure(MS::kInvalidParameter, StatusText::unexpectedFailure);
+    sessionScene().dataTypes().remove(*type);
+    return MS::kSuccess;
 }
 
 // Commands

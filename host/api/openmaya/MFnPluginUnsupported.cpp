@@ -220,16 +220,6 @@ MStatus MFnPlugin::registerTransform(const MString&, const MTypeId&, MCreatorFun
     return notImplemented("MFnPlugin::registerTransform");
 }
 
-MStatus MFnPlugin::registerData(const MString&, const MTypeId&, MCreatorFunction, MPxData::Type)
-{
-    return notImplemented("MFnPlugin::registerData");
-}
-
-MStatus MFnPlugin::deregisterData(const MTypeId&)
-{
-    return notImplemented("MFnPlugin::deregisterData");
-}
-
 MStatus MFnPlugin::registerUI(PyObject*, PyObject*, PyObject*, PyObject*)
 {
     return notImplemented("MFnPlugin::registerUI(PyObject)");

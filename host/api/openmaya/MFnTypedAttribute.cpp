@@ -3,7 +3,7 @@
 #include <maya/MTypeId.h>
 
 #include "support/attributeSets.h"
-#include "support/notImplemented.h"
+#include "support/handleValues.h"
 #include "support/valueTypes.h"
 
 using namespace tvxhost::api;
@@ -15,16 +15,33 @@ using tvxhost::engine::Ref;
 
 namespace {
 
-/// The data of a default: none for a null object; a failure for what is not data of the type.
-MStatus findDefault(const MObject& object, DataType type, Ref<Data>& found)
+/// Gives an attribute its default: none for a null object; a failure for what is not data of its type.
+MStatus giveDefault(Attribute& attribute, const MObject& object)
 {
-    if (object.isNull())
+    if (object.isNull()) {
+        attribute.defaultData = nullptr;
         return MS::kSuccess;
-    Data* data = dataOf(object);
-    if (!data || data->type() != type)
+    }
+    const Data* data = dataOf(object);
+    if (!data || !fits(attribute, *data))
         return failure(StatusText::objectIsIncompatible);
-    found = data->clone();
+    attribute.defaultData = data->clone();
     return MS::kSuccess;
+}
+
+/// A new attribute of a type, with its default; attaches the set to it.
+MObject make(MFnBase& set, const MString& fullName, const MString& briefName, DataType type,
+             const std::string& pluginType, const MObject& defaultData, MStatus* returnStatus)
+{
+    const Ref<Attribute> made(
+        new Attribute(AttributeKind::typed, tvxAccess::text(fullName), tvxAccess::text(briefName)));
+    made->dataType = type;
+    made->pluginDataType = pluginType;
+    if (const MStatus given = giveDefault(*made, defaultData); !given) {
+        give(returnStatus, given);
+        return MObject();
+    }
+    return adoptAttribute(set, made, returnStatus);
 }
 
 } // namespace
@@ -36,19 +53,11 @@ MObject MFnTypedAttribute::create(const MString& fullName, const MString& briefN
 {
     TVX_API_CALL_OR("MFnTypedAttribute::create", ReturnStatus, MObject());
     const DataType dataType = dataTypeOf(type);
-    Ref<Data> value;
-    const MStatus fits = dataType == DataType::none
-                             ? failure(MS::kInvalidParameter, StatusText::unexpectedFailure)
-                             : findDefault(defaultData, dataType, value);
-    if (!fits) {
-        give(ReturnStatus, fits);
+    if (dataType == DataType::none) {
+        give(ReturnStatus, failure(MS::kInvalidParameter, StatusText::unexpectedFailure));
         return MObject();
     }
-    const Ref<Attribute> made(
-        new Attribute(AttributeKind::typed, tvxAccess::text(fullName), tvxAccess::text(briefName)));
-    made->dataType = dataType;
-    made->defaultData = value;
-    return adoptAttribute(*this, made, ReturnStatus);
+    return make(*this, fullName, briefName, dataType, {}, defaultData, ReturnStatus);
 }
 
 MObject MFnTypedAttribute::create(const MString& fullName, const MString& briefName, MFnData::Type type,
@@ -57,11 +66,16 @@ MObject MFnTypedAttribute::create(const MString& fullName, const MString& briefN
     return create(fullName, briefName, type, MObject::kNullObj, ReturnStatus);
 }
 
-MObject MFnTypedAttribute::create(const MString&, const MString&, const MTypeId&, MObject,
-                                  MStatus* ReturnStatus)
+MObject MFnTypedAttribute::create(const MString& fullName, const MString& briefName, const MTypeId& id,
+                                  MObject defaultData, MStatus* ReturnStatus)
 {
-    notImplemented("MFnTypedAttribute::create(MTypeId)", ReturnStatus);
-    return MObject();
+    TVX_API_CALL_OR("MFnTypedAttribute::create", ReturnStatus, MObject());
+    const auto type = tvxhost::engine::Scene::current().dataTypes().find(id.id());
+    if (!type) {
+        give(ReturnStatus, failure(MS::kInvalidParameter, StatusText::unexpectedFailure));
+        return MObject();
+    }
+    return make(*this, fullName, briefName, DataType::plugin, type->name, defaultData, ReturnStatus);
 }
 
 MFnData::Type MFnTypedAttribute::attrType(MStatus* ReturnStatus) const
@@ -87,9 +101,5 @@ MStatus MFnTypedAttribute::setDefault(const MObject& defaultCustomData)
     Attribute* attribute = attributeOf(*this);
     if (!attribute)
         return notAttached();
-    Ref<Data> value;
-    if (const MStatus fits = findDefault(defaultCustomData, attribute->dataType, value); !fits)
-        return fits;
-    attribute->defaultData = value;
-    return MS::kSuccess;
+    return giveDefault(*attribute, defaultCustomData);
 }

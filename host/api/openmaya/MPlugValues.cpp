@@ -12,6 +12,7 @@
 #include "support/notImplemented.h"
 #include "support/plugCall.h"
 #include "support/plugUnits.h"
+#include "support/pxData.h"
 
 #include <cmath>
 #include <memory>
@@ -195,6 +196,20 @@ MStatus set(const MPlug& plug, const char* name, const MObject& object)
     return plugStatus(tvxhost::engine::writeData(p, *data));
 }
 
+MStatus set(const MPlug& plug, const char* name, MPxData* object)
+{
+    TVX_API_CALL(name);
+    const Plug& p = tvxAccess::plug(plug);
+    MStatus status;
+    if (!requirePlug(p, &status))
+        return status;
+    if (!object)
+        return failure(StatusText::nullArgument);
+    const Ref<PxData> holder = holderOf(object);
+    return holder ? plugStatus(tvxhost::engine::writeData(p, *holder))
+                  : failure(StatusText::objectIsIncompatible);
+}
+
 MStatus set(const MPlug& plug, const char* name, const MDataHandle& handle)
 {
     TVX_API_CALL(name);
@@ -290,6 +305,7 @@ TVX_SET(setMTime, MTime&, set, value)
 TVX_SET(setString, const MString&, set, tvxAccess::text(value))
 TVX_SET(setMObject, MObject&, set, value)
 TVX_SET(setMDataHandle, MDataHandle&, set, value)
+TVX_SET(setMPxData, MPxData*, set, value)
 
 #undef TVX_SET
 

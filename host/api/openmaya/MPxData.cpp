@@ -1,13 +1,9 @@
-// MPxData: base class of a plug-in's own data, and what the host does not do with it.
-#include <maya/MDataHandle.h>
-#include <maya/MPlug.h>
+// MPxData: base class of a plug-in's own data.
 #include <maya/MPxData.h>
 
 #include "support/apiCall.h"
-#include "support/notImplemented.h"
 
 using tvxhost::api::failure;
-using tvxhost::api::notImplemented;
 using tvxhost::api::StatusText;
 
 MPxData::MPxData() : instance(nullptr) {}
@@ -36,32 +32,4 @@ MStatus MPxData::writeBinary(std::ostream&)
 {
     TVX_API_CALL("MPxData::writeBinary");
     return failure(StatusText::unexpectedFailure);
-}
-
-// What holds such data
-
-MStatus MPlug::setValue(MPxData*)
-{
-    return notImplemented("MPlug::setValue(MPxData)");
-}
-
-MStatus MPlug::setMPxData(MPxData*)
-{
-    return notImplemented("MPlug::setMPxData");
-}
-
-MStatus MDataHandle::set(MPxData*)
-{
-    return notImplemented("MDataHandle::set(MPxData)");
-}
-
-MStatus MDataHandle::setMPxData(MPxData*)
-{
-    return notImplemented("MDataHandle::setMPxData");
-}
-
-MPxData* MDataHandle::asPluginData() const
-{
-    notImplemented("MDataHandle::asPluginData");
-    return nullptr;
 }

@@ -2,6 +2,7 @@
 #include "pluginLoader.h"
 
 #include "engine/observers.h"
+#include "engine/pluginData.h"
 #include "library.h"
 #include "support/access.h"
 #include "support/builtInAttributes.h"
@@ -9,6 +10,7 @@
 #include <algorithm>
 #include <cstdlib>
 #include <sstream>
+#include <utility>
 
 namespace tvxhost::api {
 
@@ -201,6 +203,8 @@ void PluginLoader::forget(Plugin& plugin)
 {
     for (engine::NodeType* type : nodeTypes(plugin))
         (void)m_scene.types().remove(*type);
+    for (const auto& type : m_scene.dataTypes().ofPlugin(plugin.name))
+        m_scene.dataTypes().remove(*type);
     for (const std::string& command : plugin.commands)
         m_scene.pluginCommands.erase(command);
     plugin.commands.clear();
@@ -234,8 +238,12 @@ std::vector<engine::NodeType*> PluginLoader::nodeTypes(const Plugin& plugin) con
 bool PluginLoader::isInUse(const Plugin& plugin) const
 {
     const auto types = nodeTypes(plugin);
-    return std::any_of(types.begin(), types.end(),
-                       [](const engine::NodeType* type) { return type->liveNodes + type->waitingNodes > 0; });
+    const auto dataTypes = m_scene.dataTypes().ofPlugin(plugin.name);
+    return std::any_of(
+               types.begin(), types.end(),
+               [](const engine::NodeType* type) { return type->liveNodes + type->waitingNodes > 0; }) ||
+           std::any_of(dataTypes.begin(), dataTypes.end(),
+                       [&](const auto& type) { return engine::hasDataInUse(*type, m_scene.types()); });
 }
 
 Outcome PluginLoader::rename(Plugin& plugin, const std::string& wish, bool makeUnique)
@@ -244,7 +252,8 @@ Outcome PluginLoader::rename(Plugin& plugin, const std::string& wish, bool makeU
     if (wish.empty() || (holder && holder != &plugin && !makeUnique))
         return {Reason::nameTaken, "A plug-in of this name is loaded"};
     const auto types = nodeTypes(plugin);
-    plugin.name = holder == &plugin ? wish : uniqueName(wish);
+    const std::string before = std::exchange(plugin.name, holder == &plugin ? wish : uniqueName(wish));
+    m_scene.dataTypes().renamePlugin(before, plugin.name);
     for (engine::NodeType* type : types)
         type->plugin = plugin.name;
     return {};

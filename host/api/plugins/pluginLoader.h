@@ -82,8 +82,9 @@ public:
     PluginResult load(const std::string& nameOrPath, const std::string& wishedName = {});
 
     /// Removes the interface, runs the other entry point, forgets the types and commands that are left, and
-    /// closes the library. Refused with inUse while nodes of its types exist, unless `force`, which turns
-    /// them into unknown nodes. Unloading what is not loaded is a warning.
+    /// closes the library. Refused with inUse while nodes or data of its types exist, unless `force`, which
+    /// turns the nodes into unknown nodes and leaves of data what it is saved with. Unloading what is not
+    /// loaded is a warning.
     PluginResult unload(const std::string& nameOrPath, bool force = false);
 
     /// In the order of loading.
@@ -91,6 +92,7 @@ public:
     /// By name, file name or path; null when it is not loaded.
     Plugin* findLoaded(const std::string& nameOrPath) const;
     std::vector<engine::NodeType*> nodeTypes(const Plugin& plugin) const;
+    /// Whether there are nodes of its types, or data other than the defaults of their attributes.
     bool isInUse(const Plugin& plugin) const;
     /// Another name that no loaded plug-in has: the wish, or (when allowed) with a number.
     engine::Outcome rename(Plugin& plugin, const std::string& wish, bool makeUnique);

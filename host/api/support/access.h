@@ -21,6 +21,7 @@
 #include <maya/MObject.h>
 #include <maya/MPlug.h>
 #include <maya/MPxCommand.h>
+#include <maya/MPxData.h>
 #include <maya/MPxNode.h>
 #include <maya/MSelectionList.h>
 #include <maya/MStatus.h>
@@ -36,7 +37,8 @@
 
 namespace tvxhost::api {
 class PxBehaviour;
-}
+class PxData;
+} // namespace tvxhost::api
 
 /// Friend of every class of the API. Storage in, storage out; no behaviour.
 class tvxAccess
@@ -140,6 +142,12 @@ public:
         object.node = &node;
         object.reserved = &behaviour;
     }
+    /// The data object that holds a plug-in's own; null for one that is in none yet.
+    static tvxhost::api::PxData* data(const MPxData& object)
+    {
+        return reinterpret_cast<tvxhost::api::PxData*>(object.instance);
+    }
+    static void tie(MPxData& object, tvxhost::api::PxData& data) { object.instance = &data; }
     static tvxhost::api::CommandState*& commandState(MPxCommand& command) { return command.state; }
     static tvxhost::api::Arguments& arguments(MArgList& list) { return *list.arguments; }
     static const tvxhost::api::Arguments& arguments(const MArgList& list) { return *list.arguments; }

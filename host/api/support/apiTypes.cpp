@@ -282,6 +282,7 @@ MFn::Type dataType(const Data& data)
     case DataType::sphere:
         return MFn::kSphereData;
     case DataType::plugin:
+    case DataType::registered:
         return MFn::kPluginData;
     default:
         return MFn::kData;

@@ -4,6 +4,7 @@
 #include "handleState.h"
 
 #include "engine/number.h"
+#include "engine/pluginData.h"
 
 #include <cstddef>
 
@@ -84,11 +85,20 @@ void setNumbers(MDataHandle& handle, const T (&values)[kCount])
         engine::storeNumber(kind, bytes + i * engine::sizeOf(kind), numberFrom(values[i]));
 }
 
+/// Whether data belongs into an attribute.
+inline bool fits(const engine::Attribute& attribute, const engine::Data& data)
+{
+    return data.type() == engine::DataType::registered
+               ? engine::takesPluginData(attribute,
+                                         static_cast<const engine::PluginData&>(data).dataType().name)
+               : holds(attribute, data.type());
+}
+
 /// Puts a data object in the place of the one that is there. Nothing happens for a value of another type.
 inline bool setData(MDataHandle& handle, const engine::Ref<engine::Data>& data)
 {
     const HandleState state = HandleState::read(handle);
-    if (!state.data() || (data && !holds(*state.attribute(), data->type())))
+    if (!state.data() || (data && !fits(*state.attribute(), *data)))
         return false;
     *state.data() = data;
     return true;

@@ -44,6 +44,7 @@ struct DataRow
 constexpr DataRow kDataRows[] = {
     {MFnData::kNumeric, DataType::numeric},
     {MFnData::kPlugin, DataType::plugin},
+    {MFnData::kPlugin, DataType::registered},
     {MFnData::kString, DataType::string},
     {MFnData::kMatrix, DataType::matrix},
     {MFnData::kStringArray, DataType::stringArray},

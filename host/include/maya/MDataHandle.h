@@ -47,6 +47,8 @@ public:
     /// The kinds of value; kInvalid when it is of the other sort.
     MFnNumericData::Type numericType() const;
     MFnData::Type type() const;
+
+    /// The type of a plug-in's own data; 0 for all else.
     MTypeId typeId() const;
 
     /// The plug-ins' types that a generic attribute takes.
@@ -142,9 +144,12 @@ public:
     /// Stores a data object; kFailure when it is of the wrong type.
     MStatus set(const MObject& data);
 
-    /// A plug-in's own data, which the host does not keep: kNotImplemented, null.
+    /// Stores a plug-in's own data, as it is and not as a copy: that of an MFnPluginData, or one made with
+    /// `new`, which the value owns from then on. kFailure when it is of a type that the value does not take.
     MStatus set(MPxData* data);
     MStatus setMPxData(MPxData* data);
+
+    /// The stored data of a plug-in; null when there is none.
     MPxData* asPluginData() const;
 
     /// As set, by name.

@@ -172,7 +172,9 @@ public:
                               MCreateXformMatrixFunction xformCreatorFunction, const MTypeId& xformId,
                               const MString* classification = nullptr);
 
-    /// Adds a type of data of its own, or removes it.
+    /// Adds a type of data of its own, or removes it. kFailure when the name or the number is taken, and
+    /// kInvalidParameter for a type that this plug-in did not add. Data that is left when a type goes keeps
+    /// the words that it is saved with. Data that is geometry is not implemented.
     MStatus registerData(const MString& typeName, const MTypeId& typeId, MCreatorFunction creatorFunction,
                          MPxData::Type type = MPxData::kData);
     MStatus deregisterData(const MTypeId& typeId);

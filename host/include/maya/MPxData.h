@@ -10,8 +10,10 @@
 
 class MArgList;
 
-/// Base class of a type of data that a plug-in defines. The host does not keep such data in attributes:
-/// MFnPlugin::registerData answers kNotImplemented.
+/// Base class of a type of data that a plug-in defines. Attributes of the type (MFnTypedAttribute::create
+/// with the number that MFnPlugin::registerData was given) hold such data; it is copied by `copy` and kept in
+/// scene files by readASCII and writeASCII. While its plug-in is not loaded, the words in a file are kept as
+/// they are.
 class OPENMAYA_EXPORT MPxData
 {
 public:
@@ -26,7 +28,7 @@ public:
     virtual ~MPxData();
 
     /// Reads what writeASCII wrote, beginning with the argument whose index is given, and moves that index
-    /// behind what was read. As they are here: kFailure.
+    /// behind what was read. As they are here: kFailure. The host reads and writes no bytes.
     virtual MStatus readASCII(const MArgList& argList, unsigned int& endOfTheLastParsedElement);
     virtual MStatus readBinary(std::istream& in, unsigned int length);
 
