@@ -50,8 +50,8 @@ TVX_NUMBER_MEMBER(MFnCamera, bool, isDepthOfField, setDepthOfField, bool, "depth
 TVX_NUMBER_MEMBER(MFnCamera, double, orthoWidth, setOrthoWidth, double, "orthographicWidth")
 TVX_NUMBER_MEMBER(MFnCamera, bool, usePivotAsLocalSpace, setUsePivotAsLocalSpace, const bool,
                   "usePivotAsLocalSpace")
-TVX_ENUM_MEMBER(MFnCamera, MFnCamera::FilmFit, filmFit, setFilmFit, "filmFit")
-TVX_ENUM_MEMBER(MFnCamera, MFnCamera::RollOrder, filmRollOrder, setFilmRollOrder, "filmRollOrder")
+TVX_ENUM_MEMBER(MFnCamera, MFnCamera::FilmFit, filmFit, setFilmFit, FilmFit, "filmFit")
+TVX_ENUM_MEMBER(MFnCamera, MFnCamera::RollOrder, filmRollOrder, setFilmRollOrder, RollOrder, "filmRollOrder")
 
 bool MFnCamera::isOrtho(MStatus* ReturnStatus) const
 {

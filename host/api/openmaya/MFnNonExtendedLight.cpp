@@ -2,7 +2,6 @@
 #include <maya/MFnNonExtendedLight.h>
 
 #include "support/attributeMembers.h"
-#include "support/notImplemented.h"
 #include "support/shapeSet.h"
 
 TVX_SHAPE_SET(MFnNonExtendedLight, MFn::kNonExtendedLight)
@@ -20,16 +19,5 @@ TVX_NUMBER_MEMBER(MFnNonExtendedLight, bool, useDepthMapAutoFocus, setUseDepthMa
 TVX_NUMBER_MEMBER(MFnNonExtendedLight, float, depthMapWidthFocus, setDepthMapWidthFocus, float,
                   "dmapWidthFocus")
 TVX_NUMBER_MEMBER(MFnNonExtendedLight, float, depthMapFocus, setDepthMapFocus, float, "dmapFocus")
-
-bool MFnNonExtendedLight::castSoftShadows(MStatus* ReturnStatus) const
-{
-    TVX_API_CALL_OR("MFnNonExtendedLight::castSoftShadows", ReturnStatus, false);
-    tvxhost::api::notImplemented("MFnNonExtendedLight::castSoftShadows", ReturnStatus);
-    return false;
-}
-
-MStatus MFnNonExtendedLight::setCastSoftShadows(const bool&)
-{
-    TVX_API_CALL("MFnNonExtendedLight::setCastSoftShadows");
-    return tvxhost::api::notImplemented("MFnNonExtendedLight::setCastSoftShadows");
-}
+TVX_NUMBER_MEMBER(MFnNonExtendedLight, bool, castSoftShadows, setCastSoftShadows, const bool&,
+                  "castSoftShadows")

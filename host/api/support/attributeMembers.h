@@ -37,13 +37,13 @@ MStatus writeColorMember(const MFnBase& set, const char* function, const char* a
     }
 
 /// A getter and a setter of an enumeration whose values are those of the attribute's fields.
-#define TVX_ENUM_MEMBER(Class, Type, getter, setter, attribute)                                              \
+#define TVX_ENUM_MEMBER(Class, Type, getter, setter, Argument, attribute)                                    \
     Type Class::getter(MStatus* ReturnStatus) const                                                          \
     {                                                                                                        \
         return static_cast<Type>(static_cast<int>(                                                           \
             ::tvxhost::api::readMember(*this, #Class "::" #getter, attribute, ReturnStatus)));               \
     }                                                                                                        \
-    MStatus Class::setter(Type value)                                                                        \
+    MStatus Class::setter(Argument value)                                                                    \
     {                                                                                                        \
         return ::tvxhost::api::writeMember(*this, #Class "::" #setter, attribute, static_cast<int>(value));  \
     }

@@ -35,7 +35,7 @@ public:
     float ambientShade(MStatus* ReturnStatus = nullptr) const;
     MStatus setAmbientShade(const float& ambient_shade);
 
-    /// Soft shadows and their radius; whether they are soft: kNotImplemented, the radius says it.
+    /// Whether traced shadows are soft, and the radius that softens them.
     bool castSoftShadows(MStatus* ReturnStatus = nullptr) const;
     MStatus setCastSoftShadows(const bool& cast_soft_shadows);
     float shadowRadius(MStatus* ReturnStatus = nullptr) const;

@@ -27,7 +27,7 @@ public:
     float shadowRadius(MStatus* ReturnStatus = nullptr) const;
     MStatus setShadowRadius(const float& shadow_radius);
 
-    /// Whether shadows are soft: kNotImplemented, the radius says it.
+    /// Whether traced shadows are soft.
     bool castSoftShadows(MStatus* ReturnStatus = nullptr) const;
     MStatus setCastSoftShadows(const bool& cast_soft_shadows);
 

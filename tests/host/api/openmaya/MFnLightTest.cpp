@@ -10,6 +10,7 @@
 #include <maya/MFnNumericAttribute.h>
 #include <maya/MFnPointLight.h>
 #include <maya/MFnSpotLight.h>
+#include <maya/MFnVolumeLight.h>
 
 namespace tvxhost::api::test {
 namespace {
@@ -103,11 +104,47 @@ TEST_F(MFnLightTest, SetsFitTheLightsTheyAreFor)
     const MFnNonExtendedLight plain(object("bulb"), &status);
     EXPECT_EQ(status, MS::kSuccess);
     EXPECT_FALSE(plain.castSoftShadows(&status));
-    EXPECT_EQ(status, MS::kNotImplemented);
+    EXPECT_EQ(status, MS::kSuccess);
     make("spotLight", "lamp");
     const MFnSpotLight lamp(object("lamp"), &status);
     EXPECT_EQ(lamp.startDistance(static_cast<MFnSpotLight::MDecayRegion>(3), &status), 0.0F);
     EXPECT_EQ(status, MS::kInvalidParameter) << "there are three regions";
+}
+
+TEST_F(MFnLightTest, SoftShadowsAreSaidOfEveryLight)
+{
+    make("ambientLight", "glow");
+    MFnAmbientLight ambient(object("glow"), nullptr);
+    EXPECT_FALSE(ambient.castSoftShadows());
+    EXPECT_EQ(ambient.setCastSoftShadows(true), MS::kSuccess);
+    EXPECT_TRUE(plug("glow.castSoftShadows").asBool());
+    EXPECT_EQ(ambient.setShadowRadius(1.5F), MS::kSuccess);
+    EXPECT_EQ(plug("glow.shadowRadius").asFloat(), 1.5F);
+    EXPECT_EQ(ambient.shadowRadius(), 1.5F);
+    make("pointLight", "bulb");
+    MFnPointLight point(object("bulb"), nullptr);
+    EXPECT_EQ(point.setCastSoftShadows(true), MS::kSuccess);
+    EXPECT_TRUE(point.castSoftShadows());
+    EXPECT_EQ(point.setShadowRadius(0.5F), MS::kSuccess);
+    EXPECT_EQ(plug("bulb.lightRadius").asFloat(), 0.5F);
+}
+
+TEST_F(MFnLightTest, AVolumeLightHasAShape)
+{
+    MStatus status;
+    MFnVolumeLight light;
+    const MObject transform = light.create(true, &status);
+    ASSERT_EQ(status, MS::kSuccess);
+    EXPECT_TRUE(transform.hasFn(MFn::kTransform));
+    EXPECT_EQ(light.object().apiType(), MFn::kVolumeLight);
+    EXPECT_TRUE(light.object().hasFn(MFn::kPointLight));
+    EXPECT_EQ(light.lightShape(&status), MFnVolumeLight::kSphereVolume);
+    EXPECT_EQ(status, MS::kSuccess);
+    EXPECT_EQ(light.setLightShape(MFnVolumeLight::kConeVolume), MS::kSuccess);
+    EXPECT_EQ(light.lightShape(), MFnVolumeLight::kConeVolume);
+    make("pointLight", "bulb");
+    const MFnVolumeLight wrong(object("bulb"), &status);
+    EXPECT_EQ(status, MS::kInvalidParameter);
 }
 
 TEST_F(MFnLightTest, LightDataIsACompoundOfItsParts)
