@@ -78,13 +78,41 @@ void tellNodeAndPlug(const Callback<void(MObject&, MPlug&, void*)>& function, co
     function(node, plug);
 }
 
+void tellFormerName(const Callback<void(MObject&, const MString&, void*)>& function, const Event& event)
+{
+    MObject node = tvxAccess::handle(event.node);
+    function(node, tvxAccess::string(event.text));
+}
+
+void tellFormerUuid(const Callback<void(MObject&, const MUuid&, void*)>& function, const Event& event)
+{
+    MObject node = tvxAccess::handle(event.node);
+    function(node, MUuid(tvxAccess::string(event.text)));
+}
+
+// What is put into the modifier is done before the node goes.
+void askNodeAndModifier(const Callback<void(MObject&, MDGModifier&, void*)>& function, const Event& event)
+{
+    MObject node = tvxAccess::handle(event.node);
+    MDGModifier modifier;
+    function(node, modifier);
+    modifier.doIt();
+}
+
+void askModifier(const Callback<void(MDGModifier&, void*)>& function, const Event&)
+{
+    MDGModifier modifier;
+    function(modifier);
+    modifier.doIt();
+}
+
 /// Registers for one node, or for all with the null object.
 template <class Function, class Translate>
-MCallbackId addForOneOrAll(const MObject& node, Happening what, Function* function, void* clientData,
+MCallbackId addForOneOrAll(const MObject& node, Happenings what, Function* function, void* clientData,
                            Translate translate, MStatus* returnStatus)
 {
-    return node.isNull() ? addCallback({what}, function, clientData, translate, returnStatus)
-                         : addNodeCallback(node, {what}, function, clientData, translate, returnStatus);
+    return node.isNull() ? addCallback(what, function, clientData, translate, returnStatus)
+                         : addNodeCallback(node, what, function, clientData, translate, returnStatus);
 }
 
 } // namespace
@@ -127,103 +155,30 @@ MCallbackId MNodeMessage::addAttributeAddedOrRemovedCallback(MObject& node, MAtt
         clientData, translate, ReturnStatus);
 }
 
-MCallbackId MNodeMessage::addNodeDirtyCallback(MObject& node, MNodeFunction func, void* clientData,
-                                               MStatus* ReturnStatus)
-{
-    TVX_API_CALL_OR("MNodeMessage::addNodeDirtyCallback", ReturnStatus, 0);
-    return addNodeCallback(node, {Happening::plugOutdated}, func, clientData, tellNode, ReturnStatus);
-}
+/// Members that add a callback for one kind of event of a node. `add`: for that node only, or for all with
+/// the null object; `translate` calls the function.
+#define TVX_NODE_CALLBACK(member, Function, add, what, translate)                                            \
+    MCallbackId MNodeMessage::member(MObject& node, Function func, void* clientData, MStatus* ReturnStatus)  \
+    {                                                                                                        \
+        TVX_API_CALL_OR("MNodeMessage::" #member, ReturnStatus, 0);                                          \
+        return add(node, {Happening::what}, func, clientData, translate, ReturnStatus);                      \
+    }
 
-MCallbackId MNodeMessage::addNodeDirtyCallback(MObject& node, MBasicFunction func, void* clientData,
-                                               MStatus* ReturnStatus)
-{
-    TVX_API_CALL_OR("MNodeMessage::addNodeDirtyCallback", ReturnStatus, 0);
-    return addNodeCallback(node, {Happening::plugOutdated}, func, clientData, tellNothing, ReturnStatus);
-}
+TVX_NODE_CALLBACK(addNodeDirtyCallback, MNodeFunction, addNodeCallback, plugOutdated, tellNode)
+TVX_NODE_CALLBACK(addNodeDirtyCallback, MBasicFunction, addNodeCallback, plugOutdated, tellNothing)
+TVX_NODE_CALLBACK(addNodeDirtyCallback, MNodePlugFunction, addNodeCallback, plugOutdated, tellNodeAndPlug)
+TVX_NODE_CALLBACK(addNodeDirtyPlugCallback, MNodePlugFunction, addNodeCallback, plugOutdated, tellNodeAndPlug)
+TVX_NODE_CALLBACK(addNameChangedCallback, MNodeStringFunction, addForOneOrAll, nodeRenamed, tellFormerName)
+TVX_NODE_CALLBACK(addNameChangedCallback, MNodeFunction, addForOneOrAll, nodeRenamed, tellNode)
+TVX_NODE_CALLBACK(addUuidChangedCallback, MNodeUuidFunction, addForOneOrAll, uuidChanged, tellFormerUuid)
+TVX_NODE_CALLBACK(addNodeAboutToDeleteCallback, MNodeModifierFunction, addNodeCallback, nodeAboutToBeDeleted,
+                  askNodeAndModifier)
+TVX_NODE_CALLBACK(addNodeAboutToDeleteCallback, MModifierFunction, addNodeCallback, nodeAboutToBeDeleted,
+                  askModifier)
+TVX_NODE_CALLBACK(addNodePreRemovalCallback, MNodeFunction, addNodeCallback, nodeLeaving, tellNode)
+TVX_NODE_CALLBACK(addNodeDestroyedCallback, MBasicFunction, addNodeCallback, nodeDestroyed, tellNothing)
 
-MCallbackId MNodeMessage::addNodeDirtyCallback(MObject& node, MNodePlugFunction func, void* clientData,
-                                               MStatus* ReturnStatus)
-{
-    TVX_API_CALL_OR("MNodeMessage::addNodeDirtyCallback", ReturnStatus, 0);
-    return addNodeCallback(node, {Happening::plugOutdated}, func, clientData, tellNodeAndPlug, ReturnStatus);
-}
-
-MCallbackId MNodeMessage::addNodeDirtyPlugCallback(MObject& node, MNodePlugFunction func, void* clientData,
-                                                   MStatus* ReturnStatus)
-{
-    TVX_API_CALL_OR("MNodeMessage::addNodeDirtyPlugCallback", ReturnStatus, 0);
-    return addNodeCallback(node, {Happening::plugOutdated}, func, clientData, tellNodeAndPlug, ReturnStatus);
-}
-
-MCallbackId MNodeMessage::addNameChangedCallback(MObject& node, MNodeStringFunction func, void* clientData,
-                                                 MStatus* ReturnStatus)
-{
-    TVX_API_CALL_OR("MNodeMessage::addNameChangedCallback", ReturnStatus, 0);
-    const auto translate = [](const auto& function, const Event& event) {
-        MObject renamed = tvxAccess::handle(event.node);
-        function(renamed, tvxAccess::string(event.text));
-    };
-    return addForOneOrAll(node, Happening::nodeRenamed, func, clientData, translate, ReturnStatus);
-}
-
-MCallbackId MNodeMessage::addNameChangedCallback(MObject& node, MNodeFunction func, void* clientData,
-                                                 MStatus* ReturnStatus)
-{
-    TVX_API_CALL_OR("MNodeMessage::addNameChangedCallback", ReturnStatus, 0);
-    return addForOneOrAll(node, Happening::nodeRenamed, func, clientData, tellNode, ReturnStatus);
-}
-
-MCallbackId MNodeMessage::addUuidChangedCallback(MObject& node, MNodeUuidFunction func, void* clientData,
-                                                 MStatus* ReturnStatus)
-{
-    TVX_API_CALL_OR("MNodeMessage::addUuidChangedCallback", ReturnStatus, 0);
-    const auto translate = [](const auto& function, const Event& event) {
-        MObject changed = tvxAccess::handle(event.node);
-        function(changed, MUuid(tvxAccess::string(event.text)));
-    };
-    return addForOneOrAll(node, Happening::uuidChanged, func, clientData, translate, ReturnStatus);
-}
-
-MCallbackId MNodeMessage::addNodeAboutToDeleteCallback(MObject& node, MNodeModifierFunction func,
-                                                       void* clientData, MStatus* ReturnStatus)
-{
-    TVX_API_CALL_OR("MNodeMessage::addNodeAboutToDeleteCallback", ReturnStatus, 0);
-    const auto translate = [](const auto& function, const Event& event) {
-        MObject doomed = tvxAccess::handle(event.node);
-        MDGModifier modifier;
-        function(doomed, modifier);
-        modifier.doIt();
-    };
-    return addNodeCallback(node, {Happening::nodeAboutToBeDeleted}, func, clientData, translate,
-                           ReturnStatus);
-}
-
-MCallbackId MNodeMessage::addNodeAboutToDeleteCallback(MObject& node, MModifierFunction func,
-                                                       void* clientData, MStatus* ReturnStatus)
-{
-    TVX_API_CALL_OR("MNodeMessage::addNodeAboutToDeleteCallback", ReturnStatus, 0);
-    const auto translate = [](const auto& function, const Event&) {
-        MDGModifier modifier;
-        function(modifier);
-        modifier.doIt();
-    };
-    return addNodeCallback(node, {Happening::nodeAboutToBeDeleted}, func, clientData, translate,
-                           ReturnStatus);
-}
-
-MCallbackId MNodeMessage::addNodePreRemovalCallback(MObject& node, MNodeFunction func, void* clientData,
-                                                    MStatus* ReturnStatus)
-{
-    TVX_API_CALL_OR("MNodeMessage::addNodePreRemovalCallback", ReturnStatus, 0);
-    return addNodeCallback(node, {Happening::nodeLeaving}, func, clientData, tellNode, ReturnStatus);
-}
-
-MCallbackId MNodeMessage::addNodeDestroyedCallback(MObject& node, MBasicFunction func, void* clientData,
-                                                   MStatus* ReturnStatus)
-{
-    TVX_API_CALL_OR("MNodeMessage::addNodeDestroyedCallback", ReturnStatus, 0);
-    return addNodeCallback(node, {Happening::nodeDestroyed}, func, clientData, tellNothing, ReturnStatus);
-}
+#undef TVX_NODE_CALLBACK
 
 MCallbackId MNodeMessage::addKeyableChangeOverride(MPlug& plug, MKeyableFunction func, void* clientData,
                                                    MStatus* status)
