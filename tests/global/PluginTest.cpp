@@ -79,6 +79,7 @@ TEST_F(Plugin, IdentifiesItself)
     EXPECT_EQ(plugin->vendor, "Tarvox");
     EXPECT_EQ(plugin->version, "2.5.0.1");
     EXPECT_EQ(plugin->apiVersion, "201602");
+    EXPECT_EQ(plugin->requiredApiVersion, "Any");
     EXPECT_EQ(plugin->interfaceProcedures.creation, "tvxCrowdRenderCreateUI");
     EXPECT_EQ(plugin->interfaceProcedures.deletion, "tvxCrowdRenderDeleteUI");
     EXPECT_EQ(plugin->interfaceProcedures.batchCreation, "tvxCrowdRenderBatchMode");

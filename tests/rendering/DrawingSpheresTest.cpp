@@ -40,7 +40,7 @@ TEST(Sphere, OfOneStackAndSliceIsOneBandFromPoleToPole)
 class Spheres : public testing::TestWithParam<int>
 {
 };
-INSTANTIATE_TEST_SUITE_P(Segments, Spheres, testing::Values(0, 1, 2, 3, 64));
+INSTANTIATE_TEST_SUITE_P(Segments, Spheres, testing::Values(0, 1, 2, 3, 11, 64));
 
 TEST_P(Spheres, AreBandsFromTheSouthPoleUpwards)
 {

@@ -8,6 +8,7 @@
 #include <gtest/gtest.h>
 
 #include <cerrno>
+#include <fcntl.h>
 #include <iostream>
 #include <string>
 #include <unistd.h>
@@ -79,6 +80,13 @@ TEST_F(LogFileStreamTest, LetsOthersReadAndWriteTheFile)
     EXPECT_TRUE(other.isOpen());
     stream << "mine" << std::flush;
     EXPECT_EQ(contents(), "mine");
+}
+
+TEST_F(LogFileStreamTest, IsNotHandedOnToProgramsThatAreStarted)
+{
+    const int file = descriptor::openForWriting(path.c_str());
+    EXPECT_NE(::fcntl(file, F_GETFD) & FD_CLOEXEC, 0);
+    descriptor::close(file);
 }
 
 TEST_F(LogFileStreamTest, GoesOnAfterAShortWrite)

@@ -8,6 +8,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <cstdlib>
 #include <ostream>
 #include <stdexcept>
 #include <string>
@@ -103,6 +104,18 @@ const bool kAdmittedAtFirst[] = {coreLogAdmits(core::kWarning), coreLogAdmits(co
 TEST(CoreLogFilter, IsThatOfANewLogBeforeTheLogIsMade)
 {
     EXPECT_THAT(kAdmittedAtFirst, ElementsAre(true, false));
+}
+
+// A handler that is set before the log is made runs after the log's end.
+TEST(CoreLogFilter, IsThatOfANewLogAfterTheLogHasEnded)
+{
+    GTEST_FLAG_SET(death_test_style, "threadsafe"); // in a process where the log is not made yet
+    const auto endOfProcess = [] {
+        std::atexit([] { std::_Exit(coreLogAdmits(core::kInfo) ? 1 : 0); });
+        coreLog().setSeverityFilter(core::kDebug);
+        std::exit(coreLogAdmits(core::kInfo) ? 0 : 2);
+    };
+    EXPECT_EXIT(endOfProcess(), testing::ExitedWithCode(0), "");
 }
 
 TEST(CoreLogFilter, IsSeenAsItIsSet)
