@@ -27,6 +27,14 @@ TEST(CoreUnits, LengthsAreConverted)
     EXPECT_EQ(MayaUtils::convertDistance(0.1f, DistanceUnit::kMiles, DistanceUnit::kMiles), 0.1f);
 }
 
+// Which decides the last digit: a foot is 3048 of the units that the factors count.
+TEST(CoreUnits, LengthsAreMultipliedBeforeTheyAreDivided)
+{
+    const float expected = 0.1f * 3048.0f / 3048.0f;
+    ASSERT_NE(expected, 0.1f);
+    EXPECT_EQ(MayaUtils::convertDistance(0.1f, DistanceUnit::kFeet, DistanceUnit::kFeet), expected);
+}
+
 TEST(CoreUnits, LengthsWithoutAUnitAreInTheFirst)
 {
     EXPECT_EQ(MayaUtils::convertDistanceTo(200.0f, DistanceUnit::kMeters), 2.0f);

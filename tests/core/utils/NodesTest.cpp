@@ -90,6 +90,17 @@ TEST_F(StringAttributeByCommand, IsOnlySetWhenItIsThere)
                 ElementsAre("|objExists \"n.a\"", "|setAttr -type \"string\" \"n.a\" \"v w\" "));
 }
 
+TEST_F(StringAttributeByCommand, AnyAnswerButZeroSaysThatItIsThere)
+{
+    for (const int answer : {2, -1}) {
+        runner.commands.clear();
+        runner.answer("objExists \"n.a\"", answer);
+        MayaUtils::setStringAttributeByCommand("n", "a", "A", "v");
+        EXPECT_THAT(runner.commands,
+                    ElementsAre("|objExists \"n.a\"", "|setAttr -type \"string\" \"n.a\" \"v\" "));
+    }
+}
+
 TEST_F(StringAttributeByCommand, ValuesAreNotEscaped)
 {
     runner.answer("objExists \"n.a\"", 1);
