@@ -8,6 +8,7 @@
 #include "lineBreaker.h"
 #include "numberText.h"
 #include "plugTarget.h"
+#include "pluginDataText.h"
 #include "polyFaces.h"
 #include "typedData.h"
 #include "uiUnits.h"
@@ -343,7 +344,8 @@ void NodeWriter::writeEdits(const ReferenceText& text)
         line("setAttr" + sizeFlag(text.placeholders) + pathText("phl") + ";");
     for (std::size_t i = 1; i <= text.placeholders; ++i)
         line("setAttr" + pathText("phl[" + std::to_string(i) + "]") + " 0;");
-    line("setAttr" + pathText("ed") + " -type \"dataReferenceEdits\"" + text.edits + ";");
+    line("setAttr" + pathText("ed") + " -type \"dataReferenceEdits\"" +
+         editsText(text.referenceNode, text.edits) + ";");
 }
 
 void NodeWriter::declare(const Attribute& attribute)
@@ -430,6 +432,8 @@ std::string NodeWriter::plainWords(const Plug& plug)
     if (data.value->type() == engine::DataType::string)
         return " -type \"string\" " +
                stringText(static_cast<const engine::StringData&>(*data.value).value.str());
+    if (data.value->type() == engine::DataType::registered)
+        return pluginDataWords(static_cast<const engine::PluginData&>(*data.value), m_scene.scriptEditor());
     return dataWords(*data.value, filePath(plug));
 }
 

@@ -5,6 +5,7 @@
 #include "lineBreaker.h"
 #include "referenceEdits.h"
 #include "referenceEvents.h"
+#include "referenceNames.h"
 #include "sceneReader.h"
 #include "sceneText.h"
 
@@ -159,9 +160,16 @@ void giveFosterParent(Scene& scene, const Reference& reference, const ReferenceT
 {
     if (text.fosterChildren.empty())
         return;
-    const auto foster = scene.createNode("fosterParent", ":" + fosterName(reference));
+    const auto before = scene.findNode("|" + fosterName(reference));
+    const auto foster = before ? before : scene.createNode("fosterParent", ":" + fosterName(reference));
     for (const auto& fostered : text.fosterChildren)
         (void)scene.reparent(*fostered.first, fostered.first->parents().front(), foster.value->asDag());
+}
+
+Outcome belongsToAnother(const Reference& reference)
+{
+    return {Reason::readOnly, "The reference '" + reference.nodeName + "' belongs to the reference '" +
+                                  reference.parent->nodeName + "': only that one can be changed"};
 }
 
 int depthOf(const Reference& reference)
@@ -268,7 +276,7 @@ Outcome unloadReference(Scene& scene, Reference& reference)
     if (!reference.isLoaded)
         return {Reason::failed, "The reference '" + reference.nodeName + "' is not loaded"};
     if (reference.parent)
-        return {Reason::notImplemented, "Only references of the scene itself can be unloaded"};
+        return belongsToAnother(reference);
     tellOfReference(scene, engine::Happening::referenceUnloadBegun, reference);
     const ReferenceText text = textOf(scene, reference);
     std::vector<Node*> nodes = allNodes(scene, reference);
@@ -293,22 +301,28 @@ Outcome unloadReference(Scene& scene, Reference& reference)
     return {};
 }
 
-Outcome removeReference(Scene& scene, Reference& reference)
+void dropReference(Scene& scene, const Reference& reference)
 {
-    if (reference.parent)
-        return {Reason::readOnly, "The reference '" + reference.nodeName + "' belongs to another reference"};
-    tellOfReference(scene, engine::Happening::referenceRemovalBegun, reference);
-    if (reference.isLoaded)
-        if (Outcome unloaded = unloadReference(scene, reference); !unloaded)
-            return unloaded;
     if (const auto node = scene.findNode(":" + reference.nodeName)) {
         node.value->isLockedNode = false;
         (void)scene.deleteNode(*node.value);
     }
-    const engine::Event gone = referenceEvent(scene, engine::Happening::referenceRemovalDone, reference);
     const auto isIt = [&](const std::unique_ptr<Reference>& other) { return other.get() == &reference; };
     scene.references.erase(std::remove_if(scene.references.begin(), scene.references.end(), isIt),
                            scene.references.end());
+}
+
+Outcome removeReference(Scene& scene, Reference& reference)
+{
+    if (reference.parent)
+        return belongsToAnother(reference);
+    tellOfReference(scene, engine::Happening::referenceRemovalBegun, reference);
+    if (reference.isLoaded)
+        if (Outcome unloaded = unloadReference(scene, reference); !unloaded)
+            return unloaded;
+    engine::Event gone = referenceEvent(scene, engine::Happening::referenceRemovalDone, reference);
+    gone.node = nullptr;
+    dropReference(scene, reference);
     scene.isModified = true;
     scene.observers().tell(gone);
     return {};

@@ -30,10 +30,21 @@ using ReferenceStates = std::map<std::string, bool>;
 void loadReference(engine::Scene& scene, engine::Reference& reference, const ReadOptions& options,
                    ReferenceStates& states, SceneSummary& summary);
 
-/// Takes the nodes of a reference's file out of the scene; the edits go back to its reference node.
+/// Takes the nodes of a reference's file out of the scene; the edits go back to its reference node. Only for
+/// references of the scene itself.
 engine::Outcome unloadReference(engine::Scene& scene, engine::Reference& reference);
 /// The same, and the reference with its node is gone for good.
 engine::Outcome removeReference(engine::Scene& scene, engine::Reference& reference);
+/// Takes a reference and its node out of the scene without its file's nodes.
+void dropReference(engine::Scene& scene, const engine::Reference& reference);
+/// Loads or unloads a reference within another one. The scene's own reference around it is read again, and
+/// with it all references below that, which are other objects afterwards.
+engine::Outcome setNestedLoaded(engine::Scene& scene, engine::Reference& reference, bool isLoaded,
+                                const ReadOptions& options, SceneSummary& summary);
+/// Makes the nodes of a loaded reference the scene's own, with all edits; references in it become the
+/// scene's own ones. The reference is gone.
+engine::Outcome importReference(engine::Scene& scene, engine::Reference& reference,
+                                const ReadOptions& options, SceneSummary& summary);
 
 /// A reference by its reference node, its file (as named or where it is) or a node of it; null for none.
 engine::Reference* findReference(engine::Scene& scene, const std::string& name);

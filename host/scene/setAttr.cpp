@@ -2,6 +2,7 @@
 #include "setAttr.h"
 
 #include "numberText.h"
+#include "pluginDataText.h"
 #include "polyFaces.h"
 #include "typedData.h"
 #include "uiUnits.h"
@@ -251,8 +252,10 @@ std::string rawValues(std::string_view source, std::string_view typeName)
     return raw;
 }
 
-Expected<engine::Ref<engine::Data>> makeData(const SetAttrRequest& request)
+Expected<engine::Ref<engine::Data>> makeData(const SetAttrRequest& request, engine::Scene& scene)
 {
+    if (const auto type = scene.dataTypes().find(std::string(request.type)))
+        return parsePluginData(type, request.values, request.end);
     Words words(request.values, request.end);
     if (!isKnownDataType(request.type))
         if (std::string raw = rawValues(request.source, request.type); !raw.empty())
@@ -270,7 +273,7 @@ Outcome storeData(const PlugTarget& target, const SetAttrRequest& request)
     const Expected<Plug> plug = target.isRange ? target.at(target.first) : target.plug;
     if (!plug)
         return plug.outcome;
-    const auto data = makeData(request);
+    const auto data = makeData(request, plug.value.node()->scene());
     if (!data)
         return data.outcome;
     engine::Outcome stored = engine::giveData(plug.value, data.value);

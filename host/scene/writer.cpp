@@ -7,6 +7,7 @@
 #include "references.h"
 
 #include "engine/atomicFile.h"
+#include "engine/pluginData.h"
 #include "mel/arguments.h"
 
 #include <algorithm>
@@ -66,6 +67,25 @@ std::string dateText(const WriteOptions& options)
     char text[64];
     std::strftime(text, sizeof text, "%a, %b %d, %Y %I:%M:%S %p", &parts);
     return text;
+}
+
+/// The requirement of a plug-in among others; made when there is none.
+Scene::Requirement& requirementOf(std::vector<Scene::Requirement>& all, const std::string& plugin)
+{
+    const auto found = std::find_if(all.begin(), all.end(), [&](const Scene::Requirement& candidate) {
+        return candidate.plugin == plugin;
+    });
+    if (found != all.end())
+        return *found;
+    Scene::Requirement& added = all.emplace_back();
+    added.plugin = plugin;
+    return added;
+}
+
+void addOnce(std::vector<std::string>& names, const std::string& name)
+{
+    if (std::find(names.begin(), names.end(), name) == names.end())
+        names.push_back(name);
 }
 
 std::string systemText()
@@ -191,20 +211,12 @@ void SceneWriter::writeRequirement(const Scene::Requirement& requirement)
 std::vector<Scene::Requirement> SceneWriter::requirements() const
 {
     std::vector<Scene::Requirement> all = m_scene.requirements;
-    for (engine::NodeType* type : m_scene.types().all()) {
-        if (type->plugin.empty() || type->liveNodes == 0)
-            continue;
-        auto found = std::find_if(all.begin(), all.end(), [&](const Scene::Requirement& candidate) {
-            return candidate.plugin == type->plugin;
-        });
-        if (found == all.end()) {
-            Scene::Requirement added;
-            added.plugin = type->plugin;
-            found = all.insert(all.end(), std::move(added));
-        }
-        if (std::find(found->nodeTypes.begin(), found->nodeTypes.end(), type->name) == found->nodeTypes.end())
-            found->nodeTypes.push_back(type->name);
-    }
+    for (engine::NodeType* type : m_scene.types().all())
+        if (!type->plugin.empty() && type->liveNodes > 0)
+            addOnce(requirementOf(all, type->plugin).nodeTypes, type->name);
+    for (const auto& type : m_scene.dataTypes().all())
+        if (engine::hasDataInUse(*type, m_scene.types()))
+            addOnce(requirementOf(all, type->plugin).dataTypes, type->name);
     for (Scene::Requirement& requirement : all)
         if (m_options.pluginVersion)
             if (std::string version = m_options.pluginVersion(requirement.plugin); !version.empty())

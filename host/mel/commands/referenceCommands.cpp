@@ -2,9 +2,12 @@
 #include "referenceCommands.h"
 
 #include "commandSupport.h"
+#include "referenceEditCommands.h"
 #include "sceneCommands.h"
 
+#include "scene/referenceEditList.h"
 #include "scene/referenceEvents.h"
+#include "scene/referenceNames.h"
 #include "scene/references.h"
 
 #include <algorithm>
@@ -31,19 +34,6 @@ std::string shownPath(const engine::Scene& scene, const Reference& reference)
     return number == 0 ? path : path + "{" + std::to_string(number) + "}";
 }
 
-Reference& referenceNamed(CommandContext& context, const std::string& name)
-{
-    engine::Scene& scene = sceneOf(context);
-    for (const auto& reference : scene.references)
-        if (shownPath(scene, *reference) == name)
-            return *reference;
-    const std::string file = sessionOf(context).workspace.resolved(name).string();
-    for (const std::string& each : {name, file})
-        if (Reference* found = scene::findReference(scene, each))
-            return *found;
-    context.fail("'" + name + "' is not a reference file, reference node, or referenced node.");
-}
-
 /// The reference that a call means: by `-referenceNode` or the file that is named.
 Reference& referenceOf(CommandContext& context, const ParsedCommand& call)
 {
@@ -56,6 +46,10 @@ Reference& referenceOf(CommandContext& context, const ParsedCommand& call)
 
 void load(CommandContext& context, Reference& reference)
 {
+    if (reference.parent) {
+        require(context, sessionOf(context).setNestedLoaded(context.interpreter(), reference, true));
+        return;
+    }
     if (reference.isLoaded)
         require(context, scene::unloadReference(sceneOf(context), reference));
     sessionOf(context).loadReference(context.interpreter(), reference);
@@ -111,6 +105,21 @@ Value addReference(CommandContext& context, const ParsedCommand& call)
     return Value(shownPath(scene, added));
 }
 
+/// Names another file; nothing has changed when that is not possible.
+void replaceFile(CommandContext& context, Reference& reference, const fs::path& file)
+{
+    if (reference.parent)
+        context.fail("The reference '" + reference.nodeName + "' belongs to the reference '" +
+                     reference.parent->nodeName + "', whose file names its file");
+    if (!fs::is_regular_file(file))
+        context.fail("File not found: \"" + file.string() + "\"");
+    if (reference.isLoaded)
+        require(context, scene::unloadReference(sceneOf(context), reference));
+    reference.file = file.string();
+    reference.path = reference.file;
+    sceneOf(context).isModified = true;
+}
+
 template <class Change>
 Value change(CommandContext& context, Reference& reference, const Change& apply)
 {
@@ -123,16 +132,41 @@ Value loadOne(CommandContext& context, const ParsedCommand& call)
 {
     Reference& reference = referenceNamed(context, call.string("loadReference"));
     if (!call.positional.empty())
-        reference.file = sessionOf(context).workspace.resolved(call.names().front()).string();
+        replaceFile(context, reference, sessionOf(context).workspace.resolved(call.names().front()));
+    // Where the file is may show only now, and references in others are other objects afterwards.
+    const std::string node = reference.nodeName;
     load(context, reference);
-    return Value(shownPath(sceneOf(context), reference));
+    return Value(shownPath(sceneOf(context), referenceNamed(context, node)));
 }
 
 Value unloadOne(CommandContext& context, const ParsedCommand& call)
 {
     return change(
-        context, referenceNamed(context, call.string("unloadReference")),
-        [&](Reference& reference) { require(context, scene::unloadReference(sceneOf(context), reference)); });
+        context, referenceNamed(context, call.string("unloadReference")), [&](Reference& reference) {
+            require(context, reference.parent && reference.isLoaded
+                                 ? sessionOf(context).setNestedLoaded(context.interpreter(), reference, false)
+                                 : scene::unloadReference(sceneOf(context), reference));
+        });
+}
+
+Value importOne(CommandContext& context, const ParsedCommand& call)
+{
+    return change(context, referenceOf(context, call), [&](Reference& reference) {
+        require(context, sessionOf(context).importReference(context.interpreter(), reference));
+    });
+}
+
+/// Removes the edits of a reference that is not loaded.
+Value cleanOne(CommandContext& context, const ParsedCommand& call)
+{
+    return change(context, referenceNamed(context, call.string("cleanReference")), [&](Reference& reference) {
+        if (reference.isLoaded)
+            context.fail("The reference '" + reference.nodeName + "' is loaded: unload it first");
+        scene::EditFilter filter;
+        filter.referenceNode = reference.nodeName;
+        filter.command = editCommandOf(context, call);
+        (void)scene::changeEdits(sceneOf(context), filter, [](scene::OwnedEdit&) { return false; });
+    });
 }
 
 Value removeOne(CommandContext& context, const ParsedCommand& call)
@@ -144,20 +178,18 @@ Value removeOne(CommandContext& context, const ParsedCommand& call)
 
 using Action = Value (*)(CommandContext&, const ParsedCommand&);
 constexpr std::pair<const char*, Action> kActions[] = {
-    {"reference", addReference},
-    {"loadReference", loadOne},
-    {"unloadReference", unloadOne},
-    {"removeReference", removeOne},
+    {"reference", addReference},    {"loadReference", loadOne},     {"unloadReference", unloadOne},
+    {"removeReference", removeOne}, {"importReference", importOne}, {"cleanReference", cleanOne},
 };
 
 // referenceQuery
 
-Value::Strings nodeNames(CommandContext& context, const Reference& reference)
+Value::Strings nodeNames(CommandContext& context, const Reference& reference, bool wholePaths)
 {
     engine::Scene& scene = sceneOf(context);
     Value::Strings names;
-    for (const engine::Node* node : scene::allNodes(scene, reference))
-        names.push_back(scene.shortestName(*node));
+    for (engine::Node* node : scene::allNodes(scene, reference))
+        names.push_back(wholePaths ? scene::editName(*node) : scene.shortestName(*node));
     return names;
 }
 
@@ -178,6 +210,8 @@ Value referenceQuery(CommandContext& context, const ParsedCommand& call)
         const auto node = scene.findNode(name);
         return Value(node && node.value->isReferenced);
     }
+    if (asksForEdits(call))
+        return queryEdits(context, call);
     Reference* reference = &referenceNamed(context, name);
     if (call.has("parent")) {
         if (!reference->parent)
@@ -189,7 +223,7 @@ Value referenceQuery(CommandContext& context, const ParsedCommand& call)
     if (call.has("isLoaded"))
         return Value(reference->isLoaded);
     if (call.has("nodes"))
-        return Value(nodeNames(context, *reference));
+        return Value(nodeNames(context, *reference, call.has("dagPath")));
     if (call.has("child"))
         return Value(childNodes(scene, *reference));
     if (call.has("referenceNode"))
@@ -205,23 +239,50 @@ Value referenceQuery(CommandContext& context, const ParsedCommand& call)
 
 CommandSpec referenceQueryCommand()
 {
-    return makeCommand(
-        "referenceQuery", "Tells about a reference: by its node, its file or a node of it",
-        {switchFlag("f", "filename", "its file"),
-         switchFlag("un", "unresolvedName", "the file as the scene names it"),
-         switchFlag("shn", "shortName", "the file without its folder"),
-         switchFlag("rfn", "referenceNode", "its reference node"),
-         switchFlag("ns", "namespace", "the namespace of its nodes"),
-         switchFlag("n", "nodes", "its nodes, those of references in it included"),
-         switchFlag("il", "isLoaded", "whether it is loaded"),
-         switchFlag("inr", "isNodeReferenced", "whether a node belongs to a reference"),
-         switchFlag("p", "parent", "asks about the reference that has this one in it"),
-         switchFlag("tr", "topReference", "asks about the scene's own reference it belongs to"),
-         switchFlag("ch", "child", "the reference nodes of the references in it")},
-        names(1, 1), referenceQuery);
+    std::vector<FlagSpec> flags = {
+        switchFlag("f", "filename", "its file"),
+        switchFlag("un", "unresolvedName", "the file as the scene names it"),
+        switchFlag("shn", "shortName", "the file without its folder"),
+        switchFlag("rfn", "referenceNode", "its reference node"),
+        switchFlag("ns", "namespace", "the namespace of its nodes"),
+        switchFlag("n", "nodes", "its nodes, those of references in it included"),
+        switchFlag("il", "isLoaded", "whether it is loaded"),
+        switchFlag("inr", "isNodeReferenced", "whether a node belongs to a reference"),
+        switchFlag("p", "parent", "asks about the reference that has this one in it"),
+        switchFlag("tr", "topReference", "asks about the scene's own reference it belongs to"),
+        switchFlag("dp", "dagPath", "tells whole paths of nodes"),
+        switchFlag("ch", "child", "the reference nodes of the references in it")};
+    const std::vector<FlagSpec> ofEdits = editQueryFlags();
+    flags.insert(flags.end(), ofEdits.begin(), ofEdits.end());
+    return makeCommand("referenceQuery", "Tells about a reference: by its node, its file or a node of it",
+                       std::move(flags), names(1, 1), referenceQuery);
 }
 
 } // namespace
+
+Reference* findReference(CommandContext& context, const std::string& name)
+{
+    engine::Scene& scene = sceneOf(context);
+    const std::string file = sessionOf(context).workspace.resolved(name).string();
+    const std::string bare = name.substr(!name.empty() && name[0] == ':' ? 1 : 0);
+    for (const auto& reference : scene.references)
+        if (shownPath(scene, *reference) == name || reference->nodeName == bare)
+            return reference.get();
+    for (const auto& reference : scene.references)
+        for (const std::string& path : {reference->file, reference->path})
+            if (!path.empty() && (path == name || path == file))
+                return reference.get();
+    return nullptr;
+}
+
+Reference& referenceNamed(CommandContext& context, const std::string& name)
+{
+    if (Reference* found = findReference(context, name))
+        return *found;
+    if (Reference* found = scene::findReference(sceneOf(context), name))
+        return *found;
+    context.fail("'" + name + "' is not a reference file, reference node, or referenced node.");
+}
 
 std::vector<FlagSpec> referenceFlags()
 {
@@ -234,7 +295,10 @@ std::vector<FlagSpec> referenceFlags()
         valueFlag("rfn", "referenceNode", A::string, "the node of a reference", kCreateQuery),
         switchFlag("rr", "removeReference", "removes a reference"),
         valueFlag("lr", "loadReference", A::string, "loads the reference of a reference node"),
-        valueFlag("ur", "unloadReference", A::string, "unloads the reference of a reference node")};
+        valueFlag("ur", "unloadReference", A::string, "unloads the reference of a reference node"),
+        switchFlag("ir", "importReference", "makes the nodes of a reference the scene's own"),
+        valueFlag("cr", "cleanReference", A::string, "removes the edits of a reference that is not loaded"),
+        editCommandFlag()};
 }
 
 bool isAboutReferences(const ParsedCommand& call)
@@ -280,7 +344,7 @@ Value queryReferences(CommandContext& context, const ParsedCommand& call)
 
 void registerReferenceCommands(CommandTable& table)
 {
-    table.add({referenceQueryCommand()});
+    table.add({referenceQueryCommand(), referenceEditCommand()});
 }
 
 } // namespace tvxhost::mel

@@ -3,10 +3,20 @@
 
 #include "../commandTable.h"
 
+#include "engine/reference.h"
+
+#include <string>
+#include <vector>
+
 namespace tvxhost::mel {
 
 class CommandContext;
 class ParsedCommand;
+
+/// The reference of a reference node or file; null when the name is neither.
+engine::Reference* findReference(CommandContext& context, const std::string& name);
+/// The same, or that of a node; stops the script when there is none.
+engine::Reference& referenceNamed(CommandContext& context, const std::string& name);
 
 /// The flags of `file` that are about references.
 std::vector<FlagSpec> referenceFlags();

@@ -173,6 +173,19 @@ void SceneSession::loadReference(Interpreter& interpreter, engine::Reference& re
     scene::loadReference(m_scene, reference, readOptions(interpreter), states, summary);
 }
 
+engine::Outcome SceneSession::setNestedLoaded(Interpreter& interpreter, engine::Reference& reference,
+                                              bool isLoaded)
+{
+    scene::SceneSummary summary;
+    return scene::setNestedLoaded(m_scene, reference, isLoaded, readOptions(interpreter), summary);
+}
+
+engine::Outcome SceneSession::importReference(Interpreter& interpreter, engine::Reference& reference)
+{
+    scene::SceneSummary summary;
+    return scene::importReference(m_scene, reference, readOptions(interpreter), summary);
+}
+
 engine::Outcome SceneSession::newScene()
 {
     if (Outcome outcome = mayDo(m_scene, Happening::newChecked); !outcome)

@@ -3,6 +3,7 @@
 
 #include "conditions.h"
 #include "interfaceTree.h"
+#include "keyClipboard.h"
 #include "scriptJobs.h"
 #include "windowPreferences.h"
 #include "workspace.h"
@@ -50,6 +51,8 @@ public:
     Workspace workspace;
     /// What scripts may ask for by name.
     Conditions conditions;
+    /// What was copied last of the scene's animation.
+    KeyClipboard keyClipboard;
     /// Scripts that wait for something to happen.
     ScriptJobs jobs;
     /// What the user will answer to the next dialogs, in order; a dialog that finds none is cancelled.
@@ -82,6 +85,10 @@ public:
     scene::ReadResult import(Interpreter& interpreter, const std::filesystem::path& file);
     /// Loads a reference; whether it was shows in the reference, what went wrong has been shown.
     void loadReference(Interpreter& interpreter, engine::Reference& reference);
+    /// Loads or unloads a reference within another one; see scene::setNestedLoaded().
+    engine::Outcome setNestedLoaded(Interpreter& interpreter, engine::Reference& reference, bool isLoaded);
+    /// Makes the nodes of a reference the scene's own.
+    engine::Outcome importReference(Interpreter& interpreter, engine::Reference& reference);
     /// Saves the scene under its name or another.
     engine::Outcome saveAs(const std::filesystem::path& file);
     /// Writes the scene to another file and leaves it what it is called.

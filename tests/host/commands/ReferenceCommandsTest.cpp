@@ -92,4 +92,134 @@ TEST_F(ReferenceCommandsTest, referenceQueryTellsAboutNodesFilesAndReferenceNode
                 HasSubstr("'own' is not a reference file, reference node, or referenced node."));
 }
 
+TEST_F(ReferenceCommandsTest, aReferenceIsReplacedByAnotherFileWithItsEdits)
+{
+    std::ofstream(m_folder / "rig two.ma") << "//Maya ASCII 2016 scene\ncreateNode transform -n \"body\";\n"
+                                              "createNode transform -n \"tail\" -p \"body\";\n";
+    run("file -r -ns \"r\" \"rig.ma\"; setAttr \"r:body.v\" 0; setAttr \"r:head.v\" 0");
+    EXPECT_EQ(failure("file -loadReference \"rRN\" \"none.ma\""),
+              "File not found: \"" + path("none.ma") + "\"");
+    EXPECT_EQ(run("objExists \"r:head\""), "1");
+    EXPECT_EQ(run("file -loadReference \"rRN\" \"rig two.ma\""), path("rig two.ma"));
+    EXPECT_EQ(run("objExists \"r:tail\""), "1");
+    EXPECT_EQ(run("objExists \"r:head\""), "0");
+    EXPECT_EQ(run("getAttr \"r:body.v\""), "0");
+    EXPECT_THAT(strings("referenceQuery -es \"rRN\""), ElementsAre("setAttr |r:body.visibility 0"));
+    EXPECT_THAT(strings("referenceQuery -es -fld 1 -scs 0 \"rRN\""),
+                ElementsAre("setAttr |r:body|r:head.visibility 0"));
+}
+
+class ReferenceEditsTest : public ReferenceCommandsTest
+{
+protected:
+    void SetUp() override
+    {
+        ReferenceCommandsTest::SetUp();
+        run("file -r -ns \"r\" \"rig.ma\"; setAttr \"r:body.v\" 0; createNode transform -n \"own\"; "
+            "connectAttr own.tx \"r:head.tx\"; connectAttr \"r:head.ty\" own.ty; "
+            "parent -r \"r:head\" own");
+    }
+};
+
+TEST_F(ReferenceEditsTest, areToldAsStatementsNodesAttributesAndPlugs)
+{
+    EXPECT_THAT(strings("referenceQuery -editStrings \"rRN\""),
+                ElementsAre("parent -s -r |r:body|r:head |own", "setAttr |r:body.visibility 0",
+                            "connectAttr |own.translateX |own|r:head.translateX",
+                            "connectAttr |own|r:head.translateY |own.translateY"));
+    EXPECT_THAT(strings("referenceQuery -es -ec setAttr \"rRN\""),
+                ElementsAre("setAttr |r:body.visibility 0"));
+    EXPECT_THAT(strings("referenceQuery -es -ec setAttr \"r:head\""), ElementsAre());
+    EXPECT_THAT(strings("referenceQuery -editNodes -ec connectAttr \"rRN\""),
+                ElementsAre("|own", "|own|r:head", "|own|r:head", "|own"));
+    EXPECT_THAT(strings("referenceQuery -editAttrs -ec setAttr \"r:body\""), ElementsAre("visibility"));
+    EXPECT_THAT(strings("referenceQuery -editAttrs -editNodes -ec setAttr \"r:body\""),
+                ElementsAre("|r:body.visibility"));
+    EXPECT_THAT(strings("referenceQuery -es -ec setAttr -showNamespace 0 \"rRN\""),
+                ElementsAre("setAttr |body.visibility 0"));
+    EXPECT_THAT(strings("referenceQuery -es -ec parent -showDagPath 0 \"rRN\""),
+                ElementsAre("parent -s -r r:head own"));
+    EXPECT_EQ(failure("referenceQuery -es -ec move \"rRN\""),
+              "There are no reference edits of the kind 'move'");
+    EXPECT_THAT(failure("referenceQuery -es \"own\""), HasSubstr("'own' is not a reference file"));
+}
+
+TEST_F(ReferenceEditsTest, areToldAndRemovedWhileTheirNodesAreNotThere)
+{
+    run("file -unloadReference \"rRN\"");
+    EXPECT_THAT(strings("referenceQuery -es \"rRN\""),
+                ElementsAre("parent -s -r |r:body|r:head |own", "setAttr |r:body.visibility 0",
+                            "connectAttr |own.translateX |own|r:head.translateX",
+                            "connectAttr |own|r:head.translateY |own.translateY"));
+    run("referenceEdit -removeEdits -successfulEdits 1 \"r:body.visibility\"");
+    EXPECT_THAT(strings("referenceQuery -es -ec setAttr \"rRN\""), ElementsAre());
+    run("referenceEdit -removeEdits -successfulEdits 1 -editCommand connectAttr \"rRN\"");
+    EXPECT_THAT(strings("referenceQuery -es \"rRN\""), ElementsAre("parent -s -r |r:body|r:head |own"));
+    EXPECT_EQ(run("size(`listConnections own`)"), "0") << "nothing is left at the placeholders";
+    run("file -loadReference \"rRN\"");
+    EXPECT_EQ(run("getAttr \"r:body.v\""), "1");
+    EXPECT_EQ(run("objExists \"|own|r:head\""), "1");
+}
+
+TEST_F(ReferenceEditsTest, stayWhileTheirNodesAreThere)
+{
+    run("referenceEdit -removeEdits -successfulEdits 1 -failedEdits 1 \"rRN\"");
+    EXPECT_EQ(run("size(`referenceQuery -es \"rRN\"`)"), "4");
+    EXPECT_EQ(failure("referenceEdit \"rRN\""), "referenceEdit: nothing was asked for");
+    EXPECT_EQ(failure("file -cleanReference \"rRN\""), "The reference 'rRN' is loaded: unload it first");
+}
+
+TEST_F(ReferenceEditsTest, areAllRemovedFromAReferenceThatIsCleaned)
+{
+    run("file -unloadReference \"rRN\"");
+    EXPECT_EQ(run("file -cleanReference \"rRN\" -editCommand \"parent\""), path("rig.ma"));
+    EXPECT_EQ(run("size(`referenceQuery -es \"rRN\"`)"), "3");
+    run("file -cleanReference \"rRN\"");
+    EXPECT_EQ(run("size(`referenceQuery -es \"rRN\"`)"), "0");
+    run("file -loadReference \"rRN\"");
+    EXPECT_EQ(run("getAttr \"r:body.v\""), "1");
+    EXPECT_EQ(run("objExists \"|r:body|r:head\""), "1");
+}
+
+TEST_F(ReferenceEditsTest, thatFailAreAimedElsewhereAndApplied)
+{
+    std::ofstream(m_folder / "rig.ma") << "//Maya ASCII 2016 scene\ncreateNode transform -n \"torso\";\n"
+                                          "createNode transform -n \"head\" -p \"torso\";\n";
+    run("file -loadReference \"rRN\"");
+    EXPECT_THAT(strings("referenceQuery -es -fld 1 -scs 0 -ec setAttr \"rRN\""),
+                ElementsAre("setAttr |r:body.visibility 0"));
+    run("referenceEdit -changeEditTarget \"|r:body\" \"|r:torso\" \"rRN\"");
+    run("referenceEdit -applyFailedEdits \"rRN\"");
+    EXPECT_EQ(run("getAttr \"r:torso.v\""), "0");
+    EXPECT_THAT(strings("referenceQuery -es -fld 1 -scs 0 -ec setAttr \"rRN\""), ElementsAre());
+    run("referenceEdit -removeEdits \"rRN\"");
+    EXPECT_THAT(strings("referenceQuery -es -fld 1 -scs 0 \"rRN\""), ElementsAre());
+}
+
+TEST_F(ReferenceEditsTest, stayWithTheNodesOfAReferenceThatIsImported)
+{
+    EXPECT_EQ(run("file -importReference -referenceNode \"rRN\""), path("rig.ma"));
+    EXPECT_EQ(run("size(`file -q -r`)"), "0");
+    EXPECT_EQ(run("objExists rRN"), "0");
+    EXPECT_EQ(run("getAttr \"r:body.v\""), "0");
+    EXPECT_EQ(run("connectionInfo -sfd \"r:head.tx\""), "own.translateX");
+    EXPECT_EQ(run("rename \"r:body\" \"mine\""), "mine");
+}
+
+TEST_F(ReferenceCommandsTest, aReferenceWithinAnotherOneIsUnloadedAndLoadedAlone)
+{
+    std::ofstream(m_folder / "pair.ma") << "//Maya ASCII 2016 scene\n"
+                                           "file -r -ns \"one\" -rfn \"oneRN\" \"rig.ma\";\n"
+                                           "createNode reference -n \"oneRN\";\n";
+    run("file -r -ns \"p\" \"pair.ma\"; setAttr \"p:one:body.v\" 0");
+    EXPECT_EQ(run("file -unloadReference \"p:oneRN\""), path("rig.ma"));
+    EXPECT_EQ(run("objExists \"p:one:body\""), "0");
+    EXPECT_EQ(run("referenceQuery -isLoaded \"pRN\""), "1");
+    EXPECT_EQ(run("file -loadReference \"p:oneRN\""), path("rig.ma"));
+    EXPECT_EQ(run("getAttr \"p:one:body.v\""), "0");
+    EXPECT_THAT(failure("file -loadReference \"p:oneRN\" \"pair.ma\""),
+                HasSubstr("belongs to the reference 'pRN', whose file names its file"));
+    EXPECT_THAT(failure("file -importReference -rfn \"p:oneRN\""), HasSubstr("import that one first"));
+}
+
 } // namespace tvxhost::mel

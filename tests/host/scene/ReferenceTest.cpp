@@ -17,6 +17,8 @@ using testing::HasSubstr;
 using testing::IsEmpty;
 using testing::Not;
 
+using engine::Outcome;
+
 class ReferenceTest : public SceneFixture
 {
 protected:
@@ -191,7 +193,7 @@ TEST_F(ReferenceTest, savesWhatIsChangedLater)
     ASSERT_TRUE(engine::writeNumbers(scene.findPlug("r:body.t").value, {0, 0, 0}));
     ASSERT_TRUE(engine::writeNumber(scene.findPlug("r:flip.ix").value, 0.25));
     const std::string text = savedTwice();
-    EXPECT_THAT(text, HasSubstr("\n\t\t\"rRN\"\n\t\t\"rRN\" 2\n"
+    EXPECT_THAT(text, HasSubstr("\n\t\t\"rRN\"\n\t\t\"rRN\" 0\n\t\t\"rRN\" 2\n"
                                 "\t\t2 \"|r:body\" \"translate\" \" -type \\\"double3\\\" 0 0 0\"\n"
                                 "\t\t2 \"r:flip\" \"input\" \" -type \\\"float3\\\" 0.25 0 0\";\n"));
 }
@@ -220,6 +222,139 @@ TEST_F(ReferenceTest, mayReferToOthersAndThoseToIt)
     file("self.ma", std::string(kHeader) + "file -r -ns \"again\" \"self.ma\";\n");
     EXPECT_EQ(open("file -r -ns \"s\" \"self.ma\";\n").summary.warnings, 1u);
     EXPECT_THAT(messages().front(), HasSubstr("refers to itself"));
+}
+
+TEST_F(ReferenceTest, keepsThePlaceholdersOfEditsThatFailApartFromOthers)
+{
+    open("file -r -ns \"r\" -rfn \"rRN\" \"rig.ma\";\ncreateNode transform -n \"follower\";\n"
+         "createNode reference -n \"rRN\";\n\tsetAttr \".phl[1]\" 0;\n"
+         "\tsetAttr \".ed\" -type \"dataReferenceEdits\" \"rRN\" \"rRN\" 0 \"rRN\" 1\n"
+         "\t\t5 3 \"rRN\" \"|r:tail.translateX\" \"rRN.placeHolderList[1]\" \"\";\n"
+         "connectAttr \"rRN.phl[1]\" \"follower.tx\";\n");
+    ASSERT_TRUE(scene.connect(scene.findPlug("r:body.ty").value, scene.findPlug("follower.ty").value, false));
+    const std::string text = savedTwice();
+    EXPECT_THAT(text, HasSubstr("\t\t\"rRN\" 1\n"
+                                "\t\t5 3 \"rRN\" \"|r:tail.translateX\" \"rRN.placeHolderList[1]\" \"\"\n"
+                                "\t\t\"rRN\" 1\n"
+                                "\t\t5 3 \"rRN\" \"|r:body.translateY\" \"rRN.placeHolderList[2]\" \"\";\n"));
+    EXPECT_THAT(text, HasSubstr("connectAttr \"rRN.phl[1]\" \"follower.tx\";\n"));
+    EXPECT_THAT(text, HasSubstr("connectAttr \"rRN.phl[2]\" \"follower.ty\";\n"));
+}
+
+/// A shot that refers to a pair, which refers to the rig; each changes something about the rig.
+class NestedReferenceTest : public ReferenceTest
+{
+protected:
+    void SetUp() override
+    {
+        ReferenceTest::SetUp();
+        file("pair.ma",
+             std::string(kHeader) +
+                 "file -rdi 1 -ns \"one\" -rfn \"oneRN\" \"rig.ma\";\n"
+                 "file -r -ns \"one\" -dr 1 -rfn \"oneRN\" \"rig.ma\";\n"
+                 "createNode transform -n \"hub\";\ncreateNode reference -n \"oneRN\";\n"
+                 "\tsetAttr \".ed\" -type \"dataReferenceEdits\" \"oneRN\" \"oneRN\" 0 \"oneRN\" 2\n"
+                 "\t\t2 \"one:flip\" \"inputX\" \" 0.25\"\n"
+                 "\t\t5 3 \"oneRN\" \"|one:body.translateZ\" \"oneRN.placeHolderList[1]\" \"\";\n"
+                 "lockNode -l 1 ;\nconnectAttr \"oneRN.phl[1]\" \"hub.tz\";\n");
+        open("file -r -ns \"p\" -rfn \"pRN\" \"pair.ma\";\ncreateNode transform -n \"follower\";\n"
+             "createNode reference -n \"pRN\";\n\tsetAttr \".phl[1]\" 0;\n"
+             "\tsetAttr \".ed\" -type \"dataReferenceEdits\" \"pRN\" \"pRN\" 0 \"p:oneRN\" 0\n"
+             "\t\t\"pRN\" 1\n\t\t2 \"|p:hub\" \"visibility\" \" 0\"\n"
+             "\t\t\"p:oneRN\" 2\n\t\t2 \"|p:one:body\" \"visibility\" \" 0\"\n"
+             "\t\t5 3 \"pRN\" \"|p:one:body.rotateX\" \"pRN.placeHolderList[1]\" \"\";\n"
+             "connectAttr \"pRN.phl[1]\" \"follower.rx\";\n");
+    }
+
+    Outcome setLoaded(const std::string& name, bool isLoaded)
+    {
+        return setNestedLoaded(scene, *findReference(scene, name), isLoaded, {}, m_summary);
+    }
+    void expectAllEdits()
+    {
+        EXPECT_THAT(numbers("p:hub.v"), ElementsAre(0));
+        EXPECT_THAT(numbers("p:one:body.v"), ElementsAre(0));
+        EXPECT_THAT(numbers("p:one:flip.ix"), ElementsAre(0.25));
+        EXPECT_EQ(source("p:hub.tz"), "p:one:body.translateZ");
+        EXPECT_EQ(source("follower.rx"), "p:one:body.rotateX");
+    }
+
+    SceneSummary m_summary;
+};
+
+TEST_F(NestedReferenceTest, hasTheEditsOfBothFiles)
+{
+    EXPECT_THAT(messages(), IsEmpty());
+    expectAllEdits();
+    EXPECT_THAT(saved(), HasSubstr("\t\t\"pRN\" 0\n\t\t\"p:oneRN\" 0\n\t\t\"pRN\" 1\n"
+                                   "\t\t2 \"|p:hub\" \"visibility\" \" 0\"\n"
+                                   "\t\t\"p:oneRN\" 2\n\t\t2 \"|p:one:body\" \"visibility\" \" 0\"\n"));
+}
+
+TEST_F(NestedReferenceTest, goesAndComesBackAlone)
+{
+    const std::string before = savedTwice();
+    ASSERT_TRUE(setLoaded("p:oneRN", false));
+    EXPECT_FALSE(scene.findNode("p:one:body"));
+    EXPECT_THAT(numbers("p:hub.v"), ElementsAre(0));
+    EXPECT_EQ(source("p:hub.tz"), "p:oneRN.placeHolderList[1]");
+    EXPECT_EQ(source("follower.rx"), "pRN.placeHolderList[1]");
+    const std::string without = savedTwice();
+    EXPECT_THAT(without, HasSubstr("file -rdi 2 -ns \"one\" -dr 1 -rfn \"p:oneRN\" \"rig.ma\";\n"));
+    EXPECT_THAT(without, HasSubstr("2 \"|p:one:body\" \"visibility\" \" 0\""));
+    EXPECT_FALSE(scene.findNode("p:one:body"));
+    ASSERT_TRUE(setLoaded("p:oneRN", true));
+    expectAllEdits();
+    EXPECT_EQ(saved(), before);
+}
+
+TEST_F(NestedReferenceTest, isNotRemovedFromTheOneAroundIt)
+{
+    const Outcome removed = removeReference(scene, *findReference(scene, "p:oneRN"));
+    EXPECT_EQ(removed.text,
+              "The reference 'p:oneRN' belongs to the reference 'pRN': only that one can be changed");
+    EXPECT_TRUE(scene.findNode("p:one:body"));
+}
+
+TEST_F(NestedReferenceTest, becomesTheScenesOwnWhenTheOneAroundItIsImported)
+{
+    ASSERT_TRUE(importReference(scene, *findReference(scene, "pRN"), {}, m_summary));
+    EXPECT_FALSE(scene.findNode("pRN"));
+    EXPECT_FALSE(node("p:hub").isReferenced);
+    EXPECT_TRUE(node("p:one:body").isReferenced);
+    expectAllEdits();
+    const std::string text = savedTwice();
+    EXPECT_THAT(text, HasSubstr("file -r -ns \"p:one\" -dr 1 -rfn \"p:oneRN\" \"" +
+                                (m_folder / "rig.ma").string() + "\";\n"));
+    EXPECT_THAT(text, HasSubstr("createNode transform -n \"p:hub\";\n"));
+    EXPECT_THAT(text, HasSubstr("2 \"p:one:flip\" \"input\" \" -type \\\"float3\\\" 0.25 0 0\""));
+    expectAllEdits();
+}
+
+TEST_F(NestedReferenceTest, thatIsNotLoadedTakesItsEditsAlongWhenTheOneAroundItIsImported)
+{
+    ASSERT_TRUE(setLoaded("p:oneRN", false));
+    ASSERT_TRUE(importReference(scene, *findReference(scene, "pRN"), {}, m_summary));
+    EXPECT_FALSE(scene.findNode("p:one:body"));
+    EXPECT_EQ(source("follower.rx"), "p:oneRN.placeHolderList[2]");
+    ReferenceStates states;
+    loadReference(scene, *findReference(scene, "p:oneRN"), {}, states, m_summary);
+    expectAllEdits();
+}
+
+TEST_F(ReferenceTest, becomesTheScenesOwn)
+{
+    open(kEdited);
+    const engine::Ref<engine::Node> body(&node("r:body"));
+    SceneSummary summary;
+    ASSERT_TRUE(importReference(scene, *findReference(scene, "rRN"), {}, summary));
+    EXPECT_EQ(&node("r:body"), body.get()) << "the node is the same object";
+    EXPECT_THAT(scene.references, IsEmpty());
+    EXPECT_TRUE(scene.rename(node("r:body"), "mine"));
+    const std::string text = savedTwice();
+    EXPECT_THAT(text, Not(HasSubstr("file -r")));
+    EXPECT_THAT(text, Not(HasSubstr("rRN")));
+    EXPECT_THAT(text, HasSubstr("createNode transform -n \"mine\" -p \"group\";\n"));
 }
 
 TEST_F(ReferenceTest, protectsItsNodes)
