@@ -97,11 +97,14 @@ TEST_F(Files, AFolderIsAskedForWhereTheCallerBegins)
 {
     const std::string anywhere = "fileDialog2 -fileMode 3 ";
     const std::string inside = "fileDialog2 -fileMode 3 -startingDirectory \"/p q\"";
+    const std::string atRoot = "fileDialog2 -fileMode 3 -startingDirectory \"/\"";
     runner.answer(anywhere, Strings{"/a"});
     runner.answer(inside, Strings{"/p q/b"});
+    runner.answer(atRoot, Strings{"/c"});
     EXPECT_EQ(MayaUtils::getDirectoryPath(""), MString("/a"));
     EXPECT_EQ(MayaUtils::getDirectoryPath("/p q"), MString("/p q/b"));
-    EXPECT_THAT(runner.commands, ElementsAre("|" + anywhere, "|" + inside));
+    EXPECT_EQ(MayaUtils::getDirectoryPath("/"), MString("/c"));
+    EXPECT_THAT(runner.commands, ElementsAre("|" + anywhere, "|" + inside, "|" + atRoot));
     EXPECT_THAT(recorder.take(), IsEmpty());
 }
 
