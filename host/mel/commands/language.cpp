@@ -10,6 +10,7 @@ void registerLanguageCommands(CommandTable& table)
     addArrayCommands(table);
     addEvaluationCommands(table);
     addFileCommands(table);
+    addFileHandleCommands(table);
     addMathCommands(table);
     addMessageCommands(table);
     addRandomCommands(table);

@@ -12,6 +12,7 @@ namespace tvxhost::mel {
 void addArrayCommands(CommandTable& table);
 void addEvaluationCommands(CommandTable& table);
 void addFileCommands(CommandTable& table);
+void addFileHandleCommands(CommandTable& table);
 void addMathCommands(CommandTable& table);
 void addMessageCommands(CommandTable& table);
 void addRandomCommands(CommandTable& table);

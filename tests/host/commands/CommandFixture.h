@@ -61,6 +61,11 @@ protected:
         EXPECT_EQ(result.type(), Type::numberArray) << script;
         return result.type() == Type::numberArray ? result.numbers() : Value::Numbers();
     }
+    /// The numbers that a script gives, but for rounding.
+    void expectNear(const std::string& script, const Value::Numbers& expected)
+    {
+        EXPECT_THAT(numbers(script), testing::Pointwise(testing::DoubleNear(1e-9), expected)) << script;
+    }
 
     engine::Scene scene;
     CommandTable table;

@@ -9,7 +9,6 @@ namespace {
 using testing::DoubleNear;
 using testing::ElementsAre;
 using testing::HasSubstr;
-using testing::Pointwise;
 
 class KeyframeCommandsTest : public CommandFixture
 {
@@ -17,11 +16,18 @@ protected:
     KeyframeCommandsTest() { run("createNode transform -n ball"); }
 
     /// Straight from 0 at frame 1 to 10 at frame 11.
-    void keyRamp()
+    void keyRamp() { key({{1, 0}, {11, 10}}, "-itt linear -ott linear"); }
+
+    /// Keys at frames with values.
+    void key(const std::vector<std::pair<int, int>>& keys, const std::string& flags = "")
     {
-        run("setKeyframe -t 1 -v 0 -itt linear -ott linear ball.tx;"
-            "setKeyframe -t 11 -v 10 -itt linear -ott linear ball.tx");
+        for (const auto& [frame, value] : keys)
+            run("setKeyframe -t " + std::to_string(frame) + " -v " + std::to_string(value) + " " + flags +
+                " ball.tx");
     }
+
+    void expectTimes(const Value::Numbers& expected) { expectNear("keyframe -q ball.tx", expected); }
+    void expectValues(const Value::Numbers& expected) { expectNear("keyframe -q -vc ball.tx", expected); }
 };
 
 TEST_F(KeyframeCommandsTest, SetKeyframeMakesTheCurveAndTimeMovesTheAttribute)
@@ -42,7 +48,7 @@ TEST_F(KeyframeCommandsTest, KeysAllKeyableAttributesAtTheCurrentTime)
     EXPECT_EQ(run("setKeyframe"), "10") << "three of each, and the visibility";
     EXPECT_EQ(run("keyframe -q -keyframeCount ball"), "10");
     EXPECT_EQ(run("nodeType ball_rotateY"), "animCurveTA");
-    EXPECT_THAT(numbers("keyframe -q -vc ball.ry"), ElementsAre(DoubleNear(90.0, 1e-9)));
+    expectNear("keyframe -q -vc ball.ry", {90.0});
     EXPECT_THAT(numbers("keyframe -q -tc ball.ry"), ElementsAre(5.0));
     EXPECT_EQ(strings("keyTangent -q -itt -ott ball.v"), (Value::Strings{"spline", "step"}));
 }
@@ -50,8 +56,8 @@ TEST_F(KeyframeCommandsTest, KeysAllKeyableAttributesAtTheCurrentTime)
 TEST_F(KeyframeCommandsTest, TakesAttributesTimesAndValues)
 {
     EXPECT_EQ(run("setKeyframe -at tx -at rotateZ -t 1 -t \"1sec\" -v 45 ball"), "4");
-    EXPECT_THAT(numbers("keyframe -q ball.tx"), ElementsAre(1.0, 24.0));
-    EXPECT_THAT(numbers("keyframe -q -vc -t 24 ball.rz"), ElementsAre(DoubleNear(45.0, 1e-9)));
+    expectTimes({1.0, 24.0});
+    expectNear("keyframe -q -vc -t 24 ball.rz", {45.0});
     EXPECT_EQ(run("setKeyframe -animated true ball"), "2") << "only what is animated";
     EXPECT_EQ(run("setKeyframe -t 1 -v 7 ball.tx"), "1");
     EXPECT_THAT(numbers("keyframe -q -vc -t 1 ball.tx"), ElementsAre(7.0)) << "a key is replaced";
@@ -66,14 +72,12 @@ TEST_F(KeyframeCommandsTest, SkipsWhatIsLockedOrFedByOthers)
 
 TEST_F(KeyframeCommandsTest, InsertedKeysKeepTheShape)
 {
-    run("setKeyframe -t 0 -v 0 ball.tx; setKeyframe -t 10 -v 8 ball.tx; setKeyframe -t 20 -v 2 ball.tx");
-    const Value::Numbers before = numbers("keyframe -q -ev -t 3 -t 6 -t 8 ball.tx");
+    key({{0, 0}, {10, 8}, {20, 2}});
+    const std::string shape = "keyframe -q -ev -t 3 -t 6 -t 8 ball.tx";
+    const Value::Numbers before = numbers(shape);
     EXPECT_EQ(run("setKeyframe -insert -t 5 ball.tx"), "1");
     EXPECT_EQ(run("keyframe -q -kc ball.tx"), "4");
-    const Value::Numbers after = numbers("keyframe -q -ev -t 3 -t 6 -t 8 ball.tx");
-    ASSERT_EQ(after.size(), 3u);
-    for (std::size_t i = 0; i < 3; ++i)
-        EXPECT_NEAR(after[i], before[i], 1e-9);
+    expectNear(shape, before);
     EXPECT_EQ(run("setKeyframe -insert -t 5 ball.ty"), "0") << "there is no curve";
 }
 
@@ -88,7 +92,7 @@ TEST_F(KeyframeCommandsTest, BreakdownsAreSetAndFound)
 
 TEST_F(KeyframeCommandsTest, RangesChooseKeys)
 {
-    run("int $i; for ($i = 0; $i < 5; $i++) setKeyframe -t ($i * 10) -v $i ball.tx");
+    key({{0, 0}, {10, 1}, {20, 2}, {30, 3}, {40, 4}});
     EXPECT_THAT(numbers("keyframe -q -t \"10:30\" ball.tx"), ElementsAre(10.0, 20.0, 30.0));
     EXPECT_THAT(numbers("keyframe -q -iub false -t \"10:30\" ball.tx"), ElementsAre(10.0, 20.0));
     EXPECT_THAT(numbers("keyframe -q -t \"25:\" ball.tx"), ElementsAre(30.0, 40.0));
@@ -104,10 +108,10 @@ TEST_F(KeyframeCommandsTest, KeysAreMovedAndChanged)
 {
     keyRamp();
     EXPECT_EQ(run("keyframe -e -r -tc 5 -vc 1 ball.tx"), "1");
-    EXPECT_THAT(numbers("keyframe -q ball.tx"), ElementsAre(6.0, 16.0));
-    EXPECT_THAT(numbers("keyframe -q -vc ball.tx"), ElementsAre(1.0, 11.0));
+    expectTimes({6.0, 16.0});
+    expectValues({1.0, 11.0});
     EXPECT_EQ(run("keyframe -a -t 6 -tc 2 -vc 3 ball.tx"), "1");
-    EXPECT_THAT(numbers("keyframe -q ball.tx"), ElementsAre(2.0, 16.0));
+    expectTimes({2.0, 16.0});
     EXPECT_THAT(numbers("keyframe -q -vc -t 2 ball.tx"), ElementsAre(3.0));
     EXPECT_EQ(run("keyframe -e -t 99 -vc 3 ball.tx"), "0");
 }
@@ -115,23 +119,21 @@ TEST_F(KeyframeCommandsTest, KeysAreMovedAndChanged)
 TEST_F(KeyframeCommandsTest, KeysThatMovePassOthersAsTheyAreTold)
 {
     const auto keyThree = [&] {
-        run("cutKey ball.tx; setKeyframe -t 0 -v 1 ball.tx; setKeyframe -t 10 -v 2 ball.tx;"
-            "setKeyframe -t 20 -v 3 ball.tx");
+        run("cutKey ball.tx");
+        key({{0, 1}, {10, 2}, {20, 3}});
     };
     keyThree();
     run("keyframe -e -option over -t 0 -tc 15 ball.tx");
-    EXPECT_THAT(numbers("keyframe -q -vc ball.tx"), ElementsAre(2.0, 1.0, 3.0));
+    expectValues({2.0, 1.0, 3.0});
     keyThree();
     run("keyframe -e -option insert -t 10 -r -tc 5 ball.tx");
-    EXPECT_THAT(numbers("keyframe -q ball.tx"), Pointwise(DoubleNear(1e-9), Value::Numbers{0.0, 15.0, 25.0}));
+    expectTimes({0.0, 15.0, 25.0});
     run("keyframe -e -o insert -t 15 -r -tc -20 ball.tx");
-    EXPECT_THAT(numbers("keyframe -q ball.tx"),
-                Pointwise(DoubleNear(1e-9), Value::Numbers{-20.0, -5.0, 25.0}));
+    expectTimes({-20.0, -5.0, 25.0});
     EXPECT_EQ(failure("keyframe -e -option move -t -5 -tc 25 ball.tx"),
               "keyframe: a key of 'ball_translateX' would pass another one");
     run("keyframe -e -option move -t -5 -tc 24 ball.tx");
-    EXPECT_THAT(numbers("keyframe -q ball.tx"),
-                Pointwise(DoubleNear(1e-9), Value::Numbers{-20.0, 24.0, 25.0}));
+    expectTimes({-20.0, 24.0, 25.0});
     EXPECT_EQ(failure("keyframe -e -option segmentOver -tc 1 ball.tx"),
               "keyframe: -option is over, insert or move here, not 'segmentOver'");
 }
@@ -187,14 +189,14 @@ TEST_F(KeyframeCommandsTest, TangentsAreSetAndToldByKindAngleAndWeight)
     run("keyTangent -e -t 11 -lock false ball.tx; keyTangent -e -t 11 -ia 30 ball.tx");
     EXPECT_EQ(strings("keyTangent -q -ott -t 11 ball.tx"), Value::Strings{"flat"});
     run("keyTangent -e -r -t 11 -ia 15 ball.tx");
-    EXPECT_THAT(numbers("keyTangent -q -ia -t 11 ball.tx"), ElementsAre(DoubleNear(45.0, 1e-9)));
+    expectNear("keyTangent -q -ia -t 11 ball.tx", {45.0});
     EXPECT_EQ(run("keyTangent -q -lock ball.tx"), "1 0");
     EXPECT_EQ(run("keyTangent -q -wt ball.tx"), "0");
     run("keyTangent -e -wt true ball.tx; keyTangent -e -itt flat -ott flat ball.tx");
     EXPECT_EQ(run("keyTangent -q -wt ball.tx"), "1");
-    EXPECT_THAT(numbers("keyTangent -q -ow -t 1 ball.tx"), ElementsAre(DoubleNear(10.0 / 3.0, 1e-9)));
+    expectNear("keyTangent -q -ow -t 1 ball.tx", {10.0 / 3.0});
     run("keyTangent -e -t 1 -ow 5 ball.tx");
-    EXPECT_THAT(numbers("keyTangent -q -ox -t 1 ball.tx"), ElementsAre(DoubleNear(15.0 / 24.0, 1e-9)));
+    expectNear("keyTangent -q -ox -t 1 ball.tx", {15.0 / 24.0});
     EXPECT_THAT(failure("keyTangent -e -itt bent ball.tx"), HasSubstr("bent"));
 }
 
