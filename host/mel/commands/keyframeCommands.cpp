@@ -1,4 +1,4 @@
-// Keys and curves: cutting and finding them, and what curves are outside their keys.
+// Curves: finding keys on them, and what they are outside their keys.
 #include "keyframeCommands.h"
 
 #include "keysets.h"
@@ -17,40 +17,6 @@ using engine::CurveInfinity;
 using engine::Node;
 
 namespace {
-
-// cutKey
-
-Value cutKey(CommandContext& context, const ParsedCommand& call)
-{
-    const bool cutsCurves = call.string("option", "keys") == "curve";
-    const KeyChoice choice(context, call);
-    int count = 0;
-    for (Node* curve : curvesOf(context, call)) {
-        AnimCurveKeys keys = engine::readCurve(*curve);
-        const std::vector<std::size_t> chosen = choice.of(*curve, keys);
-        if (chosen.empty())
-            continue;
-        ++count;
-        for (auto index = chosen.rbegin(); index != chosen.rend(); ++index)
-            keys.keys.erase(keys.keys.begin() + static_cast<std::ptrdiff_t>(*index));
-        // A curve without keys has nothing to feed.
-        require(context, keys.keys.empty() || cutsCurves ? sceneOf(context).deleteNode(*curve)
-                                                         : engine::writeCurve(*curve, keys));
-    }
-    return Value(count);
-}
-
-CommandSpec cutKeyCommand()
-{
-    std::vector<FlagSpec> flags = keysetFlags();
-    flags.insert(flags.end(), {switchFlag("cl", "clear", "the keys are not kept for pasting"),
-                               valueFlag("o", "option", ArgumentType::string, "keys or curve"),
-                               refusedFlag("cb", "clipboard", "keys are not kept for pasting"),
-                               refusedFlag("sl", "selectKey", "keys cannot be selected here"),
-                               refusedFlag("fea", "forceIndependentEulerAngles", "angles are independent")});
-    return makeCommand("cutKey", "Removes keys, and curves that have none left", std::move(flags), names(),
-                       cutKey);
-}
 
 // setInfinity
 
@@ -180,8 +146,8 @@ CommandSpec findKeyframeCommand()
 
 void registerKeyframeCommands(CommandTable& table)
 {
-    table.add({setKeyframeCommand(), keyframeCommand(), keyTangentCommand(), cutKeyCommand(),
-               setInfinityCommand(), findKeyframeCommand()});
+    table.add({setKeyframeCommand(), keyframeCommand(), keyTangentCommand(), copyKeyCommand(),
+               cutKeyCommand(), pasteKeyCommand(), setInfinityCommand(), findKeyframeCommand()});
 }
 
 } // namespace tvxhost::mel

@@ -8,5 +8,8 @@ namespace tvxhost::mel {
 CommandSpec setKeyframeCommand();
 CommandSpec keyframeCommand();
 CommandSpec keyTangentCommand();
+CommandSpec copyKeyCommand();
+CommandSpec cutKeyCommand();
+CommandSpec pasteKeyCommand();
 
 } // namespace tvxhost::mel

@@ -151,6 +151,11 @@ bool isKeyable(const Plug& leaf)
     return engine::stateOf(leaf).keyable.value_or(leaf.attribute()->flags.keyable);
 }
 
+bool KeySpan::isFinite() const
+{
+    return std::isfinite(low) && std::isfinite(high);
+}
+
 std::vector<FlagSpec> plugFlags()
 {
     using A = ArgumentType;
@@ -193,35 +198,63 @@ std::vector<Plug> plugsToKey(const CommandContext& context, const ParsedCommand&
     return plugs;
 }
 
+std::vector<Plug> namedPlugs(const SelectionItem& item, const ParsedCommand& call)
+{
+    if (item.plug.isNull())
+        return plugsNamed({item.node.get()}, attributeNames(call));
+    std::vector<Plug> plugs;
+    addLeaves(item.plug, plugs);
+    return plugs;
+}
+
 FlagSpec animationFlag()
 {
     return valueFlag("an", "animation", ArgumentType::string,
                      "objects or keysOrObjects: keys cannot be selected here", kChooses);
 }
 
+FlagSpec clipboardFlag()
+{
+    return valueFlag("cb", "clipboard", ArgumentType::string, "anim, the one there is here", kCreate);
+}
+
+void requireOwnClipboard(const CommandContext& context, const ParsedCommand& call)
+{
+    if (const std::string name = call.string("clipboard", "anim"); name != "anim")
+        context.fail(context.command() + ": there is no clipboard '" + name + "' here, only 'anim'");
+}
+
+std::vector<Node*> curvesOf(const CommandContext& context, const ParsedCommand& call,
+                            const SelectionItem& item)
+{
+    std::vector<Node*> curves;
+    if (item.plug.isNull() && engine::isAnimCurve(*item.node)) {
+        addOnce(curves, item.node.get());
+        return curves;
+    }
+    const std::vector<std::string> attributes = attributeNames(call);
+    std::vector<Plug> plugs;
+    if (!item.plug.isNull())
+        addLeaves(item.plug, plugs);
+    else if (!attributes.empty())
+        plugs = plugsNamed(nodesFor(context, *item.node, call), attributes);
+    else
+        for (Node* node : nodesFor(context, *item.node, call))
+            for (const Plug& plug : animatedPlugs(*node, call.boolean("controlPoints")))
+                plugs.push_back(plug);
+    for (const Plug& plug : plugs)
+        addOnce(curves, engine::curveFeeding(plug));
+    return curves;
+}
+
 std::vector<Node*> curvesOf(const CommandContext& context, const ParsedCommand& call)
 {
     if (call.string("animation") == "keys")
         context.fail("-animation keys: no keys are selected");
-    const std::vector<std::string> attributes = attributeNames(call);
     std::vector<Node*> curves;
-    for (const SelectionItem& item : itemsOrSelection(context, call.names())) {
-        if (item.plug.isNull() && engine::isAnimCurve(*item.node)) {
-            addOnce(curves, item.node.get());
-            continue;
-        }
-        std::vector<Plug> plugs;
-        if (!item.plug.isNull())
-            addLeaves(item.plug, plugs);
-        else if (!attributes.empty())
-            plugs = plugsNamed(nodesFor(context, *item.node, call), attributes);
-        else
-            for (Node* node : nodesFor(context, *item.node, call))
-                for (const Plug& plug : animatedPlugs(*node, call.boolean("controlPoints")))
-                    plugs.push_back(plug);
-        for (const Plug& plug : plugs)
-            addOnce(curves, engine::curveFeeding(plug));
-    }
+    for (const SelectionItem& item : itemsOrSelection(context, call.names()))
+        for (Node* curve : curvesOf(context, call, item))
+            addOnce(curves, curve);
     return curves;
 }
 
@@ -295,6 +328,17 @@ std::vector<double> KeyChoice::places(const Node& curve) const
         if (range.isPoint)
             places.push_back(range.low);
     return places;
+}
+
+std::optional<KeySpan> KeyChoice::span(bool isTimed) const
+{
+    const std::vector<Range>& ranges = isTimed ? m_times : m_numbers;
+    if (ranges.empty())
+        return std::nullopt;
+    KeySpan whole = {ranges.front().low, ranges.front().high};
+    for (const Range& range : ranges)
+        whole = {std::min(whole.low, range.low), std::max(whole.high, range.high)};
+    return whole;
 }
 
 TangentKind tangentNamed(const CommandContext& context, const std::string& name)

@@ -15,19 +15,38 @@ namespace tvxhost::mel {
 std::vector<FlagSpec> plugFlags();
 std::vector<FlagSpec> keysetFlags();
 FlagSpec animationFlag();
+FlagSpec clipboardFlag();
+/// Stops the script when -clipboard names another clipboard than that of the session.
+void requireOwnClipboard(const CommandContext& context, const ParsedCommand& call);
 
 /// The plugs that the arguments (or the selection) and -attribute name: leaves of numbers. Without -attribute
 /// those that a node has keyable, and those of the shapes below a transform. -hierarchy reaches further
 /// nodes.
 std::vector<engine::Plug> plugsToKey(const CommandContext& context, const ParsedCommand& call);
 
+/// The leaves of one item: those of its plug, or of the attributes of its node that -attribute names.
+std::vector<engine::Plug> namedPlugs(const engine::SelectionItem& item, const ParsedCommand& call);
+
 /// Whether a leaf is offered for keys.
 bool isKeyable(const engine::Plug& leaf);
 
 /// The curves of the arguments (or the selection): themselves, those of plugs, and of all plugs of a node.
 std::vector<engine::Node*> curvesOf(const CommandContext& context, const ParsedCommand& call);
+/// The same of one of the objects.
+std::vector<engine::Node*> curvesOf(const CommandContext& context, const ParsedCommand& call,
+                                    const engine::SelectionItem& item);
 
 std::vector<std::string> namesOf(const CommandContext& context, const std::vector<engine::Node*>& curves);
+
+/// From one place of a curve's input to another; either may be infinite.
+struct KeySpan
+{
+    double low;
+    double high;
+
+    double length() const { return high - low; }
+    bool isFinite() const;
+};
 
 /// The keys that -time, -float and -index choose; all without them.
 class KeyChoice
@@ -39,6 +58,9 @@ public:
     std::vector<std::size_t> of(const engine::Node& curve, const engine::AnimCurveKeys& keys) const;
     /// The places that -time and -float name one by one, of the curve's sort.
     std::vector<double> places(const engine::Node& curve) const;
+    /// From the first to the last place that -time (or -float) names; none without them.
+    std::optional<KeySpan> span(bool isTimed) const;
+    bool includesUpper() const { return m_includesUpper; }
 
 private:
     struct Range
