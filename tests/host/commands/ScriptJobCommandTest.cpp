@@ -42,6 +42,15 @@ TEST_F(ScriptJobCommandTest, anEventRunsItsScriptOnceAtTheNextIdleMoment)
     EXPECT_EQ(runsWhenIdle(), 0);
 }
 
+TEST_F(ScriptJobCommandTest, aChangeOfTheProjectsRulesIsAnEvent)
+{
+    run(std::string("scriptJob -event WorkspaceChanged ") + kCount);
+    run("workspace -fr \"scene\" \"scenes\"");
+    EXPECT_EQ(runsWhenIdle(), 1);
+    run("workspace -fre \"scene\"; workspace -rfr \"nothing\"");
+    EXPECT_EQ(runsWhenIdle(), 0);
+}
+
 TEST_F(ScriptJobCommandTest, anIdleScriptRunsWheneverThereIsNothingElse)
 {
     run(std::string("scriptJob -idleEvent ") + kCount);

@@ -2,7 +2,9 @@
 #include "../support/temporaryFolder.h"
 #include "CommandFixture.h"
 
+#include <cstdlib>
 #include <filesystem>
+#include <fstream>
 
 namespace tvxhost::mel {
 
@@ -32,9 +34,9 @@ TEST_F(WorkspaceCommandTest, opensFoldersThatAreThere)
     EXPECT_EQ(failure("workspace -o \"" + path("none") + "\""),
               "workspace: there is no folder \"" + path("none") + "\"");
     EXPECT_EQ(run("workspace -q -fn"), m_folder.path().string());
-    run("workspace -nw \"shots\"");
-    EXPECT_TRUE(std::filesystem::is_directory(path("shots")));
+    run("workspace -cr \"shots\"; workspace -o \"shots\"");
     EXPECT_EQ(run("workspace -q -fn"), path("shots"));
+    EXPECT_EQ(run("workspace -q -openWorkspace"), path("shots"));
     run("file -rename \"take.ma\"");
     EXPECT_EQ(run("file -q -sn"), path("shots/take.ma"));
 }
@@ -54,11 +56,108 @@ TEST_F(WorkspaceCommandTest, rulesSayWhereFilesAre)
 TEST_F(WorkspaceCommandTest, aSavedProjectHasItsRulesWhenItIsOpened)
 {
     run("workspace -fr \"scene\" \"my scenes\" -v \"show\" \"crowd\"; workspace -s");
-    run("workspace -nw \"other\"");
+    run("workspace -cr \"other\"; workspace -newWorkspace \"other\"");
     EXPECT_THAT(strings("workspace -q -frl"), IsEmpty());
     run("workspace -o \"" + m_folder.path().string() + "\"");
     EXPECT_EQ(run("workspace -q -fre \"scene\""), "my scenes");
     EXPECT_EQ(run("workspace -q -ve \"show\""), "crowd");
+}
+
+TEST_F(WorkspaceCommandTest, aNewProjectIsNothingButAPlaceUntilItIsSaved)
+{
+    run("workspace -fr \"scene\" \"scenes\"; workspace -s");
+    EXPECT_EQ(failure("workspace -n \"" + m_folder.path().string() + "\""),
+              "workspace: there is a project in \"" + m_folder.path().string() + "\" already");
+    run("workspace -n \"nowhere\"");
+    EXPECT_FALSE(std::filesystem::exists(path("nowhere")));
+    EXPECT_EQ(run("workspace -q -rd"), "/") << "as the reference has it";
+}
+
+TEST_F(WorkspaceCommandTest, whatIsAskedNeedsNoQueryFlag)
+{
+    run("workspace -fr \"scene\" \"scenes\"");
+    EXPECT_EQ(run("workspace -fre \"scene\""), "scenes");
+    EXPECT_THAT(strings("workspace -frl"), ElementsAre("scene"));
+    EXPECT_EQ(run("workspace -en \"scenes/a.ma\""), path("scenes/a.ma"));
+    EXPECT_EQ(run("workspace -fn"), m_folder.path().string());
+}
+
+TEST_F(WorkspaceCommandTest, theOlderNamesOfRulesAreTheSameRules)
+{
+    run("workspace -rt \"images\" \"pictures\" -objectType \"scene\" \"scenes\"");
+    EXPECT_THAT(strings("workspace -q -fr"), ElementsAre("images", "pictures", "scene", "scenes"));
+    for (const char* flag : {"-renderTypeEntry", "-rte", "-ote", "-objectTypeEntry", "-fre"})
+        EXPECT_EQ(run(std::string("workspace -q ") + flag + " \"images\""), "pictures") << flag;
+    for (const char* flag : {"-renderTypeList", "-rtl", "-otl", "-objectTypeList"})
+        EXPECT_THAT(strings(std::string("workspace ") + flag), ElementsAre("images", "scene")) << flag;
+}
+
+TEST_F(WorkspaceCommandTest, variablesAndTheHomeFolderAreReplacedInNames)
+{
+    ::setenv("TVX_TEST_PLACE", "outside", 1);
+    ::setenv("HOME", "/home/me", 1);
+    run("workspace -v \"show\" \"crowd\" -v \"TVX_TEST_PLACE\" \"inside\"");
+    const std::pair<const char*, std::string> rows[] = {
+        {"%show%/a.ma", path("crowd/a.ma")},
+        {"$show/a.ma", path("crowd/a.ma")},
+        {"x${show}x", path("xcrowdx")},
+        {"%TVX_TEST_PLACE%", path("inside")},
+        {"~%TVX_TEST_PLACE%", path("~outside")},
+        {"~/maya", "/home/me/maya"},
+        {"~root", "/root"},
+        {"100%", path("100%")},
+        {"/whole/", "/whole/"},
+        {"", m_folder.path().string() + "/"},
+    };
+    for (const auto& [name, expected] : rows)
+        EXPECT_EQ(run(std::string("workspace -expandName \"") + name + "\""), expected) << name;
+}
+
+TEST_F(WorkspaceCommandTest, pathsAreMadeRelativeToTheProject)
+{
+    EXPECT_EQ(run("workspace -pp \"" + path("scenes/a.ma") + "\""), "scenes/a.ma");
+    EXPECT_EQ(run("workspace -projectPath \"scenes/a.ma\""), "scenes/a.ma");
+    EXPECT_EQ(run("workspace -q -pp \"/other/a.ma\""), "/other/a.ma");
+}
+
+TEST_F(WorkspaceCommandTest, projectsAreKnownByName)
+{
+    run("workspace -cr \"one\"; workspace -cr \"two\"; workspace -cr \"plain\"");
+    run("workspace -o \"one\"; workspace -fr \"scene\" \"first\" -s");
+    run("workspace -n \"" + path("two") + "\"; workspace -s");
+    EXPECT_EQ(failure("workspace -o \"plain\""),
+              "workspace: there is no folder \"" + path("two/plain") + "\"");
+    EXPECT_THAT(strings("workspace -listWorkspaces"),
+                ElementsAre(m_folder.path().filename().string(), "one", "two"));
+    EXPECT_THAT(strings("workspace -q -lfw"),
+                ElementsAre(m_folder.path().string(), path("one"), path("two")));
+    run("workspace -o \"one\"");
+    EXPECT_EQ(run("workspace -fre \"scene\""), "first");
+}
+
+TEST_F(WorkspaceCommandTest, projectsInTheCurrentFolderAreFound)
+{
+    run("workspace -cr \"one\"; workspace -cr \"plain\"");
+    std::ofstream(path("one/workspace.mel")) << "workspace -fr \"scene\" \"first\";\n";
+    run("workspace -update");
+    EXPECT_THAT(strings("workspace -lw"), ElementsAre(m_folder.path().filename().string(), "one"));
+    EXPECT_THAT(strings("workspace -list"), ElementsAre("one", "plain"));
+    EXPECT_THAT(strings("workspace -q -l \"one\""), ElementsAre("workspace.mel"));
+}
+
+TEST_F(WorkspaceCommandTest, aProjectTakesFromItsBaseWhatItHasNotItself)
+{
+    run("workspace -cr \"base\"; workspace -cr \"own\"");
+    run("workspace -o \"base\"; workspace -fr \"scene\" \"theirs\" -fr \"images\" \"pictures\" -v \"show\" "
+        "\"crowd\" -s");
+    run("workspace -n \"" + path("own") + "\"; workspace -fr \"scene\" \"mine\"");
+    EXPECT_EQ(run("workspace -q -bw"), "default");
+    run("workspace -baseWorkspace \"base\"");
+    EXPECT_EQ(run("workspace -q -baseWorkspace"), "base");
+    EXPECT_THAT(strings("workspace -q -fr"), ElementsAre("images", "pictures", "scene", "mine"));
+    EXPECT_EQ(run("workspace -en \"$show\""), path("own/crowd"));
+    EXPECT_EQ(run("workspace -q -fn"), path("own"));
+    EXPECT_EQ(failure("workspace -bw \"nobody\""), "workspace: there is no project 'nobody'");
 }
 
 TEST_F(WorkspaceCommandTest, makesFoldersAndKeepsTheCurrentOne)
