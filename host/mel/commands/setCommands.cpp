@@ -1,12 +1,14 @@
 // sets: groups of objects.
 #include "attributeFlags.h"
 #include "sceneCommands.h"
+#include "setEntry.h"
 #include "setMembers.h"
 
 #include <algorithm>
 
 namespace tvxhost::mel {
 
+using engine::DagNode;
 using engine::Node;
 using engine::SelectionItem;
 
@@ -20,12 +22,36 @@ Node& setNamed(const CommandContext& context, const std::string& name)
     return set;
 }
 
-std::vector<std::string> memberNames(Node& set)
+Value::Strings namesOf(const Members& members)
 {
-    std::vector<std::string> names;
-    for (const SelectionItem& member : setMembers(set))
+    Value::Strings names;
+    for (const SelectionItem& member : members)
         names.push_back(member.name());
     return names;
+}
+
+/// The members of a set, without intermediate objects when -noIntermediate says so.
+Members membersOf(const ParsedCommand& call, Node& set)
+{
+    Members members = setMembers(set);
+    const auto isIntermediate = [](const SelectionItem& item) {
+        DagNode* dag = item.node->asDag();
+        return dag && dag->isIntermediate();
+    };
+    if (call.has("noIntermediate"))
+        members.erase(std::remove_if(members.begin(), members.end(), isIntermediate), members.end());
+    return members;
+}
+
+/// Attributes of sets that are made, told and changed by their flags.
+const AttributeFlags& kAttributes()
+{
+    static const AttributeFlags flags = {
+        {"t", "text", ArgumentType::string, "annotation", "a note with the set"},
+        {"co", "color", ArgumentType::integer, "memberWireframeColor",
+         "the colour of its members, 0 to 7 of the user's; -1: none"},
+    };
+    return flags;
 }
 
 Value query(CommandContext& context, const ParsedCommand& call)
@@ -35,70 +61,32 @@ Value query(CommandContext& context, const ParsedCommand& call)
         context.fail("'sets' in query mode needs one set");
     Node& set = setNamed(context, names.front());
     if (call.has("size"))
-        return Value(static_cast<int>(setMembers(set).size()));
+        return Value(static_cast<int>(membersOf(call, set).size()));
     if (call.has("renderable"))
         return Value(set.type().isA("shadingEngine"));
-    if (call.has("text"))
-        return Value(valueOf(context, readString(plugOf(context, set, "annotation"))));
-    return Value(Value::Strings(memberNames(set)));
+    for (const ComponentSet& row : kComponentSets)
+        if (call.has(row.longName))
+            return Value(isMadeFor(context, set, row));
+    if (const auto asked = queriedAttribute(context, call, kAttributes(), set))
+        return *asked;
+    return Value(namesOf(membersOf(call, set)));
 }
 
-using Members = std::vector<SelectionItem>;
-
-bool isAmong(const Members& members, const SelectionItem& wanted)
+/// The objects as members of a set.
+Members meant(Node& set, const Members& items)
 {
-    return std::find(members.begin(), members.end(), wanted) != members.end();
+    Members all;
+    for (const SelectionItem& item : items)
+        for (const SelectionItem& member : membersMeant(set, item))
+            all.push_back(member);
+    return all;
 }
 
-/// The sets of the partitions that a set is in, without itself: a member of one is in no other of them.
-std::vector<Node*> rivalsOf(Node& set)
-{
-    std::vector<Node*> rivals;
-    const auto own = set.findPlug("partition");
-    if (!own)
-        return rivals;
-    for (const engine::Plug& place : engine::destinationsOf(own.value)) {
-        const engine::Plug array = place.isElement() ? place.array() : place;
-        for (const int index : engine::existingElements(array)) {
-            const engine::Plug source = engine::sourceOf(array.element(index));
-            if (!source.isNull() && source.node() != &set)
-                rivals.push_back(source.node());
-        }
-    }
-    return rivals;
-}
-
-/// How new members are put into a set that shares a partition with others.
-enum class Entry
-{
-    plain,   ///< an error for what is in another of them
-    lenient, ///< such objects are left out, with a warning
-    forced   ///< they leave the other set
-};
-
-void enter(const CommandContext& context, Node& set, const SelectionItem& item, Entry entry)
-{
-    for (Node* rival : rivalsOf(set)) {
-        if (!isAmong(setMembers(*rival), item))
-            continue;
-        if (entry == Entry::forced) {
-            require(context, removeSetMember(*rival, item));
-            continue;
-        }
-        const std::string message = "'" + item.name() + "' is in '" + rival->name() + "' and cannot be in '" +
-                                    set.name() + "' of the same partition";
-        if (entry == Entry::plain)
-            context.fail(message);
-        context.warn(message);
-        return;
-    }
-    require(context, addSetMember(set, item));
-}
-
-Value areMembers(const CommandContext&, Node& set, const Members& items)
+Value areMembers(const CommandContext&, const ParsedCommand&, Node& set, const Members& items)
 {
     const Members members = setMembers(set);
-    return Value(std::all_of(items.begin(), items.end(),
+    const Members wanted = meant(set, items);
+    return Value(std::all_of(wanted.begin(), wanted.end(),
                              [&](const SelectionItem& item) { return isAmong(members, item); }));
 }
 
@@ -108,27 +96,28 @@ struct SetChange
     const char* shortName;
     const char* longName;
     const char* help;
-    Value (*apply)(const CommandContext& context, Node& set, const Members& items);
+    Value (*apply)(const CommandContext& context, const ParsedCommand& call, Node& set, const Members& items);
 };
 
 template <Entry kEntry>
-Value addMembers(const CommandContext& context, Node& set, const Members& items)
+Value addMembers(const CommandContext& context, const ParsedCommand& call, Node& set, const Members& items)
 {
+    const bool isSilent = kEntry == Entry::lenient && call.has("noWarnings");
     for (const SelectionItem& item : items)
-        enter(context, set, item, kEntry);
+        enter(context, set, item, isSilent ? Entry::silent : kEntry);
     return Value(sceneOf(context).shortestName(set));
 }
 
-Value removeMembers(const CommandContext& context, Node& set, const Members& items)
+Value removeMembers(const CommandContext& context, const ParsedCommand&, Node& set, const Members& items)
 {
-    for (const SelectionItem& item : items)
+    for (const SelectionItem& item : meant(set, items))
         require(context, removeSetMember(set, item));
     return Value(sceneOf(context).shortestName(set));
 }
 
 constexpr SetChange kChanges[] = {
     {"add", "addElement", "adds the objects to this set", addMembers<Entry::plain>},
-    {"in", "include", "adds the objects to this set that can be in it", addMembers<Entry::lenient>},
+    {"include", "include", "adds the objects to this set that can be in it", addMembers<Entry::lenient>},
     {"fe", "forceElement",
      "adds the objects to this set and takes them out of those they cannot be in as well",
      addMembers<Entry::forced>},
@@ -139,9 +128,9 @@ constexpr SetChange kChanges[] = {
 // Operations on sets
 
 /// Sets stand for their members, other objects for themselves.
-Members membersOf(const SelectionItem& item)
+Members membersOf(const ParsedCommand& call, const SelectionItem& item)
 {
-    return item.node->type().isA("objectSet") ? setMembers(*item.node) : Members{item};
+    return item.node->type().isA("objectSet") ? membersOf(call, *item.node) : Members{item};
 }
 
 /// A flag that names one set, which is joined with those that the call names.
@@ -167,9 +156,9 @@ Value operate(const CommandContext& context, const ParsedCommand& call, const Se
 {
     std::vector<Members> others;
     for (const SelectionItem& item : itemsOrSelection(context, call.names()))
-        others.push_back(membersOf(item));
+        others.push_back(membersOf(call, item));
     Members result;
-    for (const SelectionItem& member : setMembers(setNamed(context, call.string(operation.longName)))) {
+    for (const SelectionItem& member : membersOf(call, setNamed(context, call.string(operation.longName)))) {
         const auto has = [&](const Members& other) { return isAmong(other, member); };
         if (operation.keeps(std::any_of(others.begin(), others.end(), has),
                             std::all_of(others.begin(), others.end(), has)))
@@ -179,41 +168,106 @@ Value operate(const CommandContext& context, const ParsedCommand& call, const Se
         for (const SelectionItem& member : other)
             if (operation.takesOthers && !isAmong(result, member))
                 result.push_back(member);
-    Value::Strings names;
-    for (const SelectionItem& member : result)
-        names.push_back(member.name());
-    return Value(std::move(names));
+    return Value(namesOf(result));
 }
 
 Value isIntersecting(const CommandContext& context, const ParsedCommand& call)
 {
-    const Members members = setMembers(setNamed(context, call.string("isIntersecting")));
+    const Members members = membersOf(call, setNamed(context, call.string("isIntersecting")));
     for (const SelectionItem& item : itemsOrSelection(context, call.names()))
-        for (const SelectionItem& member : membersOf(item))
+        for (const SelectionItem& member : membersOf(call, item))
             if (isAmong(members, member))
                 return Value(1);
     return Value(0);
 }
 
+/// What a set holds with the members of the sets in it instead of these.
+void addFlattened(Node& set, std::vector<const Node*>& seen, Members& members)
+{
+    if (std::find(seen.begin(), seen.end(), &set) != seen.end())
+        return;
+    seen.push_back(&set);
+    for (const SelectionItem& member : setMembers(set))
+        if (member.node->type().isA("objectSet"))
+            addFlattened(*member.node, seen, members);
+        else if (!isAmong(members, member))
+            members.push_back(member);
+}
+
+Value flatten(const CommandContext& context, Node& set)
+{
+    std::vector<const Node*> seen;
+    Members flat;
+    addFlattened(set, seen, flat);
+    for (const SelectionItem& member : setMembers(set))
+        if (!isAmong(flat, member))
+            require(context, removeSetMember(set, member));
+    for (const SelectionItem& member : flat)
+        require(context, addSetMember(set, member));
+    return Value(sceneOf(context).shortestName(set));
+}
+
 // Making
+
+void turnOn(const CommandContext& context, Node& set, const char* attribute)
+{
+    require(context, engine::writeNumber(plugOf(context, set, attribute), engine::Number(true)));
+}
+
+/// A shading group is in the partition of all, and has the default shader unless it is to have none.
+void makeRenderable(const CommandContext& context, const ParsedCommand& call, Node& group)
+{
+    engine::Scene& scene = sceneOf(context);
+    turnOn(context, group, "renderableOnlySet");
+    require(context, scene.connect(plugOf(context, group, "partition"),
+                                   scene.nextAvailable(plugNamed(context, ":renderPartition.sets"))));
+    if (!call.boolean("noSurfaceShader"))
+        require(context, scene.connect(plugNamed(context, ":lambert1.outColor"),
+                                       plugOf(context, group, "surfaceShader")));
+}
+
+/// What the new set is to hold.
+Members newMembers(const CommandContext& context, const ParsedCommand& call)
+{
+    if (call.has("copy"))
+        return setMembers(setNamed(context, call.string("copy")));
+    return call.has("empty") ? Members() : itemsOrSelection(context, call.names());
+}
 
 Node& create(const CommandContext& context, const ParsedCommand& call)
 {
     engine::Scene& scene = sceneOf(context);
-    const char* type = call.has("renderable") ? "shadingEngine" : "objectSet";
-    Node& set = *valueOf(context, scene.createNode(type, call.string("name", "set1")));
-    if (call.has("renderable"))
-        require(context, scene.connect(plugOf(context, set, "partition"),
-                                       scene.nextAvailable(plugNamed(context, ":renderPartition.sets"))));
-    if (call.has("text"))
-        require(context, writeString(plugOf(context, set, "annotation"), call.string("text")));
-    if (call.has("copy"))
-        for (const SelectionItem& member : setMembers(setNamed(context, call.string("copy"))))
-            require(context, addSetMember(set, member));
-    else if (!call.has("empty"))
-        for (const SelectionItem& item : itemsOrSelection(context, call.names()))
-            enter(context, set, item, Entry::forced);
+    const bool isRenderable = call.boolean("renderable");
+    const Members members = newMembers(context, call);
+    Node& set = *valueOf(
+        context, scene.createNode(isRenderable ? "shadingEngine" : "objectSet", call.string("name", "set1")));
+    if (isRenderable)
+        makeRenderable(context, call, set);
+    for (const ComponentSet& row : kComponentSets)
+        if (call.boolean(row.longName))
+            turnOn(context, set, row.attribute);
+    setAttributes(context, call, kAttributes(), set);
+    for (const SelectionItem& item : members)
+        enter(context, set, item, Entry::forced);
     return set;
+}
+
+Value split(const CommandContext& context, const ParsedCommand& call)
+{
+    Node& from = setNamed(context, call.string("split"));
+    const Members items = itemsOrSelection(context, call.names());
+    removeMembers(context, call, from, items);
+    return Value(sceneOf(context).shortestName(create(context, call)));
+}
+
+Value edit(const CommandContext& context, const ParsedCommand& call)
+{
+    const std::vector<std::string> names = call.names();
+    if (names.size() != 1)
+        context.fail("'sets' needs one set to edit");
+    Node& set = setNamed(context, names.front());
+    setAttributes(context, call, kAttributes(), set);
+    return Value(sceneOf(context).shortestName(set));
 }
 
 Value sets(CommandContext& context, const ParsedCommand& call)
@@ -222,17 +276,25 @@ Value sets(CommandContext& context, const ParsedCommand& call)
         return query(context, call);
     if (call.has("clear")) {
         Node& set = setNamed(context, call.string("clear"));
-        return removeMembers(context, set, setMembers(set));
+        for (const SelectionItem& member : setMembers(set))
+            require(context, removeSetMember(set, member));
+        return Value(sceneOf(context).shortestName(set));
     }
+    if (call.has("flatten"))
+        return flatten(context, setNamed(context, call.string("flatten")));
+    if (call.has("split"))
+        return split(context, call);
     if (call.has("isIntersecting"))
         return isIntersecting(context, call);
     for (const SetChange& change : kChanges)
         if (call.has(change.longName))
-            return change.apply(context, setNamed(context, call.string(change.longName)),
+            return change.apply(context, call, setNamed(context, call.string(change.longName)),
                                 itemsOrSelection(context, call.names()));
     for (const SetOperation& operation : kOperations)
         if (call.has(operation.longName))
             return operate(context, call, operation);
+    if (call.edits())
+        return edit(context, call);
     return Value(sceneOf(context).shortestName(create(context, call)));
 }
 
@@ -241,29 +303,29 @@ Value sets(CommandContext& context, const ParsedCommand& call)
 void registerSetCommands(CommandTable& table)
 {
     using A = ArgumentType;
-    const char* const onlyWhole = "sets hold whole objects here";
     std::vector<FlagSpec> flags = {
         valueFlag("n", "name", A::string, "the new set's name"),
         switchFlag("em", "empty", "the new set has no members"),
         valueFlag("cp", "copy", A::name, "the new set has the members of this one"),
-        valueFlag("t", "text", A::string, "a note with the set", kCreateQuery),
-        switchFlag("r", "renderable", "makes a shading group", kCreateQuery),
+        valueFlag("r", "renderable", A::boolean, "makes a shading group", kCreateQuery),
         valueFlag("nss", "noSurfaceShader", A::boolean, "a shading group without a shader"),
         valueFlag("cl", "clear", A::name, "empties this set", kCreateEdit),
+        valueFlag("fl", "flatten", A::name, "puts the members of sets in place of those in this one",
+                  kCreateEdit),
+        valueFlag("sp", "split", A::name, "moves the objects from this set to a new one"),
         valueFlag("ii", "isIntersecting", A::name, "whether this set shares a member with the others"),
         switchFlag("s", "size", "how many members there are", kQuery),
         switchFlag("no", "nodesOnly", "objects, not their components (always so)", kQuery),
-        refusedFlag("eg", "edges", onlyWhole),
-        refusedFlag("ep", "editPoints", onlyWhole),
-        refusedFlag("fc", "facets", onlyWhole),
-        refusedFlag("v", "vertices", onlyWhole),
-        refusedFlag("co", "color", "set the attribute memberWireframeColor"),
+        switchFlag("ni", "noIntermediate", "leaves intermediate objects out", kCreateQuery),
+        switchFlag("nw", "noWarnings", "does not say what -include leaves out", kCreateEdit),
         refusedFlag("l", "layer", "obsolete"),
         refusedFlag("af", "afterFilters", "there are no deformers"),
-        refusedFlag("sp", "split", "there are no deformers"),
-        refusedFlag("fl", "flatten", "name the members of the sets instead"),
-        refusedFlag("nw", "noWarnings", "warnings say what was left out"),
     };
+    for (const ComponentSet& row : kComponentSets)
+        flags.push_back(valueFlag(row.shortName, row.longName, A::boolean,
+                                  std::string("a set that holds only ") + row.what, kCreateQuery));
+    for (const FlagSpec& flag : specsOf(kAttributes()))
+        flags.push_back(flag);
     for (const SetChange& change : kChanges)
         flags.push_back(valueFlag(change.shortName, change.longName, A::name, change.help, kCreateEdit));
     for (const SetOperation& operation : kOperations)
