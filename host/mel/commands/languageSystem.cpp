@@ -98,6 +98,11 @@ Value getpid(CommandContext&, Arguments&)
     return static_cast<int>(::getpid());
 }
 
+Value python(CommandContext& context, Arguments&)
+{
+    context.fail("python is not implemented: there is no Python here.");
+}
+
 } // namespace
 
 void addSystemCommands(CommandTable& table)
@@ -107,6 +112,7 @@ void addSystemCommands(CommandTable& table)
                  getenv),
         function("putenv", "Sets an environment variable", {kString, kString}, putenv),
         function("system", "Runs a shell command and gives its output; must be allowed", {kString}, system),
+        function("python", "Refused: there is no Python", {kString}, python),
         function("getpid", "The number of this process", {}, getpid),
         command("timerX", "Seconds that have passed",
                 {{"st", "startTime", {ArgumentType::number}, kCreate, "An earlier result to count from"}}, {},

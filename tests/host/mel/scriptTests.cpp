@@ -1,13 +1,12 @@
 // Every script under scripts/ prints exactly what the file of the same name beside it says, errors included.
+#include "../support/scriptFolder.h"
 #include "mel/interpreter.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <cstdlib>
 #include <filesystem>
-#include <fstream>
 #include <sstream>
 #include <string>
 #include <unistd.h>
@@ -22,23 +21,7 @@ const fs::path kFolder = fs::path(TVX_SOURCE_DIR) / "tests/host/mel";
 
 std::vector<std::string> scriptNames()
 {
-    std::vector<std::string> names;
-    for (const auto& entry : fs::directory_iterator(kFolder / "scripts")) {
-        if (entry.path().extension() == ".mel") {
-            names.push_back(entry.path().stem().string());
-        }
-    }
-    std::sort(names.begin(), names.end());
-    return names;
-}
-
-std::string contentOf(const fs::path& file)
-{
-    std::ifstream stream(file, std::ios::binary);
-    EXPECT_TRUE(stream) << file;
-    std::ostringstream text;
-    text << stream.rdbuf();
-    return text.str();
+    return test::scriptNames(kFolder / "scripts");
 }
 
 class Script : public testing::TestWithParam<std::string>
@@ -66,14 +49,14 @@ TEST_P(Script, PrintsWhatIsExpected)
     mel::Interpreter interpreter(commands, editor);
     interpreter.scriptPath().append(kFolder / "library");
 
-    interpreter.run(contentOf(kFolder / "scripts" / (GetParam() + ".mel")), GetParam() + ".mel");
+    interpreter.run(test::contentOf(kFolder / "scripts" / (GetParam() + ".mel")), GetParam() + ".mel");
     interpreter.runDeferred();
 
-    EXPECT_EQ(output.str(), contentOf(kFolder / "scripts" / (GetParam() + ".expected")));
+    EXPECT_EQ(output.str(), test::contentOf(kFolder / "scripts" / (GetParam() + ".expected")));
 }
 
 INSTANTIATE_TEST_SUITE_P(Mel, Script, testing::ValuesIn(scriptNames()),
-                         [](const auto& test) { return test.param; });
+                         [](const auto& script) { return script.param; });
 
 TEST(Scripts, AreAllThere)
 {
