@@ -1,8 +1,12 @@
 // The V-Ray user-data node as a scene has it.
 #include "NodeTest.h"
 
+#include <maya/MDataBlock.h>
+#include <maya/MDataHandle.h>
 #include <maya/MFnAttribute.h>
+#include <maya/MFnDependencyNode.h>
 #include <maya/MFnEnumAttribute.h>
+#include <maya/MPxNode.h>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -55,6 +59,15 @@ TEST_F(GetUserDataVRay, MarksItsOutputCleanWhenAskedForIt)
     ASSERT_TRUE(isDirty(plug("output")));
     EXPECT_EQ(compute(node, plug("output")), MStatus::kSuccess);
     EXPECT_FALSE(isDirty(plug("output")));
+}
+
+TEST_F(GetUserDataVRay, LeavesTheValueOfItsOutputAsItIs)
+{
+    MDataBlock block = MFnDependencyNode(node, nullptr).userNode()->_forceCache();
+    block.outputValue(plug("output")).setDouble(12.5);
+    EXPECT_TRUE(plug("paramType").setShort(1));
+    EXPECT_EQ(compute(node, plug("output")), MStatus::kSuccess);
+    EXPECT_EQ(plug("output").asDouble(), 12.5);
 }
 
 TEST_F(GetUserDataVRay, AnswersForNoOtherPlugAndTouchesNothing)
