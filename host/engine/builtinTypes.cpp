@@ -5,6 +5,8 @@
 #include "boundingBox.h"
 #include "cell.h"
 #include "computeSupport.h"
+#include "constraintNodes.h"
+#include "geometry/curveNode.h"
 #include "geometry/historyNodes.h"
 #include "geometry/polyNodes.h"
 #include "mesh.h"
@@ -189,6 +191,8 @@ void addBuiltinComputes(TypeTable& types)
     addParticleBehaviour(types);
     addUtilityComputes(types);
     addMatrixComputes(types);
+    addConstraintComputes(types);
+    addCurveComputes(types);
 }
 
 } // namespace tvxhost::engine

@@ -35,6 +35,17 @@ std::vector<double> numbersOf(Node& node, std::string_view attribute)
     return readNumbers(plugOf(node, attribute)).value;
 }
 
+Vec3d vectorOf(const Plug& plug)
+{
+    const std::vector<double> numbers = readNumbers(plug).value;
+    return numbers.size() == 3 ? Vec3d(numbers[0], numbers[1], numbers[2]) : Vec3d(0.0);
+}
+
+Vec3d vectorOf(Node& node, std::string_view attribute)
+{
+    return vectorOf(plugOf(node, attribute));
+}
+
 Matrix matrixOf(const Plug& plug)
 {
     const Expected<Ref<Data>> data = readData(plug);

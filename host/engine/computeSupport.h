@@ -19,6 +19,9 @@ Plug topPlug(const Plug& plug);
 double numberOf(Node& node, std::string_view attribute);
 /// The numbers of a group, or the one that an attribute has, evaluated.
 std::vector<double> numbersOf(Node& node, std::string_view attribute);
+/// The three numbers of a group, evaluated.
+Vec3d vectorOf(const Plug& plug);
+Vec3d vectorOf(Node& node, std::string_view attribute);
 /// A matrix, evaluated; the identity when there is none.
 Matrix matrixOf(const Plug& plug);
 

@@ -40,6 +40,13 @@ private:
     DagNode& m_node;
 };
 
+/// What takes the scale of the joint above back from a joint.
+Matrix segmentCompensation(const Values& values)
+{
+    const bool compensates = values.flag("segmentScaleCompensate", false);
+    return compensates ? scaling(Vec3d(1.0) / values.vector("inverseScale", 1.0)) : Matrix();
+}
+
 constexpr int kTemplateDisplay = 1;
 
 } // namespace
@@ -86,7 +93,7 @@ Matrix DagNode::localMatrix()
            shearing(values.vector("shear")) *
            translation(scalePivot + values.vector("scalePivotTranslate") - rotatePivot) *
            rotation(values.vector("rotateAxis"), 0) * rotation(values.vector("rotate"), order) *
-           rotation(values.vector("jointOrient"), 0) *
+           rotation(values.vector("jointOrient"), 0) * segmentCompensation(values) *
            translation(rotatePivot + values.vector("rotatePivotTranslate") + values.vector("translate"));
 }
 

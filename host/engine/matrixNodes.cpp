@@ -1,12 +1,11 @@
 // Utility nodes: what they compute with matrices.
 #include "computeSupport.h"
+#include "matrixParts.h"
 #include "node.h"
 #include "utilityNodes.h"
 
-#include <Imath/ImathEuler.h>
 #include <Imath/ImathMatrixAlgo.h>
 
-#include <array>
 #include <string>
 
 namespace tvxhost::engine {
@@ -23,39 +22,6 @@ Computed computeMultMatrix(Node& node, const Plug& plug)
         product *= matrixOf(factors.element(index));
     finishMatrix(plug, product);
     return Computed::done;
-}
-
-/// A matrix taken apart: p' = p * scale * shear * rotation * translation.
-struct MatrixPieces
-{
-    Vec3d scale{1.0};
-    Vec3d shear{0.0};
-    Vec3d translation{0.0};
-    Matrix rotation;
-};
-
-MatrixPieces takeApart(const Matrix& matrix)
-{
-    MatrixPieces pieces;
-    pieces.translation = matrix.translation();
-    pieces.rotation = matrix;
-    // One without volume has no rotation to be found.
-    if (!Imath::extractAndRemoveScalingAndShear(pieces.rotation, pieces.scale, pieces.shear, false))
-        pieces.rotation.makeIdentity();
-    return pieces;
-}
-
-/// As the attribute rotateOrder numbers the orders.
-constexpr std::array<Imath::Eulerd::Order, 6> kOrders = {Imath::Eulerd::XYZ, Imath::Eulerd::YZX,
-                                                         Imath::Eulerd::ZXY, Imath::Eulerd::XZY,
-                                                         Imath::Eulerd::YXZ, Imath::Eulerd::ZYX};
-
-Vec3d anglesOf(const Matrix& rotation, int order)
-{
-    const bool exists = order >= 0 && order < static_cast<int>(kOrders.size());
-    Imath::Eulerd angles(kOrders[exists ? static_cast<std::size_t>(order) : 0]);
-    angles.extract(rotation);
-    return angles.toXYZVector();
 }
 
 Computed computeDecomposeMatrix(Node& node, const Plug& plug)
@@ -81,8 +47,7 @@ Computed computeDecomposeMatrix(Node& node, const Plug& plug)
 
 Vec3d pointOf(Node& node, const char* point, const char* matrix)
 {
-    const std::vector<double> local = numbersOf(node, point);
-    return Vec3d(local[0], local[1], local[2]) * matrixOf(plugOf(node, matrix));
+    return vectorOf(node, point) * matrixOf(plugOf(node, matrix));
 }
 
 Computed computeDistanceBetween(Node& node, const Plug& plug)

@@ -1,7 +1,9 @@
 // Parts of transforms: see matrixParts.h.
 #include "matrixParts.h"
 
-#include <array>
+#include <Imath/ImathEuler.h>
+#include <Imath/ImathMatrixAlgo.h>
+
 #include <cmath>
 
 namespace tvxhost::engine {
@@ -12,6 +14,16 @@ using AxisOrder = std::array<int, 3>;
 
 constexpr std::array<AxisOrder, 6> kOrders = {
     {{0, 1, 2}, {1, 2, 0}, {2, 0, 1}, {0, 2, 1}, {1, 0, 2}, {2, 1, 0}}};
+
+constexpr std::array<Imath::Eulerd::Order, kOrders.size()> kEulerOrders = {
+    Imath::Eulerd::XYZ, Imath::Eulerd::YZX, Imath::Eulerd::ZXY,
+    Imath::Eulerd::XZY, Imath::Eulerd::YXZ, Imath::Eulerd::ZYX};
+
+std::size_t placeOf(int order)
+{
+    const bool exists = order >= 0 && order < static_cast<int>(kOrders.size());
+    return exists ? static_cast<std::size_t>(order) : 0;
+}
 
 Matrix rotationAbout(int axis, double angle)
 {
@@ -49,13 +61,34 @@ Matrix shearing(const Vec3d& shear)
     return m;
 }
 
+const AxisOrder& axesOf(int order)
+{
+    return kOrders[placeOf(order)];
+}
+
 Matrix rotation(const Vec3d& angles, int order)
 {
-    const bool exists = order >= 0 && order < static_cast<int>(kOrders.size());
     Matrix m;
-    for (const int axis : kOrders[exists ? static_cast<std::size_t>(order) : 0])
+    for (const int axis : axesOf(order))
         m *= rotationAbout(axis, angles[axis]);
     return m;
+}
+
+MatrixPieces takeApart(const Matrix& matrix)
+{
+    MatrixPieces pieces;
+    pieces.translation = matrix.translation();
+    pieces.rotation = matrix;
+    if (!Imath::extractAndRemoveScalingAndShear(pieces.rotation, pieces.scale, pieces.shear, false))
+        pieces.rotation.makeIdentity();
+    return pieces;
+}
+
+Vec3d anglesOf(const Matrix& rotation, int order)
+{
+    Imath::Eulerd angles(kEulerOrders[placeOf(order)]);
+    angles.extract(rotation);
+    return angles.toXYZVector();
 }
 
 } // namespace tvxhost::engine

@@ -10,16 +10,17 @@ namespace {
 
 constexpr const char* kTypeName = "nurbsCurve";
 
+} // namespace
+
 std::optional<NurbsCurve> curveIn(const Plug& plug)
 {
     const auto data = readData(plug);
     if (!data || data.value->type() != DataType::plugin)
         return std::nullopt;
     const auto& kept = static_cast<const KeptData&>(*data.value);
-    return kept.typeName == kTypeName ? parseNurbsCurve(kept.text) : std::nullopt;
+    auto curve = kept.typeName == kTypeName ? parseNurbsCurve(kept.text) : std::nullopt;
+    return curve && curve->isValid() ? curve : std::nullopt;
 }
-
-} // namespace
 
 bool hasCurveHistory(Node& node)
 {
