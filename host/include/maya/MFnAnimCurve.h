@@ -81,9 +81,9 @@ public:
 
     /// Attached to nothing, to a curve, or to the curve that feeds a plug.
     MFnAnimCurve() {}
-    MFnAnimCurve(MObject& object, MStatus* ReturnStatus);
+    MFnAnimCurve(MObject& object, MStatus* ReturnStatus TVX_OPTIONAL_STATUS);
     MFnAnimCurve(const MPlug& plug, MStatus* ReturnStatus = nullptr);
-    MFnAnimCurve(const MObject& object, MStatus* ReturnStatus);
+    MFnAnimCurve(const MObject& object, MStatus* ReturnStatus TVX_OPTIONAL_STATUS);
 
     /// Makes a curve and attaches to it. With a plug, it feeds it and is named after it, and its type fits it
     /// unless one is given; kFailure when the plug is locked or fed already. With a modifier, undoIt() takes

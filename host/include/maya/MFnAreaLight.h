@@ -19,9 +19,9 @@ public:
 
     /// Attached to nothing, to a light, or to one instance of it.
     MFnAreaLight();
-    MFnAreaLight(MObject& object, MStatus* ret);
-    MFnAreaLight(const MDagPath& object, MStatus* ret);
-    MFnAreaLight(const MObject& object, MStatus* ret);
+    MFnAreaLight(MObject& object, MStatus* ret TVX_OPTIONAL_STATUS);
+    MFnAreaLight(const MDagPath& object, MStatus* ret TVX_OPTIONAL_STATUS);
+    MFnAreaLight(const MObject& object, MStatus* ret TVX_OPTIONAL_STATUS);
 
     /// Makes a light and attaches to it. Without a parent a transform is made above it and is the result;
     /// with one the light comes below it, or with `wantTransform` below a transform of its own, which then is

@@ -30,9 +30,9 @@ public:
     MFnAttribute() : ca() {}
 
     /// Attached to an attribute.
-    MFnAttribute(MObject& object, MStatus* ReturnStatus);
+    MFnAttribute(MObject& object, MStatus* ReturnStatus TVX_OPTIONAL_STATUS);
 
-    MFnAttribute(const MObject& object, MStatus* ReturnStatus);
+    MFnAttribute(const MObject& object, MStatus* ReturnStatus TVX_OPTIONAL_STATUS);
 
     ~MFnAttribute() override;
 

@@ -8,6 +8,10 @@
 
 class MPtrBase;
 
+/// The default of the status in the constructors that function sets share: `MFnMesh mesh(object);` is as good
+/// as asking for the status.
+#define TVX_OPTIONAL_STATUS = nullptr
+
 /// A function set: the functions that suit a type of object, attached to one object at a time. Attaching to
 /// an object of another type fails with kInvalidParameter and leaves the set attached to nothing; members
 /// called then fail with kFailure and give neutral values. A set cannot be copied.

@@ -43,9 +43,9 @@ public:
 
     /// Attached to nothing, to a camera, or to one instance of it.
     MFnCamera();
-    MFnCamera(MObject& object, MStatus* ret);
-    MFnCamera(const MDagPath& object, MStatus* ret);
-    MFnCamera(const MObject& object, MStatus* ret);
+    MFnCamera(MObject& object, MStatus* ret TVX_OPTIONAL_STATUS);
+    MFnCamera(const MDagPath& object, MStatus* ret TVX_OPTIONAL_STATUS);
+    MFnCamera(const MObject& object, MStatus* ret TVX_OPTIONAL_STATUS);
 
     /// Makes a camera and attaches to it; below a new transform, the result, or below the parent.
     MObject create(MStatus* ReturnStatus = nullptr);

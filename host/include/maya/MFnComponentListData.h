@@ -15,9 +15,9 @@ public:
     MFnComponentListData() {}
 
     /// Attached to a component list.
-    MFnComponentListData(MObject& object, MStatus* ReturnStatus);
+    MFnComponentListData(MObject& object, MStatus* ReturnStatus TVX_OPTIONAL_STATUS);
 
-    MFnComponentListData(const MObject& object, MStatus* ReturnStatus);
+    MFnComponentListData(const MObject& object, MStatus* ReturnStatus TVX_OPTIONAL_STATUS);
     ~MFnComponentListData() override;
 
     MFn::Type type() const override;

@@ -18,9 +18,9 @@ public:
     MFnCompoundAttribute() {}
 
     /// Attached to a compound attribute.
-    MFnCompoundAttribute(MObject& object, MStatus* ReturnStatus);
+    MFnCompoundAttribute(MObject& object, MStatus* ReturnStatus TVX_OPTIONAL_STATUS);
 
-    MFnCompoundAttribute(const MObject& object, MStatus* ReturnStatus);
+    MFnCompoundAttribute(const MObject& object, MStatus* ReturnStatus TVX_OPTIONAL_STATUS);
     ~MFnCompoundAttribute() override;
 
     MFn::Type type() const override;

@@ -44,12 +44,12 @@ public:
     };
 
     /// Attached to a data object.
-    MFnData(MObject& object, MStatus* ReturnStatus);
+    MFnData(MObject& object, MStatus* ReturnStatus TVX_OPTIONAL_STATUS);
 
     /// Attached to nothing.
     MFnData();
 
-    MFnData(const MObject& object, MStatus* ReturnStatus);
+    MFnData(const MObject& object, MStatus* ReturnStatus TVX_OPTIONAL_STATUS);
     ~MFnData() override;
 
     MFn::Type type() const override;

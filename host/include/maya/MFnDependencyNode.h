@@ -75,9 +75,9 @@ public:
     MFnDependencyNode() {}
 
     /// Attached to a node.
-    MFnDependencyNode(MObject& object, MStatus* ReturnStatus);
+    MFnDependencyNode(MObject& object, MStatus* ReturnStatus TVX_OPTIONAL_STATUS);
 
-    MFnDependencyNode(const MObject& object, MStatus* ReturnStatus);
+    MFnDependencyNode(const MObject& object, MStatus* ReturnStatus TVX_OPTIONAL_STATUS);
     ~MFnDependencyNode() override;
 
     MFn::Type type() const override;

@@ -16,9 +16,9 @@ public:
     MFnDoubleArrayData() {}
 
     /// Attached to such data.
-    MFnDoubleArrayData(MObject& object, MStatus* ReturnStatus);
+    MFnDoubleArrayData(MObject& object, MStatus* ReturnStatus TVX_OPTIONAL_STATUS);
 
-    MFnDoubleArrayData(const MObject& object, MStatus* ReturnStatus);
+    MFnDoubleArrayData(const MObject& object, MStatus* ReturnStatus TVX_OPTIONAL_STATUS);
     ~MFnDoubleArrayData() override;
 
     MFn::Type type() const override;

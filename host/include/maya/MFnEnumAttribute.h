@@ -17,9 +17,9 @@ public:
     MFnEnumAttribute() {}
 
     /// Attached to an enumerated attribute.
-    MFnEnumAttribute(MObject& object, MStatus* ReturnStatus);
+    MFnEnumAttribute(MObject& object, MStatus* ReturnStatus TVX_OPTIONAL_STATUS);
 
-    MFnEnumAttribute(const MObject& object, MStatus* ReturnStatus);
+    MFnEnumAttribute(const MObject& object, MStatus* ReturnStatus TVX_OPTIONAL_STATUS);
     ~MFnEnumAttribute() override;
 
     MFn::Type type() const override;

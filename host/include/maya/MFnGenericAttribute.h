@@ -20,9 +20,9 @@ public:
     MFnGenericAttribute() {}
 
     /// Attached to a generic attribute.
-    MFnGenericAttribute(MObject& object, MStatus* ReturnStatus);
+    MFnGenericAttribute(MObject& object, MStatus* ReturnStatus TVX_OPTIONAL_STATUS);
 
-    MFnGenericAttribute(const MObject& object, MStatus* ReturnStatus);
+    MFnGenericAttribute(const MObject& object, MStatus* ReturnStatus TVX_OPTIONAL_STATUS);
     ~MFnGenericAttribute() override;
 
     MFn::Type type() const override;

@@ -18,8 +18,8 @@ public:
     MFnGeometryData() {}
 
     /// Attached to such data.
-    MFnGeometryData(MObject& object, MStatus* ReturnStatus);
-    MFnGeometryData(const MObject& object, MStatus* ReturnStatus);
+    MFnGeometryData(MObject& object, MStatus* ReturnStatus TVX_OPTIONAL_STATUS);
+    MFnGeometryData(const MObject& object, MStatus* ReturnStatus TVX_OPTIONAL_STATUS);
 
     ~MFnGeometryData() override;
 

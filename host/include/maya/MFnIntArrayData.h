@@ -16,9 +16,9 @@ public:
     MFnIntArrayData() {}
 
     /// Attached to such data.
-    MFnIntArrayData(MObject& object, MStatus* ReturnStatus);
+    MFnIntArrayData(MObject& object, MStatus* ReturnStatus TVX_OPTIONAL_STATUS);
 
-    MFnIntArrayData(const MObject& object, MStatus* ReturnStatus);
+    MFnIntArrayData(const MObject& object, MStatus* ReturnStatus TVX_OPTIONAL_STATUS);
     ~MFnIntArrayData() override;
 
     MFn::Type type() const override;

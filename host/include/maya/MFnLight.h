@@ -21,9 +21,9 @@ public:
 
     /// Attached to nothing, to a light, or to one instance of it.
     MFnLight();
-    MFnLight(MObject& object, MStatus* ret);
-    MFnLight(const MDagPath& object, MStatus* ret);
-    MFnLight(const MObject& object, MStatus* ret);
+    MFnLight(MObject& object, MStatus* ret TVX_OPTIONAL_STATUS);
+    MFnLight(const MDagPath& object, MStatus* ret TVX_OPTIONAL_STATUS);
+    MFnLight(const MObject& object, MStatus* ret TVX_OPTIONAL_STATUS);
 
     /// The colour and the brightness; their product.
     MColor color(MStatus* ReturnStatus = nullptr) const;

@@ -18,8 +18,8 @@ public:
 
     /// Attached to nothing, or to a light data attribute.
     MFnLightDataAttribute() {}
-    MFnLightDataAttribute(MObject& object, MStatus* ReturnStatus);
-    MFnLightDataAttribute(const MObject& object, MStatus* ReturnStatus);
+    MFnLightDataAttribute(MObject& object, MStatus* ReturnStatus TVX_OPTIONAL_STATUS);
+    MFnLightDataAttribute(const MObject& object, MStatus* ReturnStatus TVX_OPTIONAL_STATUS);
 
     /// Makes an attribute of these children (numbers: three, three, one each) and attaches to it;
     /// kInvalidParameter when one of them is no attribute or belongs to something already.

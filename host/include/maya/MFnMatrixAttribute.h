@@ -24,9 +24,9 @@ public:
     MFnMatrixAttribute() {}
 
     /// Attached to a matrix attribute.
-    MFnMatrixAttribute(MObject& object, MStatus* ReturnStatus);
+    MFnMatrixAttribute(MObject& object, MStatus* ReturnStatus TVX_OPTIONAL_STATUS);
 
-    MFnMatrixAttribute(const MObject& object, MStatus* ReturnStatus);
+    MFnMatrixAttribute(const MObject& object, MStatus* ReturnStatus TVX_OPTIONAL_STATUS);
     ~MFnMatrixAttribute() override;
 
     MFn::Type type() const override;

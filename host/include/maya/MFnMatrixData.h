@@ -17,9 +17,9 @@ public:
     MFnMatrixData() {}
 
     /// Attached to matrix data.
-    MFnMatrixData(MObject& object, MStatus* ReturnStatus);
+    MFnMatrixData(MObject& object, MStatus* ReturnStatus TVX_OPTIONAL_STATUS);
 
-    MFnMatrixData(const MObject& object, MStatus* ReturnStatus);
+    MFnMatrixData(const MObject& object, MStatus* ReturnStatus TVX_OPTIONAL_STATUS);
     ~MFnMatrixData() override;
 
     MFn::Type type() const override;

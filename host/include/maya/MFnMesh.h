@@ -72,9 +72,9 @@ public:
 
     /// Attached to nothing, to a mesh shape or mesh data, or to the mesh at or below the end of a path.
     MFnMesh();
-    MFnMesh(MObject& object, MStatus* ret);
-    MFnMesh(const MDagPath& object, MStatus* ret);
-    MFnMesh(const MObject& object, MStatus* ret);
+    MFnMesh(MObject& object, MStatus* ret TVX_OPTIONAL_STATUS);
+    MFnMesh(const MDagPath& object, MStatus* ret TVX_OPTIONAL_STATUS);
+    MFnMesh(const MObject& object, MStatus* ret TVX_OPTIONAL_STATUS);
 
     ~MFnMesh() override;
 

@@ -16,8 +16,8 @@ public:
     MFnMeshData() {}
 
     /// Attached to such data.
-    MFnMeshData(MObject& object, MStatus* ReturnStatus);
-    MFnMeshData(const MObject& object, MStatus* ReturnStatus);
+    MFnMeshData(MObject& object, MStatus* ReturnStatus TVX_OPTIONAL_STATUS);
+    MFnMeshData(const MObject& object, MStatus* ReturnStatus TVX_OPTIONAL_STATUS);
 
     ~MFnMeshData() override;
 

@@ -17,9 +17,9 @@ public:
     MFnMessageAttribute() {}
 
     /// Attached to a message attribute.
-    MFnMessageAttribute(MObject& object, MStatus* ReturnStatus);
+    MFnMessageAttribute(MObject& object, MStatus* ReturnStatus TVX_OPTIONAL_STATUS);
 
-    MFnMessageAttribute(const MObject& object, MStatus* ReturnStatus);
+    MFnMessageAttribute(const MObject& object, MStatus* ReturnStatus TVX_OPTIONAL_STATUS);
     ~MFnMessageAttribute() override;
 
     MFn::Type type() const override;

@@ -19,9 +19,9 @@ public:
 
     /// Attached to nothing, to a light, or to one instance of it.
     MFnNonAmbientLight();
-    MFnNonAmbientLight(MObject& object, MStatus* ret);
-    MFnNonAmbientLight(const MDagPath& object, MStatus* ret);
-    MFnNonAmbientLight(const MObject& object, MStatus* ret);
+    MFnNonAmbientLight(MObject& object, MStatus* ret TVX_OPTIONAL_STATUS);
+    MFnNonAmbientLight(const MDagPath& object, MStatus* ret TVX_OPTIONAL_STATUS);
+    MFnNonAmbientLight(const MObject& object, MStatus* ret TVX_OPTIONAL_STATUS);
 
     /// How the light decays with distance: 0 not, 1 linear, 2 quadratic, 3 cubic.
     short decayRate(MStatus* ReturnStatus = nullptr) const;

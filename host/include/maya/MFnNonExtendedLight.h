@@ -19,9 +19,9 @@ public:
 
     /// Attached to nothing, to a light, or to one instance of it.
     MFnNonExtendedLight();
-    MFnNonExtendedLight(MObject& object, MStatus* ret);
-    MFnNonExtendedLight(const MDagPath& object, MStatus* ret);
-    MFnNonExtendedLight(const MObject& object, MStatus* ret);
+    MFnNonExtendedLight(MObject& object, MStatus* ret TVX_OPTIONAL_STATUS);
+    MFnNonExtendedLight(const MDagPath& object, MStatus* ret TVX_OPTIONAL_STATUS);
+    MFnNonExtendedLight(const MObject& object, MStatus* ret TVX_OPTIONAL_STATUS);
 
     /// The radius that soft shadows come from.
     float shadowRadius(MStatus* ReturnStatus = nullptr) const;

@@ -17,9 +17,9 @@ public:
     MFnNumericAttribute() {}
 
     /// Attached to a numeric attribute.
-    MFnNumericAttribute(MObject& object, MStatus* ReturnStatus);
+    MFnNumericAttribute(MObject& object, MStatus* ReturnStatus TVX_OPTIONAL_STATUS);
 
-    MFnNumericAttribute(const MObject& object, MStatus* ReturnStatus);
+    MFnNumericAttribute(const MObject& object, MStatus* ReturnStatus TVX_OPTIONAL_STATUS);
     ~MFnNumericAttribute() override;
 
     MFn::Type type() const override;

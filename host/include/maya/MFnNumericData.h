@@ -43,9 +43,9 @@ public:
     MFnNumericData() {}
 
     /// Attached to numeric data.
-    MFnNumericData(MObject& object, MStatus* ReturnStatus);
+    MFnNumericData(MObject& object, MStatus* ReturnStatus TVX_OPTIONAL_STATUS);
 
-    MFnNumericData(const MObject& object, MStatus* ReturnStatus);
+    MFnNumericData(const MObject& object, MStatus* ReturnStatus TVX_OPTIONAL_STATUS);
     ~MFnNumericData() override;
 
     MFn::Type type() const override;

@@ -42,9 +42,9 @@ public:
 
     /// Attached to nothing, to a curve, or to one instance of it.
     MFnNurbsCurve();
-    MFnNurbsCurve(MObject& object, MStatus* ret);
-    MFnNurbsCurve(const MDagPath& object, MStatus* ret);
-    MFnNurbsCurve(const MObject& object, MStatus* ret);
+    MFnNurbsCurve(MObject& object, MStatus* ret TVX_OPTIONAL_STATUS);
+    MFnNurbsCurve(const MDagPath& object, MStatus* ret TVX_OPTIONAL_STATUS);
+    MFnNurbsCurve(const MObject& object, MStatus* ret TVX_OPTIONAL_STATUS);
 
     /// Makes a curve of control points and knots and attaches to it; below a new transform, the result, or
     /// below the parent. kInvalidParameter when numbers do not fit each other. From edit points or from other

@@ -59,9 +59,9 @@ public:
 
     /// Attached to nothing, to a surface, or to one instance of it.
     MFnNurbsSurface();
-    MFnNurbsSurface(MObject& object, MStatus* ret);
-    MFnNurbsSurface(const MDagPath& object, MStatus* ret);
-    MFnNurbsSurface(const MObject& object, MStatus* ret);
+    MFnNurbsSurface(MObject& object, MStatus* ret TVX_OPTIONAL_STATUS);
+    MFnNurbsSurface(const MDagPath& object, MStatus* ret TVX_OPTIONAL_STATUS);
+    MFnNurbsSurface(const MObject& object, MStatus* ret TVX_OPTIONAL_STATUS);
 
     /// Makes a surface of control points and knots, or like another one, and attaches to it; below a new
     /// transform, the result, or below the parent. kInvalidParameter when numbers do not fit each other.

@@ -43,10 +43,10 @@ public:
     MFnParticleSystem();
 
     /// Attached to a particle shape, or to one instance of it.
-    MFnParticleSystem(MObject& object, MStatus* ret);
-    MFnParticleSystem(const MDagPath& object, MStatus* ret);
+    MFnParticleSystem(MObject& object, MStatus* ret TVX_OPTIONAL_STATUS);
+    MFnParticleSystem(const MDagPath& object, MStatus* ret TVX_OPTIONAL_STATUS);
 
-    MFnParticleSystem(const MObject& object, MStatus* ret);
+    MFnParticleSystem(const MObject& object, MStatus* ret TVX_OPTIONAL_STATUS);
     ~MFnParticleSystem() override;
 
     MFn::Type type() const override;

@@ -18,9 +18,9 @@ public:
     MFnPluginData() {}
 
     /// Attached to a plug-in's data.
-    MFnPluginData(MObject& object, MStatus* ReturnStatus);
+    MFnPluginData(MObject& object, MStatus* ReturnStatus TVX_OPTIONAL_STATUS);
 
-    MFnPluginData(const MObject& object, MStatus* ReturnStatus);
+    MFnPluginData(const MObject& object, MStatus* ReturnStatus TVX_OPTIONAL_STATUS);
     ~MFnPluginData() override;
 
     MFn::Type type() const override;

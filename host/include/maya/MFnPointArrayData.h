@@ -18,9 +18,9 @@ public:
     MFnPointArrayData() {}
 
     /// Attached to such data.
-    MFnPointArrayData(MObject& object, MStatus* ReturnStatus);
+    MFnPointArrayData(MObject& object, MStatus* ReturnStatus TVX_OPTIONAL_STATUS);
 
-    MFnPointArrayData(const MObject& object, MStatus* ReturnStatus);
+    MFnPointArrayData(const MObject& object, MStatus* ReturnStatus TVX_OPTIONAL_STATUS);
     ~MFnPointArrayData() override;
 
     MFn::Type type() const override;

@@ -36,8 +36,8 @@ public:
 
     /// Attached to nothing, or to a set.
     MFnSet() {}
-    MFnSet(MObject& object, MStatus* ReturnStatus);
-    MFnSet(const MObject& object, MStatus* ReturnStatus);
+    MFnSet(MObject& object, MStatus* ReturnStatus TVX_OPTIONAL_STATUS);
+    MFnSet(const MObject& object, MStatus* ReturnStatus TVX_OPTIONAL_STATUS);
 
     /// Makes a set of these members and attaches to it.
     MObject create(const MSelectionList& members, Restriction restriction = kNone,

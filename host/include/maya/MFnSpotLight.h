@@ -36,9 +36,9 @@ public:
 
     /// Attached to nothing, to a light, or to one instance of it.
     MFnSpotLight();
-    MFnSpotLight(MObject& object, MStatus* ret);
-    MFnSpotLight(const MDagPath& object, MStatus* ret);
-    MFnSpotLight(const MObject& object, MStatus* ret);
+    MFnSpotLight(MObject& object, MStatus* ret TVX_OPTIONAL_STATUS);
+    MFnSpotLight(const MDagPath& object, MStatus* ret TVX_OPTIONAL_STATUS);
+    MFnSpotLight(const MObject& object, MStatus* ret TVX_OPTIONAL_STATUS);
 
     /// Makes a light and attaches to it. Without a parent a transform is made above it and is the result;
     /// with one the light comes below it, or with `wantTransform` below a transform of its own, which then is

@@ -18,9 +18,9 @@ public:
     MFnStringArrayData() {}
 
     /// Attached to such data.
-    MFnStringArrayData(MObject& object, MStatus* ReturnStatus);
+    MFnStringArrayData(MObject& object, MStatus* ReturnStatus TVX_OPTIONAL_STATUS);
 
-    MFnStringArrayData(const MObject& object, MStatus* ReturnStatus);
+    MFnStringArrayData(const MObject& object, MStatus* ReturnStatus TVX_OPTIONAL_STATUS);
     ~MFnStringArrayData() override;
 
     MFn::Type type() const override;

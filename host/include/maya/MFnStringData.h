@@ -16,9 +16,9 @@ public:
     MFnStringData() {}
 
     /// Attached to string data.
-    MFnStringData(MObject& object, MStatus* ReturnStatus);
+    MFnStringData(MObject& object, MStatus* ReturnStatus TVX_OPTIONAL_STATUS);
 
-    MFnStringData(const MObject& object, MStatus* ReturnStatus);
+    MFnStringData(const MObject& object, MStatus* ReturnStatus TVX_OPTIONAL_STATUS);
     ~MFnStringData() override;
 
     MFn::Type type() const override;

@@ -54,10 +54,10 @@ public:
     MFnTransform();
 
     /// Attached to a transform, or to one instance of it.
-    MFnTransform(MObject& object, MStatus* ret);
-    MFnTransform(const MDagPath& object, MStatus* ret);
+    MFnTransform(MObject& object, MStatus* ret TVX_OPTIONAL_STATUS);
+    MFnTransform(const MDagPath& object, MStatus* ret TVX_OPTIONAL_STATUS);
 
-    MFnTransform(const MObject& object, MStatus* ret);
+    MFnTransform(const MObject& object, MStatus* ret TVX_OPTIONAL_STATUS);
     ~MFnTransform() override;
 
     MFn::Type type() const override;

@@ -19,9 +19,9 @@ public:
     MFnTypedAttribute() {}
 
     /// Attached to a typed attribute.
-    MFnTypedAttribute(MObject& object, MStatus* ReturnStatus);
+    MFnTypedAttribute(MObject& object, MStatus* ReturnStatus TVX_OPTIONAL_STATUS);
 
-    MFnTypedAttribute(const MObject& object, MStatus* ReturnStatus);
+    MFnTypedAttribute(const MObject& object, MStatus* ReturnStatus TVX_OPTIONAL_STATUS);
     ~MFnTypedAttribute() override;
 
     MFn::Type type() const override;

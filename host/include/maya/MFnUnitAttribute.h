@@ -29,9 +29,9 @@ public:
     MFnUnitAttribute() {}
 
     /// Attached to a unit attribute.
-    MFnUnitAttribute(MObject& object, MStatus* ReturnStatus);
+    MFnUnitAttribute(MObject& object, MStatus* ReturnStatus TVX_OPTIONAL_STATUS);
 
-    MFnUnitAttribute(const MObject& object, MStatus* ReturnStatus);
+    MFnUnitAttribute(const MObject& object, MStatus* ReturnStatus TVX_OPTIONAL_STATUS);
     ~MFnUnitAttribute() override;
 
     MFn::Type type() const override;

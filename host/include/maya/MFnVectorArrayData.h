@@ -18,9 +18,9 @@ public:
     MFnVectorArrayData() {}
 
     /// Attached to such data.
-    MFnVectorArrayData(MObject& object, MStatus* ReturnStatus);
+    MFnVectorArrayData(MObject& object, MStatus* ReturnStatus TVX_OPTIONAL_STATUS);
 
-    MFnVectorArrayData(const MObject& object, MStatus* ReturnStatus);
+    MFnVectorArrayData(const MObject& object, MStatus* ReturnStatus TVX_OPTIONAL_STATUS);
     ~MFnVectorArrayData() override;
 
     MFn::Type type() const override;

@@ -37,9 +37,9 @@ public:
 
     /// Attached to nothing, to a light, or to one instance of it.
     MFnVolumeLight();
-    MFnVolumeLight(MObject& object, MStatus* ret);
-    MFnVolumeLight(const MDagPath& object, MStatus* ret);
-    MFnVolumeLight(const MObject& object, MStatus* ret);
+    MFnVolumeLight(MObject& object, MStatus* ret TVX_OPTIONAL_STATUS);
+    MFnVolumeLight(const MDagPath& object, MStatus* ret TVX_OPTIONAL_STATUS);
+    MFnVolumeLight(const MObject& object, MStatus* ret TVX_OPTIONAL_STATUS);
 
     /// Makes a light and attaches to it. Without a parent a transform is made above it and is the result;
     /// with one the light comes below it, or with `wantTransform` below a transform of its own, which then is

@@ -104,6 +104,7 @@
 
 #define MNoVersionString
 #include <maya/MFnPlugin.h>
+#include <maya/MFnPluginData.h>
 
 #include <gtest/gtest.h>
 
@@ -181,6 +182,7 @@ const Layout layouts[] = {
     LAYOUT(MFnNurbsSurface, 80, 8),
     LAYOUT(MFnParticleSystem, 64, 8),
     LAYOUT(MFnPlugin, 32, 8),
+    LAYOUT(MFnPluginData, 32, 8),
     LAYOUT(MFnPointArrayData, 32, 8),
     LAYOUT(MFnStringArrayData, 32, 8),
     LAYOUT(MFnStringData, 32, 8),

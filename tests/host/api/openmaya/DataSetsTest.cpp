@@ -41,6 +41,16 @@ TEST_F(DataSetsTest, AStringIsMadeReadAndReplaced)
     EXPECT_EQ(text(MFnStringData(set.create(), nullptr).string()), "");
 }
 
+TEST_F(DataSetsTest, ASetIsMadeOnAnObjectWithoutAskingForTheStatus)
+{
+    MFnStringData made;
+    MObject data = made.create("crowd");
+    const MObject same = data;
+    EXPECT_EQ(text(MFnStringData(data).string()), "crowd");
+    EXPECT_EQ(text(MFnStringData(same).string()), "crowd");
+    EXPECT_FALSE(MFnData(data).object().isNull());
+}
+
 TEST_F(DataSetsTest, ASetForAnotherKindDoesNotAttach)
 {
     MFnStringData strings;
