@@ -4,26 +4,64 @@
 #include "observers.h"
 #include "scene.h"
 
+#include <utility>
+
 namespace tvxhost::engine {
 
+namespace {
+
+/// Tells what is otherwise than it was.
+void tellChanges(Scene& scene, const Units& units, const Playback& playback)
+{
+    const auto tell = [&](bool isChanged, Happening what) {
+        if (isChanged)
+            scene.observers().tell({what});
+    };
+    const Units unitsNow = scene.units();
+    const Playback playbackNow = scene.playback();
+    tell(unitsNow.linear != units.linear, Happening::linearUnitChanged);
+    tell(unitsNow.angle != units.angle, Happening::angularUnitChanged);
+    tell(unitsNow.time != units.time, Happening::timeUnitChanged);
+    tell(playbackNow.minimum() != playback.minimum() || playbackNow.maximum() != playback.maximum(),
+         Happening::playbackRangeChanged);
+}
+
+/// Holds the settings that the scene has not.
+class SettingsEdit final : public Edit
+{
+public:
+    SettingsEdit(Scene& scene, const Units& units, const Playback& playback)
+        : m_scene(scene), m_units(units), m_playback(playback)
+    {
+    }
+    void undo() override { exchange(); }
+    void redo() override { exchange(); }
+
+private:
+    void exchange()
+    {
+        std::swap(m_scene.units(), m_units);
+        std::swap(m_scene.playback(), m_playback);
+        tellChanges(m_scene, m_units, m_playback);
+    }
+
+    Scene& m_scene;
+    Units m_units;
+    Playback m_playback;
+};
+
+} // namespace
+
 SettingsChange::SettingsChange(Scene& scene)
-    : m_scene(scene), m_units(scene.units()), m_minimum(scene.playback().minimum()),
-      m_maximum(scene.playback().maximum())
+    : m_scene(scene), m_units(scene.units()), m_playback(scene.playback())
 {
 }
 
 SettingsChange::~SettingsChange()
 {
-    const auto tell = [this](bool isChanged, Happening what) {
-        if (isChanged)
-            m_scene.observers().tell({what});
-    };
-    const Units units = m_scene.units();
-    const Playback playback = m_scene.playback();
-    tell(units.linear != m_units.linear, Happening::linearUnitChanged);
-    tell(units.angle != m_units.angle, Happening::angularUnitChanged);
-    tell(units.time != m_units.time, Happening::timeUnitChanged);
-    tell(playback.minimum() != m_minimum || playback.maximum() != m_maximum, Happening::playbackRangeChanged);
+    if (m_scene.journal().isRecording())
+        m_scene.journal().record(std::make_unique<SettingsEdit>(m_scene, m_units, m_playback));
+    tellChanges(m_scene, m_units, m_playback);
 }
 
 } // namespace tvxhost::engine

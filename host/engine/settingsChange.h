@@ -1,14 +1,16 @@
-// SettingsChange: tells the observers which units and which played range have changed.
+// SettingsChange: remembers a change of units and of what is played, and tells the observers of it.
 #pragma once
 
+#include "playback.h"
 #include "units.h"
 
 namespace tvxhost::engine {
 
 class Scene;
 
-/// Stands for one change of a scene's settings: when it ends it tells the scene's observers what is otherwise
-/// than when it began.
+/// Stands for one change of a scene's settings: when it ends it is remembered for undo, and the scene's
+/// observers are told what is otherwise than when it began. They are told again when it is taken back or done
+/// again.
 class SettingsChange
 {
 public:
@@ -20,8 +22,7 @@ public:
 private:
     Scene& m_scene;
     Units m_units;
-    double m_minimum;
-    double m_maximum;
+    Playback m_playback;
 };
 
 } // namespace tvxhost::engine

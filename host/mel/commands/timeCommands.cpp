@@ -49,7 +49,6 @@ Value currentUnit(CommandContext& context, const ParsedCommand& call)
     if (call.queries())
         return unitName(units, call);
     const engine::SettingsChange settings(sceneOf(context));
-    sceneOf(context).journal().keep(units);
     change(context, call, "linear", units.linear, engine::linearUnitNamed);
     change(context, call, "angle", units.angle, engine::angularUnitNamed);
     change(context, call, "time", units.time, engine::timeUnitNamed);
@@ -135,7 +134,6 @@ Value playbackOptions(CommandContext& context, const ParsedCommand& call)
         return queryPlayback(context, call);
     Playback& playback = sceneOf(context).playback();
     const engine::SettingsChange settings(sceneOf(context));
-    sceneOf(context).journal().keep(playback);
     for (const RangeEnd& end : kRangeEnds)
         if (const FlagUse* use = call.use(end.longName))
             (playback.*end.set)(toInternal(context, use->arguments.front(), ArgumentType::time));
