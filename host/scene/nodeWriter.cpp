@@ -32,10 +32,11 @@ namespace {
 /// Values that one statement holds at most.
 constexpr std::size_t kValuesPerStatement = 500;
 
-/// A node whose type nobody knew when it was read: its lines are all there is of it.
-bool isPlaceholder(const engine::Node& node)
+/// A node whose type nobody knew when it was read: its lines are all there is of it. A type that went with
+/// its plug-in still has its attributes.
+bool isPlaceholder(const engine::Node& node, engine::TypeTable& types)
 {
-    return !node.unknownType.empty() && node.type().isA("unknown" + std::string(node.asDag() ? "Dag" : ""));
+    return !node.unknownType.empty() && types.find(node.type().name) == &node.type();
 }
 
 /// `".path"` of a kept statement, without quotes and dot; empty when it has none.
@@ -301,7 +302,8 @@ bool NodeWriter::writeLines(engine::Node& node)
     for (const std::string& kept : node.keptLines)
         if (std::string path = pathIn(kept); !path.empty())
             m_keptPaths.insert(std::move(path));
-    if (!isPlaceholder(node)) {
+    const bool keepsLinesOnly = isPlaceholder(node, m_scene.types());
+    if (!keepsLinesOnly) {
         for (const auto& attribute : node.dynamicAttributes())
             declare(*attribute);
         for (Attribute* attribute : inFileOrder(node))
@@ -315,7 +317,7 @@ bool NodeWriter::writeLines(engine::Node& node)
             line(kept);
     if (const auto reference = references.find(&node); reference != references.end())
         writeEdits(reference->second);
-    if (node.isLockedNode && !isPlaceholder(node))
+    if (node.isLockedNode && !keepsLinesOnly)
         m_out += "lockNode -l 1 ;\n";
     return m_out.size() != before;
 }

@@ -214,6 +214,9 @@ std::vector<Scene::Requirement> SceneWriter::requirements() const
     for (engine::NodeType* type : m_scene.types().all())
         if (!type->plugin.empty() && type->liveNodes > 0)
             addOnce(requirementOf(all, type->plugin).nodeTypes, type->name);
+    for (const Node* node : m_scene.nodes())
+        if (!node->unknownPlugin.empty())
+            addOnce(requirementOf(all, node->unknownPlugin).nodeTypes, node->unknownType);
     for (const auto& type : m_scene.dataTypes().all())
         if (engine::hasDataInUse(*type, m_scene.types()))
             addOnce(requirementOf(all, type->plugin).dataTypes, type->name);
