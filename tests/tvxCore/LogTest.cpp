@@ -200,15 +200,15 @@ TEST_F(LogTest, AListenerRemovedAndAddedAgainWhileAMessageIsUnderWayHearsTheNext
 
 TEST_F(LogTest, AListenerMayTraceFromItsHandler)
 {
-    log.addLogEventListener(&a);
-    log.addLogEventListener(&b);
+    for (Recorder* recorder : {&a, &b, &c})
+        log.addLogEventListener(recorder);
     a.then = [this] {
         a.then = nullptr;
         log.removeLogEventListener(&a);
         say("inner");
     };
     say("outer");
-    EXPECT_THAT(heard, ElementsAre("a:outer", "b:inner", "b:outer"));
+    EXPECT_THAT(heard, ElementsAre("a:outer", "b:inner", "c:inner", "b:outer", "c:outer"));
 }
 
 TEST_F(LogTest, WhatAListenerThrowsReachesTheCallerAndTheLogStaysUsable)

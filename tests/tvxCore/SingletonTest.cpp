@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include <atomic>
+#include <chrono>
 #include <cstdio>
 #include <cstdlib>
 #include <dlfcn.h>
@@ -23,7 +24,12 @@ class Counted : public Singleton<Counted>
 {
     friend class Singleton<Counted>;
 
-    Counted() { ++made; }
+    // Takes so long that all who ask at once have found none.
+    Counted()
+    {
+        std::this_thread::sleep_for(std::chrono::milliseconds(50));
+        ++made;
+    }
     ~Counted() override = default;
 
 public:
