@@ -240,8 +240,6 @@ bool MayaLogger::openFile()
 
 void MayaLogger::closeFile()
 {
-    if (m_file)
-        m_file->close();
     m_file.reset();
 }
 

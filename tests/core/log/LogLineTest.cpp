@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <climits>
 #include <cstdint>
 #include <string>
 
@@ -34,8 +35,8 @@ TEST(LogLine, HasAPrefixForEverySeverity)
 
 TEST(LogLine, HasNoPrefixForOtherCodes)
 {
-    EXPECT_EQ(linePrefix(-1), "");
-    EXPECT_EQ(linePrefix(5), "");
+    for (const int code : {-1, 5, INT_MIN, INT_MAX})
+        EXPECT_EQ(linePrefix(code), "") << code;
 }
 
 TEST(LogLine, CountsHoursMinutesAndSeconds)

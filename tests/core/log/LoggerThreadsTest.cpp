@@ -37,7 +37,7 @@ TEST(LoggerThreads, SixtyFourThreadsGetOneLoggerThatIsMadeOnce)
     const std::set<const MayaLogger*> loggers(seen.begin(), seen.end());
     EXPECT_EQ(loggers.size(), 1u);
     EXPECT_EQ(loggers.count(&MayaLogger::getInstance()), 1u);
-    EXPECT_EQ(system.openCount, 1) << "each construction opens the log file";
+    EXPECT_EQ(system.opened.size(), 1u) << "each construction opens the log file";
 }
 
 } // namespace

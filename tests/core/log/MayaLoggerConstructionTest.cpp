@@ -8,6 +8,7 @@
 
 #include <gmock/gmock.h>
 
+#include <cerrno>
 #include <cstdlib>
 #include <filesystem>
 #include <string>
@@ -136,6 +137,16 @@ TEST_F(MayaLoggerConstruction, LooksForTheFileOnDriveCWithoutADirectory)
     logOn(*makeLogger());
     std::filesystem::current_path(before);
     EXPECT_EQ(folder.read("c:/tvxCrowd.log"), "[TarvoxCrowd::INFO]\thello\n");
+}
+
+TEST_F(MayaLoggerConstruction, TakesAnEmptyDirectoryForTheRoot)
+{
+    MGlobal::setOptionVarValue("tvxPrefLogToFile", 1);
+    MGlobal::setOptionVarValue("tvxPrefLogDirectory", MString(""));
+    test::SystemCalls system;
+    system.opens = {test::Outcome{EACCES}};
+    makeLogger();
+    EXPECT_THAT(system.opened, ElementsAre("/tvxCrowd.log"));
 }
 
 TEST_F(MayaLoggerConstruction, BeginsTheTimeOfTheTimeStamps)

@@ -63,7 +63,7 @@ ssize_t __wrap_write(int file, const void* data, size_t size)
 int __wrap_open(const char* path, int flags, mode_t mode)
 {
     if (current)
-        ++current->openCount;
+        current->opened.emplace_back(path);
     const std::optional<Outcome> outcome = current ? take(current->opens) : std::nullopt;
     if (!outcome || outcome->error == 0)
         return __real_open(path, flags, mode);

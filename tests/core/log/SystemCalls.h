@@ -31,7 +31,7 @@ public:
     std::deque<Outcome> closes;       ///< the same for close, which closes in any case
     std::vector<std::string> written; ///< the text of each write that was not told to fail, as accepted
     int writeCount = 0;               ///< all calls of write
-    int openCount = 0;                ///< all calls of open
+    std::vector<std::string> opened;  ///< the path of each call of open
     std::time_t clock = 0;            ///< what the clock shows; 0 for the real time
 };
 
