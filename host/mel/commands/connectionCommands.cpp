@@ -35,6 +35,13 @@ Plug pastConversion(const Plug& plug, bool towardsSource)
     return fed.empty() ? plug : fed.front();
 }
 
+void setLocked(const Plug& plug, bool isLocked)
+{
+    engine::PlugState state = engine::stateOf(plug);
+    state.locked = isLocked;
+    engine::setState(plug, state);
+}
+
 Value connectAttr(CommandContext& context, const ParsedCommand& call)
 {
     engine::Scene& scene = sceneOf(context);
@@ -46,6 +53,9 @@ Value connectAttr(CommandContext& context, const ParsedCommand& call)
             context.fail("'" + destination.name() + "' is not an array: -nextAvailable has no meaning");
         destination = scene.nextAvailable(destination);
     }
+    // What is to be unlocked is so before, what is to be locked afterwards.
+    if (call.has("lock") && !call.boolean("lock"))
+        setLocked(destination, false);
     const Outcome connected = scene.connect(source, destination, call.has("force"));
     if (connected.reason == Reason::sameConnection) {
         context.warn(scene::connectMessage(connected, source, destination));
@@ -53,11 +63,8 @@ Value connectAttr(CommandContext& context, const ParsedCommand& call)
     }
     if (!connected)
         context.fail(scene::connectMessage(connected, source, destination));
-    if (call.has("lock")) {
-        engine::PlugState state = engine::stateOf(destination);
-        state.locked = call.boolean("lock");
-        engine::setState(destination, state);
-    }
+    if (call.boolean("lock"))
+        setLocked(destination, true);
     return Value("Connected " + source.name() + " to " + destination.name() + ".");
 }
 

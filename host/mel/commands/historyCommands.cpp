@@ -136,6 +136,46 @@ void addHistoryPlugs(Node& node, const ParsedCommand& call, Value::Strings& name
             names.push_back(plug.name());
 }
 
+/// Through which attributes the shapes of a type take and give their geometry.
+struct GeometryAttributes
+{
+    const char* type;
+    const char* history;
+    const char* local;
+    const char* world;
+};
+
+constexpr GeometryAttributes kGeometryAttributes[] = {
+    {"mesh", "inMesh", "outMesh", "worldMesh"},
+    {"nurbsCurve", "create", "local", "worldSpace"},
+    {"nurbsSurface", "create", "local", "worldSpace"},
+};
+
+/// A flag of query mode that asks for one of them.
+struct AttributeQuestion
+{
+    const char* shortName;
+    const char* longName;
+    const char* help;
+    const char* GeometryAttributes::*attribute;
+};
+
+constexpr AttributeQuestion kAttributeQuestions[] = {
+    {"ha", "historyAttr", "the attributes through which history comes in", &GeometryAttributes::history},
+    {"fl", "futureLocalAttr", "the attributes that give the shapes as they are", &GeometryAttributes::local},
+    {"fw", "futureWorldAttr", "the attributes that give the shapes in the world", &GeometryAttributes::world},
+};
+
+/// Nothing for what is no geometry.
+void addAttributesAsked(Node& node, const ParsedCommand& call, Value::Strings& names)
+{
+    for (const GeometryAttributes& row : kGeometryAttributes)
+        for (const AttributeQuestion& question : kAttributeQuestions)
+            if (node.type().isA(row.type) && call.has(question.longName))
+                if (const auto plug = node.findPlug(row.*question.attribute))
+                    names.push_back(plug.value.name());
+}
+
 Value listHistory(CommandContext& context, const ParsedCommand& call)
 {
     const std::vector<engine::SelectionItem> items = itemsOrSelection(context, call.names());
@@ -145,7 +185,9 @@ Value listHistory(CommandContext& context, const ParsedCommand& call)
     std::unordered_set<Node*> seen;
     for (const engine::SelectionItem& item : items)
         for (Node* start : startsOf(item, call))
-            if (call.has("historyAttr"))
+            if (call.queries())
+                addAttributesAsked(*start, call, names);
+            else if (call.has("historyAttr"))
                 addHistoryPlugs(*start, call, names);
             else
                 walk(*start, call, seen, names);
@@ -172,22 +214,24 @@ std::vector<Node*> geometryHistory(Node& shape)
 void registerHistoryCommands(CommandTable& table)
 {
     using A = ArgumentType;
-    table.add({
-        makeCommand("listHistory", "Lists the nodes that objects were made by",
-                    {switchFlag("f", "future", "what is made from them instead"),
-                     switchFlag("af", "allFuture", "of all futures (always so)"),
-                     switchFlag("ac", "allConnections", "also ways that do not depend on one another"),
-                     switchFlag("ag", "allGraphs", "obsolete: no difference"),
-                     switchFlag("bf", "breadthFirst", "the nearest first; each way to its end otherwise"),
-                     switchFlag("gl", "groupLevels", "those of one distance together"),
-                     switchFlag("ha", "historyAttr", "the attributes through which history comes in"),
-                     valueFlag("il", "interestLevel", A::integer,
-                               "those of which isHistoricallyInteresting is no less"),
-                     valueFlag("lf", "leaf", A::boolean, "a transform stands for its shapes (on by default)"),
-                     valueFlag("lv", "levels", A::integer, "how many connections to follow; 0: all"),
-                     switchFlag("pdo", "pruneDagObjects", "stops at DAG objects")},
-                    names(), listHistory),
-    });
+    std::vector<FlagSpec> flags = {
+        switchFlag("f", "future", "what is made from them instead"),
+        switchFlag("af", "allFuture", "of all futures (always so)"),
+        switchFlag("ac", "allConnections", "also ways that do not depend on one another"),
+        switchFlag("ag", "allGraphs", "obsolete: no difference"),
+        switchFlag("bf", "breadthFirst", "the nearest first; each way to its end otherwise"),
+        switchFlag("gl", "groupLevels", "those of one distance together"),
+        valueFlag("il", "interestLevel", A::integer, "those of which isHistoricallyInteresting is no less"),
+        valueFlag("lf", "leaf", A::boolean, "a transform stands for its shapes (on by default)"),
+        valueFlag("lv", "levels", A::integer, "how many connections to follow; 0: all"),
+        switchFlag("pdo", "pruneDagObjects", "stops at DAG objects"),
+    };
+    for (const AttributeQuestion& question : kAttributeQuestions)
+        flags.push_back(
+            switchFlag(question.shortName, question.longName, question.help,
+                       question.attribute == &GeometryAttributes::history ? kCreateQuery : kQuery));
+    table.add({makeCommand("listHistory", "Lists the nodes that objects were made by", std::move(flags),
+                           names(), listHistory, kQuery)});
 }
 
 } // namespace tvxhost::mel

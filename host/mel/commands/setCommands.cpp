@@ -117,7 +117,7 @@ Value removeMembers(const CommandContext& context, const ParsedCommand&, Node& s
 
 constexpr SetChange kChanges[] = {
     {"add", "addElement", "adds the objects to this set", addMembers<Entry::plain>},
-    {"include", "include", "adds the objects to this set that can be in it", addMembers<Entry::lenient>},
+    {"in", "include", "adds the objects to this set that can be in it", addMembers<Entry::lenient>},
     {"fe", "forceElement",
      "adds the objects to this set and takes them out of those they cannot be in as well",
      addMembers<Entry::forced>},

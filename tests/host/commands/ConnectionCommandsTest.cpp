@@ -33,6 +33,17 @@ TEST_F(ConnectionCommandsTest, aTakenDestinationIsRefusedUnlessForced)
     EXPECT_EQ(run("connectionInfo -sfd b.tx"), "c.translateX");
 }
 
+TEST_F(ConnectionCommandsTest, aDestinationIsLockedAfterwardsAndUnlockedBefore)
+{
+    run("connectAttr -lock on a.tx b.tx");
+    EXPECT_EQ(run("getAttr -lock b.tx"), "1");
+    EXPECT_EQ(failure("connectAttr -f c.tx b.tx"),
+              "Connection not made: 'c.translateX' -> 'b.translateX'.  Destination is locked.");
+    run("connectAttr -f -lock off c.tx b.tx");
+    EXPECT_EQ(run("getAttr -lock b.tx"), "0");
+    EXPECT_EQ(run("connectionInfo -sfd b.tx"), "c.translateX");
+}
+
 TEST_F(ConnectionCommandsTest, theSameConnectionAgainIsAWarning)
 {
     run("connectAttr a.tx b.tx; connectAttr a.tx b.tx");

@@ -22,6 +22,17 @@ TEST_F(HistoryCommandsTest, aTransformStandsForItsShape)
     EXPECT_THAT(strings("listHistory -historyAttr pSphere1"), ElementsAre("pSphereShape1.inMesh"));
 }
 
+TEST_F(HistoryCommandsTest, theAttributesOfGeometryAreTold)
+{
+    run("polySphere; createNode nurbsCurve -n \"line\"; createNode locator -n \"mark\"");
+    EXPECT_THAT(strings("listHistory -q -historyAttr pSphere1"), ElementsAre("pSphereShape1.inMesh"));
+    EXPECT_THAT(strings("listHistory -q -futureLocalAttr pSphere1 line"),
+                ElementsAre("pSphereShape1.outMesh", "line.local"));
+    EXPECT_THAT(strings("listHistory -q -fw pSphere1 line"),
+                ElementsAre("pSphereShape1.worldMesh", "line.worldSpace"));
+    EXPECT_THAT(strings("listHistory -q -ha mark"), IsEmpty());
+}
+
 TEST_F(HistoryCommandsTest, aShadingNetworkIsFollowedToItsEnds)
 {
     run("createNode checker -n \"board\"; createNode place2dTexture -n \"place\"; createNode blinn -n "

@@ -40,6 +40,26 @@ TEST_F(PreferenceCommandsTest, arraysGrowAndShrink)
     EXPECT_EQ(run("optionVar -ex \"a\""), "1");
 }
 
+TEST_F(PreferenceCommandsTest, whatIsNoArrayCountsAsOneAndStaysAsItIs)
+{
+    run("optionVar -sv \"s\" \"hello\" -iv \"n\" 3");
+    EXPECT_EQ(run("optionVar -arraySize \"s\""), "1");
+    EXPECT_EQ(run("optionVar -arraySize \"n\""), "1");
+    EXPECT_EQ(run("optionVar -arraySize \"none\""), "0");
+    run("optionVar -clearArray \"s\" -clearArray \"none\" -rfa \"n\" 0");
+    EXPECT_EQ(run("optionVar -q \"s\""), "hello");
+    EXPECT_EQ(run("optionVar -q \"n\""), "3");
+    EXPECT_EQ(run("optionVar -ex \"none\""), "0");
+}
+
+TEST_F(PreferenceCommandsTest, variablesGoBeforeOthersAreSet)
+{
+    run("optionVar -iva \"a\" 1; optionVar -iva \"a\" 2 -remove \"a\" -iva \"a\" 3");
+    EXPECT_THAT(value("optionVar -q \"a\"").integers(), ElementsAre(2, 3));
+    run("optionVar -version 2");
+    EXPECT_THAT(strings("optionVar -list"), ElementsAre("a"));
+}
+
 TEST_F(PreferenceCommandsTest, savePrefsWritesTheFolderOfTheSession)
 {
     session.preferencesFolder =
