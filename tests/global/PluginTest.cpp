@@ -13,6 +13,7 @@
 #include <gtest/gtest.h>
 
 #include <dlfcn.h>
+#include <filesystem>
 #include <string>
 #include <vector>
 
@@ -25,6 +26,7 @@ using test::Lines;
 using test::PluginSession;
 using test::reportOf;
 using testing::ElementsAre;
+using testing::EndsWith;
 using testing::IsEmpty;
 
 constexpr char kEntryFile[] = "global/tvxCrowdRenderPlugin.cpp";
@@ -117,6 +119,20 @@ TEST_F(Plugin, LogsEachLoadOnce)
         EXPECT_THAT(session.takeReports(), ElementsAre(loadedReport()));
         ASSERT_TRUE(session.unload());
     }
+}
+
+TEST_F(Plugin, GoesByTheNameThatMayaKnowsItBy)
+{
+    const test::TestFolder folder;
+    std::filesystem::copy_file(session.library(), folder.path("otherName.so"));
+    test::takeTraces();
+    ASSERT_TRUE(session.load(folder.path("otherName.so")));
+    ASSERT_TRUE(session.loader.unload("otherName").outcome);
+    Lines messages;
+    for (const test::Trace& trace : test::takeTraces())
+        messages.push_back(trace.message);
+    EXPECT_THAT(messages, ElementsAre(EndsWith(": initializePlugin: otherName plugin loaded."),
+                                      EndsWith(": uninitializePlugin: otherName plugin unloaded.")));
 }
 
 // The library stays in the process: the second load meets the logger of the first one.

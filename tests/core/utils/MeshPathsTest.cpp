@@ -266,6 +266,7 @@ TEST_F(MeshPaths, WithOneParentNoOtherPathIsLookedFor)
     make("transform", "group");
     for (int i = 0; i < 20; ++i)
         makeMesh("m" + std::to_string(i), "group");
+    make("locator", "mark", "group");
     const MDagPath group = path("group");
     faults::record(true);
     EXPECT_EQ(collect(group).size(), 20u);
