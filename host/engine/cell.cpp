@@ -70,57 +70,33 @@ Plug Cell::plug() const
 Cell* Cell::findChild(const Attribute& child) const
 {
     const auto place = static_cast<std::size_t>(child.siblingIndex);
-    return place < m_below.size() ? m_below[place].get() : nullptr;
+    return place < below().size() ? below()[place].get() : nullptr;
 }
 
 Cell& Cell::makeChild(Attribute& child)
 {
-    if (m_below.empty())
-        m_below.resize(m_attribute.children.size());
-    std::unique_ptr<Cell>& place = m_below[static_cast<std::size_t>(child.siblingIndex)];
+    std::vector<std::unique_ptr<Cell>>& children = m_below.places();
+    if (children.empty())
+        children.resize(m_attribute.children.size());
+    std::unique_ptr<Cell>& place = children[static_cast<std::size_t>(child.siblingIndex)];
     if (!place)
         place = std::make_unique<Cell>(m_store, this, child, Plug::kNoIndex);
     return *place;
 }
 
-/// Where an element is, or where it would go.
-std::size_t Cell::placeOf(int logicalIndex) const
-{
-    // Appending is the common case.
-    if (m_indices.empty() || m_indices.back() < logicalIndex)
-        return m_indices.size();
-    return static_cast<std::size_t>(std::lower_bound(m_indices.begin(), m_indices.end(), logicalIndex) -
-                                    m_indices.begin());
-}
-
 Cell* Cell::findElement(int logicalIndex) const
 {
-    const std::size_t place = placeOf(logicalIndex);
-    return place < m_indices.size() && m_indices[place] == logicalIndex ? m_below[place].get() : nullptr;
+    const std::unique_ptr<Cell>* element = m_below.find(logicalIndex);
+    return element ? element->get() : nullptr;
 }
 
 Cell& Cell::makeElement(int logicalIndex)
 {
-    const std::size_t place = placeOf(logicalIndex);
-    const bool hasPlace = place < m_indices.size() && m_indices[place] == logicalIndex;
-    if (hasPlace && m_below[place])
-        return *m_below[place];
+    if (Cell* element = findElement(logicalIndex))
+        return *element;
     auto element = std::make_unique<Cell>(m_store, this, m_attribute, logicalIndex);
     adoptValue(logicalIndex, *element);
-    if (hasPlace) {
-        m_below[place] = std::move(element);
-        --m_goneElements;
-        return *m_below[place];
-    }
-    insertElement(place, std::move(element));
-    return *m_below[place];
-}
-
-void Cell::insertElement(std::size_t place, std::unique_ptr<Cell> element)
-{
-    const auto offset = static_cast<std::ptrdiff_t>(place);
-    m_indices.insert(m_indices.begin() + offset, element->m_index);
-    m_below.insert(m_below.begin() + offset, std::move(element));
+    return *m_below.put(logicalIndex, std::move(element));
 }
 
 void Cell::adoptValue(int logicalIndex, Cell& element) const
@@ -137,12 +113,7 @@ void Cell::adoptValue(int logicalIndex, Cell& element) const
 
 std::unique_ptr<Cell> Cell::takeElement(int logicalIndex)
 {
-    std::unique_ptr<Cell> element;
-    if (findElement(logicalIndex)) {
-        element = std::move(m_below[placeOf(logicalIndex)]);
-        ++m_goneElements;
-        compactElements();
-    }
+    std::unique_ptr<Cell> element = m_below.take(logicalIndex);
     if (m_packed)
         m_packed->remove(logicalIndex);
     return element;
@@ -150,60 +121,37 @@ std::unique_ptr<Cell> Cell::takeElement(int logicalIndex)
 
 void Cell::putElement(std::unique_ptr<Cell> element)
 {
-    const std::size_t place = placeOf(element->m_index);
+    const int logicalIndex = element->m_index;
     if (m_packed)
-        m_packed->remove(element->m_index);
-    const bool hasPlace = place < m_indices.size() && m_indices[place] == element->m_index;
-    if (!hasPlace) {
-        insertElement(place, std::move(element));
-    } else {
-        m_goneElements -= m_below[place] ? 0 : 1;
-        m_below[place] = std::move(element);
-    }
+        m_packed->remove(logicalIndex);
+    m_below.put(logicalIndex, std::move(element));
     // What was put back may know for itself whether it is up to date.
     for (Cell* cell = this; cell && !cell->mixedBelow; cell = cell->m_parent)
         cell->mixedBelow = true;
 }
 
-int Cell::elementIndex(std::size_t n) const
+int Cell::elementIndex(std::size_t n)
 {
     static const std::vector<int> none;
     const std::vector<int>& packed = m_packed ? m_packed->indices() : none;
-    if (packed.empty() && m_goneElements == 0)
-        return m_indices[n];
-    if (m_below.size() == m_goneElements)
+    if (m_below.hasFreePlaces())
+        m_below.dropFreePlaces();
+    if (packed.empty())
+        return m_below.indexAt(n);
+    if (m_below.count() == 0)
         return packed[n];
     // An element is in one of the two only: as many packed ones stand before a cell as have smaller indices.
     std::size_t passed = 0;
-    for (std::size_t i = 0; i < m_below.size(); ++i) {
-        if (!m_below[i])
-            continue;
-        const auto before = static_cast<std::size_t>(
-            std::lower_bound(packed.begin(), packed.end(), m_indices[i]) - packed.begin());
+    for (; passed < m_below.count(); ++passed) {
+        const int index = m_below.indexAt(passed);
+        const auto before =
+            static_cast<std::size_t>(std::lower_bound(packed.begin(), packed.end(), index) - packed.begin());
         if (n < passed + before)
             break;
         if (n == passed + before)
-            return m_indices[i];
-        ++passed;
+            return index;
     }
     return packed[n - passed];
-}
-
-void Cell::compactElements()
-{
-    // Taking each out at once would move all that follow, again and again.
-    if (m_goneElements * 2 <= m_below.size())
-        return;
-    std::size_t kept = 0;
-    for (std::size_t i = 0; i < m_below.size(); ++i) {
-        if (!m_below[i])
-            continue;
-        m_indices[kept] = m_indices[i];
-        m_below[kept++] = std::move(m_below[i]);
-    }
-    m_indices.resize(kept);
-    m_below.resize(kept);
-    m_goneElements = 0;
 }
 
 bool Cell::canPack() const

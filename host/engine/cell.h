@@ -3,6 +3,7 @@
 
 #include "attribute.h"
 #include "data.h"
+#include "elementList.h"
 #include "packedElements.h"
 #include "plug.h"
 
@@ -65,7 +66,7 @@ public:
 
     // Cells below: the children of a compound, or the elements of an array in ascending order. Any may be
     // null.
-    const std::vector<std::unique_ptr<Cell>>& below() const { return m_below; }
+    const std::vector<std::unique_ptr<Cell>>& below() const { return m_below.values(); }
     Cell* findChild(const Attribute& child) const;
     Cell& makeChild(Attribute& child);
     Cell* findElement(int logicalIndex) const;
@@ -76,13 +77,10 @@ public:
     /// Puts an element back that was taken from here; one that is there now makes room.
     void putElement(std::unique_ptr<Cell> element);
     /// How many elements an array has, with cells or packed.
-    std::size_t elementCount() const
-    {
-        return m_below.size() - m_goneElements + (m_packed ? m_packed->indices().size() : 0);
-    }
+    std::size_t elementCount() const { return m_below.count() + (m_packed ? m_packed->indices().size() : 0); }
     /// The logical index of the n-th element in ascending order, n below elementCount(). In constant time
-    /// unless some have gone, or some have cells and others are packed.
-    int elementIndex(std::size_t n) const;
+    /// unless some have cells and others are packed, or elements come and go between the calls.
+    int elementIndex(std::size_t n);
 
     // Packed elements of an array of numbers or data; null when there are none.
     const PackedElements* packed() const { return m_packed.get(); }
@@ -121,15 +119,12 @@ public:
 
 private:
     bool canPack() const;
-    std::size_t placeOf(int logicalIndex) const;
-    void compactElements();
     void adoptValue(int logicalIndex, Cell& element) const;
     Links& makeLinks();
     void countLinked(bool more);
     void dropEmptyLinks();
     void compactDestinations();
     std::size_t makeGapBefore(const Cell& destination);
-    void insertElement(std::size_t place, std::unique_ptr<Cell> element);
 
     CellStore& m_store;
     Cell* m_parent;
@@ -139,9 +134,7 @@ private:
     alignas(8) std::uint8_t m_small[8] = {};
     std::uint8_t* m_bytes = nullptr;
     Ref<Data> m_data;
-    std::vector<std::unique_ptr<Cell>> m_below;
-    std::vector<int> m_indices; ///< of the elements in m_below, also of those that have gone
-    std::size_t m_goneElements = 0;
+    ElementList<std::unique_ptr<Cell>> m_below;
     std::unique_ptr<PackedElements> m_packed;
     std::unique_ptr<Links> m_links;
     std::size_t m_linkedCells = 0;
