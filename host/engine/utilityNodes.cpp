@@ -2,8 +2,10 @@
 #include "utilityNodes.h"
 
 #include "computeSupport.h"
+#include "matrixParts.h"
 #include "node.h"
 #include "ramp.h"
+#include "turns.h"
 
 #include <algorithm>
 #include <cmath>
@@ -177,6 +179,32 @@ Numbers luminance(Node& node)
     return {0.3 * color[0] + 0.59 * color[1] + 0.11 * color[2]};
 }
 
+/// Hue, saturation and value from red, green and blue; the hue in degrees.
+Numbers hsvOf(const Numbers& rgb)
+{
+    const double value = std::max({rgb[0], rgb[1], rgb[2]});
+    const double range = value - std::min({rgb[0], rgb[1], rgb[2]});
+    if (range == 0.0)
+        return {0.0, 0.0, value};
+    double sixths = (rgb[0] - rgb[1]) / range + 4.0;
+    if (rgb[0] == value)
+        sixths = (rgb[1] - rgb[2]) / range;
+    else if (rgb[1] == value)
+        sixths = (rgb[2] - rgb[0]) / range + 2.0;
+    return {60.0 * (sixths < 0.0 ? sixths + 6.0 : sixths), value == 0.0 ? 0.0 : range / value, value};
+}
+
+/// The other way; a hue outside the circle goes round it.
+Numbers rgbOf(const Numbers& hsv)
+{
+    const double sixths = hsv[0] / 60.0;
+    const auto channel = [&](double begin) {
+        const double turn = std::fmod(std::fmod(sixths + begin, 6.0) + 6.0, 6.0);
+        return hsv[2] * (1.0 - hsv[1] * std::clamp(std::min(turn, 4.0 - turn), 0.0, 1.0));
+    };
+    return {channel(5.0), channel(3.0), channel(1.0)};
+}
+
 // Choices and blends
 
 double mixed(double first, double second, double part)
@@ -235,6 +263,45 @@ Numbers blendedWeighted(Node& node)
     return {sum};
 }
 
+/// How much of the second input a pair blend takes for an attribute that chooses between its inputs.
+double secondPart(Node& node, std::string_view mode)
+{
+    enum Mode
+    {
+        blend = 0,
+        firstOnly = 1,
+        secondOnly = 2
+    };
+    switch (wholeOf(node, mode)) {
+    case firstOnly:
+        return 0.0;
+    case secondOnly:
+        return 1.0;
+    default:
+        return numberOf(node, "weight");
+    }
+}
+
+Numbers pairTranslate(Node& node)
+{
+    const Numbers parts = {secondPart(node, "translateXMode"), secondPart(node, "translateYMode"),
+                           secondPart(node, "translateZMode")};
+    return each(mixed, numbersOf(node, "inTranslate2"), numbersOf(node, "inTranslate1"), parts);
+}
+
+Numbers pairRotate(Node& node)
+{
+    constexpr int kQuaternion = 1;
+    const double part = secondPart(node, "rotateMode");
+    if (wholeOf(node, "rotInterpolation") != kQuaternion)
+        return each(mixed, numbersOf(node, "inRotate2"), numbersOf(node, "inRotate1"), Numbers(3, part));
+    const int order = wholeOf(node, "rotateOrder");
+    const Turn first = turnOf(vectorOf(node, "inRotate1"), order);
+    const Turn second = turnOf(vectorOf(node, "inRotate2"), order);
+    const Vec3d angles = anglesOf(blended(first, second, part).toMatrix44(), order);
+    return {angles.x, angles.y, angles.z};
+}
+
 Numbers muted(Node& node)
 {
     return {numberOf(node, numberOf(node, "mute") != 0.0 ? "hold" : "input")};
@@ -258,16 +325,20 @@ constexpr FormulaRow kFormulas[] = {
     {"clamp", "output", clamped},
     {"condition", "outColor", condition},
     {"gammaCorrect", "outValue", gammaCorrected},
+    {"hsvToRgb", "outRgb", [](Node& node) { return rgbOf(numbersOf(node, "inHsv")); }},
     {"luminance", "outValue", luminance},
     {"multDoubleLinear", "output", multDoubleLinear},
     {"multiplyDivide", "output", multiplyDivide},
     {"mute", "output", muted},
+    {"pairBlend", "outRotate", pairRotate},
+    {"pairBlend", "outTranslate", pairTranslate},
     {"plusMinusAverage", "output1D", [](Node& node) { return plusMinusAverage<1>(node, "input1D"); }},
     {"plusMinusAverage", "output2D", [](Node& node) { return plusMinusAverage<2>(node, "input2D"); }},
     {"plusMinusAverage", "output3D", [](Node& node) { return plusMinusAverage<3>(node, "input3D"); }},
     {"remapValue", "outColor", remappedColor},
     {"remapValue", "outValue", remappedValue},
     {"reverse", "output", reversed},
+    {"rgbToHsv", "outHsv", [](Node& node) { return hsvOf(numbersOf(node, "inRgb")); }},
     {"setRange", "outValue", rangeSet},
 };
 

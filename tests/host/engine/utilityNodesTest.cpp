@@ -7,6 +7,8 @@ namespace tvxhost::engine {
 namespace {
 
 using testing::ElementsAre;
+using testing::FloatNear;
+using testing::Pointwise;
 
 class PlusMinusAverage : public SceneTest
 {
@@ -191,6 +193,38 @@ TEST_F(Utility, GammaAndLuminanceOfColors)
     EXPECT_FLOAT_EQ(static_cast<float>(number("lum.outValue")), 0.3F + 0.295F + 0.0275F);
 }
 
+struct ColorRow
+{
+    std::vector<double> rgb;
+    std::vector<double> hsv;
+};
+
+TEST_F(Utility, ColorsHaveHueSaturationAndValue)
+{
+    make("rgbToHsv", "hsv");
+    make("hsvToRgb", "rgb");
+    for (const ColorRow& row : {ColorRow{{1, 0, 0}, {0, 1, 1}},
+                                {{0, 0.5, 0}, {120, 1, 0.5}},
+                                {{0, 0, 2}, {240, 1, 2}},
+                                {{0.75, 0.75, 0.5}, {60, 1.0 / 3.0, 0.75}},
+                                {{1, 0.5, 1}, {300, 0.5, 1}},
+                                {{0.25, 0.25, 0.25}, {0, 0, 0.25}}}) {
+        setGroup("hsv.inRgb", row.rgb);
+        setGroup("rgb.inHsv", row.hsv);
+        EXPECT_THAT(group("hsv.outHsv"), Pointwise(FloatNear(1e-4F), row.hsv));
+        EXPECT_THAT(group("rgb.outRgb"), Pointwise(FloatNear(1e-4F), row.rgb));
+    }
+}
+
+TEST_F(Utility, AHueGoesRoundTheCircle)
+{
+    make("hsvToRgb", "rgb");
+    for (const double hue : {-240.0, 120.0, 480.0}) {
+        setGroup("rgb.inHsv", {hue, 1, 1});
+        EXPECT_THAT(group("rgb.outRgb"), ElementsAre(0, 1, 0)) << hue;
+    }
+}
+
 TEST_F(Utility, RemapValueWithoutEntriesIsALine)
 {
     make("remapValue", "rv");
@@ -242,6 +276,67 @@ TEST_F(Utility, ChoiceHandsOnTheChosenInput)
     EXPECT_EQ(number("follower.translateX"), -7.0);
     set("right.translateX", 1);
     EXPECT_EQ(number("follower.translateX"), 1.0);
+}
+
+class PairBlend : public Utility
+{
+protected:
+    PairBlend()
+    {
+        make("pairBlend", "pair");
+        setGroup("pair.inTranslate1", {0, 10, 20});
+        setGroup("pair.inTranslate2", {4, 14, 24});
+        turn("pair.inRotate1", {0, 0, 170});
+        turn("pair.inRotate2", {0, 0, -170});
+        set("pair.weight", 0.25);
+    }
+    void turn(const std::string& name, const std::vector<double>& degrees)
+    {
+        setGroup(name, {degrees[0] * kDegree, degrees[1] * kDegree, degrees[2] * kDegree});
+    }
+    void expectTurn(const std::vector<double>& degrees)
+    {
+        const std::vector<double> angles = group("pair.outRotate");
+        for (std::size_t i = 0; i < 3; ++i)
+            EXPECT_NEAR(angles[i] / kDegree, degrees[i], 1e-9) << i;
+    }
+
+    static constexpr double kDegree = 3.14159265358979323846 / 180.0;
+};
+
+TEST_F(PairBlend, GoesFromTheFirstInputToTheSecond)
+{
+    EXPECT_THAT(group("pair.outTranslate"), ElementsAre(1, 11, 21));
+    expectTurn({0, 0, 85});
+    set("pair.weight", 1);
+    EXPECT_THAT(group("pair.outTranslate"), ElementsAre(4, 14, 24));
+    expectTurn({0, 0, -170});
+}
+
+TEST_F(PairBlend, EachAxisMayTakeOneInputAlone)
+{
+    set("pair.translateXMode", 1);
+    set("pair.translateZMode", 2);
+    EXPECT_THAT(group("pair.outTranslate"), ElementsAre(0, 11, 24));
+    set("pair.rotateMode", 1);
+    expectTurn({0, 0, 170});
+    set("pair.rotateMode", 2);
+    expectTurn({0, 0, -170});
+}
+
+TEST_F(PairBlend, QuaternionsTakeTheShortWay)
+{
+    set("pair.rotInterpolation", 1);
+    expectTurn({0, 0, 175});
+    // The last turn in the order grows, the one before it stays.
+    turn("pair.inRotate1", {90, 0, 0});
+    turn("pair.inRotate2", {90, 0, 60});
+    set("pair.weight", 0.5);
+    expectTurn({90, 0, 30});
+    set("pair.rotateOrder", 5);
+    turn("pair.inRotate1", {0, 0, 90});
+    turn("pair.inRotate2", {60, 0, 90});
+    expectTurn({30, 0, 90});
 }
 
 TEST_F(Utility, AMutedNodeHoldsItsValue)
