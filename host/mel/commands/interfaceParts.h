@@ -5,6 +5,12 @@
 
 namespace tvxhost::mel {
 
+/// Stops the script with the command's name in front.
+[[noreturn]] inline void failFor(const CommandContext& context, const std::string& message)
+{
+    context.fail(context.command() + ": " + message);
+}
+
 /// The lines of a list, and those that are selected.
 const ElementPart& listPart();
 /// The choice among the items of an option menu.
