@@ -136,7 +136,12 @@ const EditRow kRows[] = {
     {"createNode transform -n a; createNode transform -n b; sets -n pack a b", "sets -rm pack a"},
     {"createNode transform -n a; createNode transform -n b; sets -n pack a b", "sets -cl pack"},
     {"createNode transform -n a; sets -n pack a", "delete pack"},
-    {kCube, "sets -e -fe initialShadingGroup ball"},
+    {"polyCube -n cube; sets -r 1 -em -n red", "sets -e -fe red cube"},
+    {"polyCube -n cube", "sets -r 1 -n red cube"},
+    {kTwo, "sets -em -v 1 -co 3 -t note -n points"},
+    {"createNode transform -n a; createNode transform -n b; sets -n in a; sets -n pack in b",
+     "sets -fl pack"},
+    {"createNode transform -n a; createNode transform -n b; sets -n pack a b", "sets -sp pack -n rest b"},
     // geometry
     {"", "polyPlane -w 2 -h 3 -sx 4 -sy 5"},
     {"", "polyCube -ch 0"},
@@ -154,6 +159,8 @@ const EditRow kRows[] = {
     {"createNode transform -n a; setKeyframe -at tx -t 1 -v 2 a", "setKeyframe -at tx -t 10 -v 5 a"},
     {"createNode transform -n a; setKeyframe -at tx -t 1 -v 2 a; setKeyframe -at tx -t 10 -v 5 a",
      "cutKey -at tx -t \"10:10\" a"},
+    {"createNode transform -n a; createNode transform -n b; setKeyframe -at tx -t 1 -v 2 a; copyKey a",
+     "pasteKey -t 5 b"},
 };
 
 } // namespace
