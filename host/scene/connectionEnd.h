@@ -18,7 +18,7 @@ std::string connectionName(const engine::Plug& plug, bool nextAvailable);
 /// Whether an attribute's elements are one per instance of the node, told apart by path and not by index.
 bool isPerInstance(const engine::Attribute& attribute);
 
-/// A node's name as files write it: of nodes that share their name the whole path.
+/// A node's name as files write it: the whole path of nodes that share their name and of instances.
 std::string fileName(const engine::Node& node);
 /// The same as files refer to it: nodes that every scene has with a leading colon.
 std::string referenceName(const engine::Node& node);

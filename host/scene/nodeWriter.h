@@ -37,10 +37,17 @@ private:
     void declare(const engine::Attribute& attribute);
 
     void writePlug(const engine::Plug& plug);
-    void writeArray(const engine::Plug& array);
     void writeCompound(const engine::Plug& plug);
     void writeLeaf(const engine::Plug& plug);
     void writeState(const engine::Plug& plug);
+    /// The words of a value, from the blank behind the name up to the semicolon; empty when there is none to
+    /// write.
+    std::string valueWords(const engine::Plug& plug);
+    std::string plainWords(const engine::Plug& plug);
+
+    // Arrays, in nodeArrays.cpp
+    void writeArray(const engine::Plug& array);
+    void writeInstances(const engine::Plug& array, const std::vector<int>& elements);
     /// Runs of elements whose numbers stand side by side; the statements without `setAttr` and size.
     std::vector<std::string> numberRuns(const engine::Plug& array, const std::vector<int>& elements,
                                         std::size_t leaves);
@@ -48,19 +55,19 @@ private:
     bool isSpecialAnywhere(const engine::Plug& array, const std::vector<int>& elements) const;
     void writeWeights(const engine::Plug& array, const std::vector<int>& elements);
     void writeFaces(const engine::Plug& array, const std::vector<int>& elements);
-    /// The words of a value, from the blank behind the name up to the semicolon; empty when there is none to
-    /// write.
-    std::string valueWords(const engine::Plug& plug);
-    std::string plainWords(const engine::Plug& plug);
+
     void writeLinkSizes(const engine::Node& node);
     void writeEdits(const ReferenceText& text);
 
+    /// The flags of a plug's statement.
+    std::string flagsOf(const engine::Plug& plug) const;
     bool isSkipped(const engine::Plug& plug) const;
     void line(const std::string& text);
 
     engine::Scene& m_scene;
     std::string& m_out;
-    std::unordered_set<std::string> m_keptPaths; ///< that the node's kept lines set
+    std::unordered_set<std::string> m_keptPaths;    ///< that the node's kept lines set
+    std::unordered_set<std::string> m_alteredPaths; ///< of values that are marked as altered
 };
 
 } // namespace tvxhost::scene

@@ -2,6 +2,7 @@
 #include "sceneReader.h"
 
 #include "setAttr.h"
+#include "setAttrText.h"
 #include "xformMatrix.h"
 
 #include "mel/value.h"
@@ -24,6 +25,18 @@ bool isDeclaredByType(const Node& node, const engine::Attribute& attribute)
 bool isMissing(const Outcome& outcome)
 {
     return outcome.reason == Reason::notFound || outcome.reason == Reason::doesNotExist;
+}
+
+/// Whether a statement marks its value as altered.
+bool isAltered(const mel::ArgumentList& arguments, const SetAttrRequest& request)
+{
+    for (const mel::Argument& argument : arguments) {
+        if (argument.text == request.plug)
+            return false;
+        if (argument.text == "-av" || argument.text == "-alteredValue")
+            return true;
+    }
+    return false;
 }
 
 } // namespace
@@ -102,6 +115,8 @@ void SceneReader::setAttr(const SceneStatement& statement)
         // The parts are more than the matrix that they make.
         if (isRelative && request.hasValues() && request.values->text == kXformWord)
             keep(m_section.node->keptLines, statement);
+        else if (isRelative && isAltered(statement.arguments, request))
+            m_section.node->keptLines.push_back(alteredMark(std::string(request.plug.substr(1))));
         return;
     }
     if (!isRelative || set.reason != Reason::notImplemented)

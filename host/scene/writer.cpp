@@ -44,11 +44,13 @@ constexpr DefaultRow kDefaults[] = {
     {"postProcessList1", true},
     {"defaultRenderUtilityList1", false},
     {"defaultRenderingList1", true},
+    {"lightList1", false},
     {"defaultTextureList1", false},
     {"initialShadingGroup", true},
     {"initialParticleSE", true},
     {"defaultRenderGlobals", false},
     {"defaultResolution", true},
+    {"defaultLightSet", false},
     {"hardwareRenderGlobals", true},
 };
 
@@ -329,12 +331,21 @@ bool isAlwaysNamed(const Node& node)
                        [&](const DefaultRow& row) { return row.isAlwaysNamed && node.name() == row.name; });
 }
 
+/// Whether something of the scene's own is connected to a default node.
+bool isUsed(Node& node)
+{
+    for (const Plug& plug : engine::connectedPlugs(node))
+        if (const Plug source = engine::sourceOf(plug); !source.isNull() && isCreated(*source.node()))
+            return true;
+    return false;
+}
+
 void SceneWriter::writeDefaults()
 {
     for (Node* node : m_defaultNodes) {
         const std::size_t before = m_out.size();
         m_out += "select -ne :" + node->name() + ";\n";
-        if (!m_nodes.writeLines(*node) && !isAlwaysNamed(*node))
+        if (!m_nodes.writeLines(*node) && !isAlwaysNamed(*node) && !isUsed(*node))
             m_out.resize(before);
     }
     writeKept([](const std::string& text) { return beginsWith(text, "select"); });

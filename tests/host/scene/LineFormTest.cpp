@@ -209,6 +209,60 @@ TEST_F(LineFormTest, arraysOfNumbersTellTheirConnectedElementsOnceMore)
                                                                "\tsetAttr -s 2 \".i1\";\n");
 }
 
+TEST_F(LineFormTest, valuesThatAFileMarksAsAlteredStayMarked)
+{
+    const std::string lines = "\tsetAttr -av -k off \".v\";\n"
+                              "\tsetAttr -av \".t\" -type \"double3\" 1 2 3 ;\n"
+                              "\tsetAttr -av -cb on \".ro\";\n";
+    expectKept("transform -n \"t\"", lines);
+    ASSERT_TRUE(engine::writeNumbers(scene.findPlug("t.t").value, {4, 5, 6}));
+    EXPECT_NE(saved().find("\tsetAttr -av \".t\" -type \"double3\" 4 5 6 ;\n"), std::string::npos)
+        << "the mark stays, the value is the present one";
+}
+
+TEST_F(LineFormTest, groupsOfAShapesFacesTellTheirNumber)
+{
+    expectKept("mesh -n \"m\" -p \"polySurface1\"",
+               "\tsetAttr -k off \".v\";\n"
+               "\tsetAttr -s 2 \".iog[0].og\";\n"
+               "\tsetAttr \".iog[0].og[0].gcl\" -type \"componentList\" 1 \"f[0:49]\";\n"
+               "\tsetAttr \".iog[0].og[1].gcl\" -type \"componentList\" 1 \"f[50:59]\";\n");
+}
+
+TEST_F(LineFormTest, matricesOfPartsTellTheirNumber)
+{
+    const std::string parts = " -type \"matrix\" \"xform\" 1 1 1 0 0 0 0 0 0 0 0 0 0 0 0 0 0 0\n"
+                              "\t\t 0 0 0 0 0 0 0 0 0 0 1 0 0 0 1 1 1 1 yes;\n";
+    expectKept("dagPose -n \"pose\"",
+               "\tsetAttr -s 2 \".xm\";\n\tsetAttr \".xm[0]\"" + parts + "\tsetAttr \".xm[1]\"" + parts);
+}
+
+TEST_F(LineFormTest, instancesAreNamedByTheirPathAndTellTheirNumber)
+{
+    read("createNode transform -n \"a\";\ncreateNode mesh -n \"shape\" -p \"a\";\n"
+         "createNode transform -n \"b\";\ncreateNode polyCube -n \"cube\";\n"
+         "parent -s -nc -r -add \"|a|shape\" \"b\" ;\n"
+         "connectAttr \"cube.out\" \"|a|shape.i\";\n"
+         "connectAttr \"|a|shape.iog\" \":initialShadingGroup.dsm\" -na;\n"
+         "connectAttr \"|b|shape.iog\" \":initialShadingGroup.dsm\" -na;\n");
+    EXPECT_NE(saved().find("\tsetAttr -s 2 \".iog\";\n"), std::string::npos) << saved();
+    EXPECT_EQ(savedStatements("connectAttr"),
+              "connectAttr \"cube.out\" \"|a|shape.i\";\n"
+              "connectAttr \"|a|shape.iog\" \":initialShadingGroup.dsm\" -na;\n"
+              "connectAttr \"|b|shape.iog\" \":initialShadingGroup.dsm\" -na;\n");
+}
+
+TEST_F(LineFormTest, listsOfEverySceneAreNamedWhereSomethingIsInThem)
+{
+    read("createNode file -n \"picture\";\n");
+    EXPECT_EQ(saved().find("select -ne :defaultTextureList1;\n"), std::string::npos);
+    read("createNode file -n \"picture\";\n"
+         "connectAttr \"picture.msg\" \":defaultTextureList1.tx\" -na;\n");
+    EXPECT_NE(saved().find("select -ne :defaultTextureList1;\nselect -ne :initialShadingGroup;\n"),
+              std::string::npos)
+        << saved();
+}
+
 TEST_F(LineFormTest, lockedNodesOfUnknownTypesAreLockedWithoutATab)
 {
     const std::string lines =

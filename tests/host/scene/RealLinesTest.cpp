@@ -38,8 +38,11 @@ std::string withoutCarriageReturns(std::string text)
     return text;
 }
 
-// Some of the scenes are of versions with other default nodes and other forms of numbers, or lack the
-// identities of nodes: what they say differently is less than three in a hundred.
+// What is said differently, of a thousand statements: six of the header (this host is one version, the scenes
+// are of many), two of default nodes that later versions have more of, three of files that other programs
+// wrote (long names of flags and attributes, numbers as Windows prints them), and a few each of breaks in
+// lines of addAttr, of sizes that count elements that are gone, and of long strings that are broken at other
+// places.
 TEST(RealLines, areWrittenBackLetterByLetter)
 {
     std::size_t all = 0;
@@ -62,7 +65,7 @@ TEST(RealLines, areWrittenBackLetterByLetter)
         ++scenes;
     }
     EXPECT_EQ(scenes, 90u);
-    EXPECT_GE(same * 100, all * 97) << same << " of " << all;
+    EXPECT_GE(same * 1000, all * 985) << same << " of " << all;
 }
 
 } // namespace
