@@ -13,6 +13,7 @@ void registerLanguageCommands(CommandTable& table)
     addFileHandleCommands(table);
     addMathCommands(table);
     addMessageCommands(table);
+    addNameCommands(table);
     addRandomCommands(table);
     addStringCommands(table);
     addSystemCommands(table);

@@ -15,6 +15,7 @@ void addFileCommands(CommandTable& table);
 void addFileHandleCommands(CommandTable& table);
 void addMathCommands(CommandTable& table);
 void addMessageCommands(CommandTable& table);
+void addNameCommands(CommandTable& table);
 void addRandomCommands(CommandTable& table);
 void addStringCommands(CommandTable& table);
 void addSystemCommands(CommandTable& table);

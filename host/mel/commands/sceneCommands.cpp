@@ -8,6 +8,7 @@ namespace tvxhost::mel {
 void registerSceneCommands(CommandTable& table)
 {
     for (const auto& registerFamily : {registerNodeCommands,
+                                       registerObjectNameCommands,
                                        registerDeleteCommands,
                                        registerHistoryCommands,
                                        registerListCommands,

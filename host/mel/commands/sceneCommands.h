@@ -6,6 +6,7 @@ namespace tvxhost::mel {
 class CommandTable;
 
 void registerNodeCommands(CommandTable& table);
+void registerObjectNameCommands(CommandTable& table);
 void registerDeleteCommands(CommandTable& table);
 void registerHistoryCommands(CommandTable& table);
 void registerListCommands(CommandTable& table);
