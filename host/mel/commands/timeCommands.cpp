@@ -2,6 +2,7 @@
 #include "commandSupport.h"
 #include "sceneCommands.h"
 
+#include "engine/animCurve.h"
 #include "engine/settingsChange.h"
 
 #include <array>
@@ -43,6 +44,24 @@ void change(CommandContext& context, const ParsedCommand& call, const char* flag
     unit = *found;
 }
 
+/// Keys stay at their frames instead of their times.
+void keepFrames(const CommandContext& context, double secondsBefore, double secondsNow)
+{
+    const double ratio = secondsNow / secondsBefore;
+    for (engine::Node* node : sceneOf(context).nodes()) {
+        if (!engine::isAnimCurve(*node) || !engine::isTimed(*node))
+            continue;
+        engine::AnimCurveKeys keys = engine::readCurve(*node);
+        for (engine::AnimKey& key : keys.keys) {
+            key.at *= ratio;
+            for (engine::KeyTangent* side : {&key.in, &key.out})
+                side->direction.x *= ratio;
+        }
+        require(context, engine::writeCurve(*node, keys));
+    }
+}
+
+/// Gives the name of the unit that was set; of several that of time, or else of angles.
 Value currentUnit(CommandContext& context, const ParsedCommand& call)
 {
     engine::Units& units = sceneOf(context).units();
@@ -51,8 +70,13 @@ Value currentUnit(CommandContext& context, const ParsedCommand& call)
     const engine::SettingsChange settings(sceneOf(context));
     change(context, call, "linear", units.linear, engine::linearUnitNamed);
     change(context, call, "angle", units.angle, engine::angularUnitNamed);
+    const double secondsBefore = engine::secondsPer(units.time);
     change(context, call, "time", units.time, engine::timeUnitNamed);
-    return {};
+    if (!call.boolean("updateAnimation", true))
+        keepFrames(context, secondsBefore, engine::secondsPer(units.time));
+    if (call.has("time"))
+        return Value(engine::timeUnitName(units.time));
+    return unitName(units, call);
 }
 
 // playbackOptions

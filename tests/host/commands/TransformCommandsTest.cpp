@@ -305,4 +305,21 @@ TEST_F(TransformCommandsTest, timeIsInTheUnitsOfTheUser)
     EXPECT_EQ(failure("currentUnit -l parsec"), "Invalid unit 'parsec'");
 }
 
+TEST_F(TransformCommandsTest, theUnitThatWasSetIsAnswered)
+{
+    EXPECT_EQ(run("currentUnit -linear inch"), "in");
+    EXPECT_EQ(run("currentUnit -angle radian"), "rad");
+    EXPECT_EQ(run("currentUnit -time ntsc"), "ntsc");
+    EXPECT_EQ(run("currentUnit -l m -a deg -t film"), "film");
+}
+
+TEST_F(TransformCommandsTest, keysKeepTheirTimesOrTheirFramesWhenTheUnitOfTimeChanges)
+{
+    run("currentUnit -t film; setKeyframe -t 12 a.tx");
+    run("currentUnit -t ntsc");
+    expectNear("keyframe -q a.tx", {15});
+    run("currentUnit -t film; currentUnit -t ntsc -updateAnimation false");
+    expectNear("keyframe -q a.tx", {12});
+}
+
 } // namespace tvxhost::mel
