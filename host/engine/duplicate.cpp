@@ -1,4 +1,4 @@
-// Duplicates of DAG nodes: see duplicate.h.
+// Duplicates of nodes: see duplicate.h.
 #include "duplicate.h"
 
 #include "cell.h"
@@ -60,18 +60,29 @@ Outcome joinSets(DagNode& original, DagNode& copy)
     return {};
 }
 
-Expected<DagNode*> copyNode(DagNode& original, DagNode& parent, const std::string& name)
+/// A new node with the attributes and values of another one.
+Expected<Node*> copyOne(Node& original, DagNode* above, const std::string& name,
+                        const DuplicateOptions& options)
 {
-    Scene& scene = original.scene();
-    DagNode* above = parent.isWorld() ? nullptr : &parent;
-    const Expected<Node*> made = scene.createNode(original.type(), name, above);
+    const Expected<Node*> made = original.scene().createNode(original.type(), name, above);
+    if (!made)
+        return made;
+    for (const Ref<Attribute>& attribute : original.dynamicAttributes())
+        if (Outcome added = made.value->addDynamicAttribute(copyOf(*attribute)); !added)
+            return added;
+    copyAttributes(original, *made.value);
+    if (options.onCopy)
+        options.onCopy(original, *made.value);
+    return made;
+}
+
+Expected<DagNode*> copyNode(DagNode& original, DagNode& parent, const std::string& name,
+                            const DuplicateOptions& options)
+{
+    const Expected<Node*> made = copyOne(original, parent.isWorld() ? nullptr : &parent, name, options);
     if (!made)
         return made.outcome;
     DagNode& copy = *made.value->asDag();
-    for (const Ref<Attribute>& attribute : original.dynamicAttributes())
-        if (Outcome added = copy.addDynamicAttribute(copyOf(*attribute)); !added)
-            return added;
-    copyAttributes(original, copy);
     copyHeldMesh(original, copy);
     if (Outcome joined = joinSets(original, copy); !joined)
         return joined;
@@ -90,8 +101,8 @@ Outcome copyBelow(DagNode& original, DagNode& copy, const DuplicateOptions& opti
         }
         // The shapes of the copy itself are named anew, what stands deeper keeps its name.
         const bool isNamedAnew = isRoot && child->isShape();
-        const auto made =
-            copyNode(*child, copy, isNamedAnew ? original.scene().uniqueName(child->name()) : child->name());
+        const auto made = copyNode(
+            *child, copy, isNamedAnew ? original.scene().uniqueName(child->name()) : child->name(), options);
         if (!made)
             return made.outcome;
         if (Outcome below = copyBelow(*child, *made.value, options, false); !below)
@@ -135,11 +146,20 @@ Expected<DagNode*> duplicate(DagNode& original, DagNode& parent, const Duplicate
         return {Reason::wrongKind, "the world cannot be duplicated"};
     const std::string name =
         options.name.empty() ? original.scene().uniqueName(original.name()) : options.name;
-    const auto copy = copyNode(original, parent, name);
+    const auto copy = copyNode(original, parent, name, options);
     if (!copy || options.onlyParent)
         return copy;
     const Outcome below = copyBelow(original, *copy.value, options, true);
     return below ? copy : Expected<DagNode*>(below);
+}
+
+Expected<Node*> duplicateNode(Node& original, const DuplicateOptions& options)
+{
+    if (original.asDag())
+        return {Reason::wrongKind, "'" + original.name() + "' is a DAG node"};
+    const std::string name =
+        options.name.empty() ? original.scene().uniqueName(original.name()) : options.name;
+    return copyOne(original, nullptr, name, options);
 }
 
 } // namespace tvxhost::engine

@@ -16,6 +16,7 @@
 #include "support/nodeSet.h"
 #include "support/notImplemented.h"
 #include "support/plugCall.h"
+#include "support/pxBehaviour.h"
 
 #include "engine/duplicate.h"
 
@@ -406,6 +407,7 @@ MObject MFnDagNode::duplicate(bool instance, bool instanceLeaf, MStatus* ReturnS
     }
     tvxhost::engine::DuplicateOptions options;
     options.sharesLeaves = instanceLeaf;
+    options.onCopy = copyInternalData;
     DagPath above = pathOf(*this, *node);
     if (!above.pop()) {
         give(ReturnStatus, failure(StatusText::objectIsIncompatible));

@@ -73,4 +73,15 @@ void PxBehaviour::connectionBroken(const Plug& plug, const Plug& other, bool asS
     m_object->connectionBroken(lent.get(), lentOther.get(), asSource);
 }
 
+void copyInternalData(engine::Node& original, engine::Node& copy)
+{
+    const auto objectOf = [](const engine::Node& node) {
+        engine::NodeBehaviour* behaviour = node.behaviour();
+        return behaviour ? static_cast<MPxNode*>(behaviour->apiObject()) : nullptr;
+    };
+    MPxNode* object = objectOf(copy);
+    if (MPxNode* from = objectOf(original); object && from)
+        object->copyInternalData(from);
+}
+
 } // namespace tvxhost::api

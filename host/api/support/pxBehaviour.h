@@ -36,4 +36,7 @@ private:
     std::unique_ptr<MPxNode> m_object;
 };
 
+/// Has a plug-in's node take over what the one that it is a copy of keeps outside attributes.
+OPENMAYA_EXPORT void copyInternalData(engine::Node& original, engine::Node& copy);
+
 } // namespace tvxhost::api

@@ -1,7 +1,8 @@
-// duplicate: copies of DAG objects.
+// duplicate: copies of nodes.
 #include "commandSupport.h"
 #include "sceneCommands.h"
 
+#include "api/support/pxBehaviour.h"
 #include "engine/duplicate.h"
 
 #include <algorithm>
@@ -49,6 +50,8 @@ void connectInputs(const CommandContext& context, engine::Node& original, engine
     }
     DagNode* from = original.asDag();
     DagNode* to = copy.asDag();
+    if (!from || !to)
+        return;
     std::vector<DagNode*> originals;
     // Intermediate shapes are not copied.
     std::copy_if(from->children().begin(), from->children().end(), std::back_inserter(originals),
@@ -82,7 +85,16 @@ Value duplicate(CommandContext& context, const ParsedCommand& call)
     options.onlyParent = call.has("parentOnly");
     Value::Strings made;
     engine::SelectionList list;
+    options.onCopy = api::copyInternalData;
     for (const SelectionItem& item : items) {
+        if (item.node && !item.path.isValid() && !item.node->asDag()) {
+            engine::Node& copy = *valueOf(context, engine::duplicateNode(*item.node, options));
+            if (call.has("inputConnections"))
+                connectInputs(context, *item.node, copy);
+            made.push_back(copy.name());
+            list.add(itemNamed(context, made.back()));
+            continue;
+        }
         engine::DagPath place = originalOf(context, item);
         DagNode& original = *place.node();
         require(context, place.pop());
@@ -108,7 +120,7 @@ void registerDagEditCommands(CommandTable& table)
     using A = ArgumentType;
     table.add({
         makeCommand(
-            "duplicate", "Makes copies of DAG objects with what is below them",
+            "duplicate", "Makes copies of nodes, of DAG objects with what is below them",
             {valueFlag("n", "name", A::string, "the copy's name"),
              switchFlag("rr", "returnRootsOnly", "tells the copies only, not what is below them"),
              switchFlag("ilf", "instanceLeaf", "shapes become instances"),

@@ -159,6 +159,17 @@ TEST_F(DagCommandsTest, duplicatesHaveTheirOwnValues)
     EXPECT_EQ(run("sets -im crew s1"), "1");
 }
 
+TEST_F(DagCommandsTest, duplicatesAreMadeOfNodesOutsideTheDagToo)
+{
+    run("createNode lambert -n paint; setAttr paint.color 0.5 0.25 1; connectAttr b.tx paint.diffuse");
+    EXPECT_THAT(strings("duplicate paint b"), ElementsAre("paint1", "b1"));
+    EXPECT_THAT(strings("ls -sl"), ElementsAre("paint1", "b1"));
+    EXPECT_THAT(numbers("getAttr paint1.color"), ElementsAre(0.5, 0.25, 1));
+    EXPECT_THAT(strings("listConnections paint1.diffuse"), testing::IsEmpty());
+    EXPECT_THAT(strings("duplicate -ic -n glaze paint"), ElementsAre("glaze"));
+    EXPECT_THAT(strings("listConnections glaze.diffuse"), ElementsAre("b"));
+}
+
 TEST_F(DagCommandsTest, duplicatesOfGroupsKeepTheNamesBelow)
 {
     EXPECT_THAT(strings("duplicate -n \"copy\" a"), ElementsAre("copy", "copy|b"));

@@ -84,6 +84,24 @@ TEST_F(DuplicateTest, TheWorldHasNone)
     EXPECT_EQ(duplicate(scene.world(), scene.world()).outcome.text, "the world cannot be duplicated");
 }
 
+TEST_F(DuplicateTest, ANodeOutsideTheDagIsCopiedAlone)
+{
+    Node& paint = *scene.createNode("lambert", "paint").value;
+    ASSERT_TRUE(writeNumber(paint.findPlug("diffuse").value, 0.25));
+    ASSERT_TRUE(paint.addDynamicAttribute(makeNumber("layers", "ly", NumberKind::integer, 1)));
+    ASSERT_TRUE(writeNumber(paint.findPlug("layers").value, 3));
+    std::vector<const Node*> told;
+    DuplicateOptions options;
+    options.onCopy = [&](Node& original, Node& copy) { told = {&original, &copy}; };
+    const auto copy = duplicateNode(paint, options);
+    ASSERT_TRUE(copy) << copy.outcome.text;
+    EXPECT_EQ(copy.value->name(), "paint1");
+    EXPECT_EQ(readNumber(copy.value->findPlug("diffuse").value).value.asReal(), 0.25);
+    EXPECT_EQ(readNumber(copy.value->findPlug("layers").value).value.whole, 3);
+    EXPECT_EQ(told, (std::vector<const Node*>{&paint, copy.value}));
+    EXPECT_EQ(duplicateNode(scene.world()).outcome.reason, Reason::wrongKind);
+}
+
 TEST_F(DuplicateTest, AttributesAreCopiedWithTheirStructure)
 {
     const Ref<Attribute> color = makeColor("tint", "tnt");

@@ -1,6 +1,9 @@
 // MPxNode, MDataBlock and data handles: a plug-in's nodes and their values.
 #include "../nodeFixture.h"
 
+#include "api/support/pxBehaviour.h"
+#include "engine/duplicate.h"
+
 #include <maya/MArrayDataBuilder.h>
 #include <maya/MArrayDataHandle.h>
 #include <maya/MDGModifier.h>
@@ -132,6 +135,15 @@ MStatus Worker::compute(const MPlug& plug, MDataBlock& block)
     }
     return plug == broken ? MS::kFailure : MS::kUnknownParameter;
 }
+
+/// Keeps a number outside its attributes.
+class Counter : public MPxNode
+{
+public:
+    static void* create() { return new Counter; }
+    void copyInternalData(MPxNode* other) override { count = static_cast<Counter*>(other)->count; }
+    int count = 0;
+};
 
 class PxNodes : public NodeFixture
 {
@@ -413,6 +425,22 @@ TEST_F(PxNodes, DeregisteringTurnsLivingNodesIntoUnknownOnes)
     EXPECT_FALSE(MFnPlugin::isNodeRegistered("worker"));
     EXPECT_EQ(MFn::kUnknown, node.apiType());
     EXPECT_EQ(MS::kInvalidParameter, set.deregisterNode(MTypeId(0x2000)).statusCode());
+}
+
+TEST_F(PxNodes, ACopyTakesOverWhatItsOriginalKeeps)
+{
+    ASSERT_EQ(MS::kSuccess, registerType("counter", 0x4210, Counter::create, nullptr));
+    make("counter", "a");
+    const auto counterOf = [](const tvxhost::engine::Node& each) {
+        return static_cast<Counter*>(each.behaviour()->apiObject());
+    };
+    tvxhost::engine::Node& original = *scene.findNode("a").value;
+    counterOf(original)->count = 5;
+    tvxhost::engine::DuplicateOptions options;
+    options.onCopy = copyInternalData;
+    const auto copy = tvxhost::engine::duplicateNode(original, options);
+    ASSERT_TRUE(copy) << copy.outcome.text;
+    EXPECT_EQ(5, counterOf(*copy.value)->count);
 }
 
 TEST_F(PxNodes, InheritedAttributesAreStaticMembers)
