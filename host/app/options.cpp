@@ -41,22 +41,40 @@ struct Words
     std::vector<std::string> faults;
 };
 
+/// A name that is given but empty is a mistake, such as a shell variable that is not set, and no wish for
+/// nothing.
+CLI::Validator named()
+{
+    return CLI::Validator(
+        [](const std::string& word) {
+            return word.empty() ? std::string("no name is given") : std::string();
+        },
+        "", "named");
+}
+
 void declareWork(CLI::App& app, Options& options, Words& words)
 {
     app.add_option("--plugin", options.plugins, "Load a plug-in, a file or a name; may be repeated")
         ->type_name("P")
+        ->check(named())
         ->allow_extra_args(false);
     app.add_option("--prefs", options.preferences, "Read and keep option variables in this folder")
-        ->type_name("DIR");
-    app.add_option("--script", options.script, "Run a MEL file")->type_name("F.mel");
+        ->type_name("DIR")
+        ->check(named());
+    app.add_option("--script", options.script, "Run a MEL file")->type_name("F.mel")->check(named());
     app.add_option("-e,--execute", options.commands, "Run MEL text; may be repeated")
         ->type_name("'MEL'")
         ->allow_extra_args(false);
-    app.add_option("--render", options.picture, "Draw the viewport into a PNG file")->type_name("OUT.png");
+    app.add_option("--render", options.picture, "Draw the viewport into a PNG file")
+        ->type_name("OUT.png")
+        ->check(named());
     app.add_option("--size", words.size, "Pixels of the picture; 1280x720 when not given")->type_name("WxH");
     app.add_option("--camera", options.camera, "Look through this camera; persp when not given")
-        ->type_name("NAME");
-    app.add_option("--save", options.save, "Write the scene as Maya ASCII")->type_name("OUT.ma");
+        ->type_name("NAME")
+        ->check(named());
+    app.add_option("--save", options.save, "Write the scene as Maya ASCII")
+        ->type_name("OUT.ma")
+        ->check(named());
 }
 
 void declareReports(CLI::App& app, Options& options, Words& words)
@@ -193,9 +211,10 @@ CommandLine parseCommandLine(int argc, const char* const* argv)
     declareWork(app, options, words);
     declareReports(app, options, words);
     declareMode(app, options, words);
-    app.add_option(
-        "FILE", words.file,
-        "The scene to open; a new scene when not given. The script of --check, the node type of --describe");
+    app.add_option("FILE", words.file,
+                   "The scene to open; a new scene when not given. The script of --check, the node type of "
+                   "--describe")
+        ->check(named());
 
     CommandLine result;
     try {

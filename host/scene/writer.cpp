@@ -103,12 +103,20 @@ bool beginsWith(const std::string& text, const char* start)
     return text.rfind(start, 0) == 0;
 }
 
+/// The name of a file in a comment, which ends with its line.
+std::string onOneLine(std::string name)
+{
+    std::replace_if(
+        name.begin(), name.end(), [](char c) { return c == '\n' || c == '\r'; }, ' ');
+    return name;
+}
+
 /// Writes one file from the top to the end.
 class SceneWriter
 {
 public:
     SceneWriter(Scene& scene, const std::string& fileName, const WriteOptions& options)
-        : m_scene(scene), m_options(options), m_fileName(fileName), m_nodes(scene, m_out)
+        : m_scene(scene), m_options(options), m_fileName(onOneLine(fileName)), m_nodes(scene, m_out)
     {
     }
 

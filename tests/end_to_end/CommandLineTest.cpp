@@ -1,4 +1,5 @@
 // The program's own words: help, version and a command line that makes no sense.
+#include "../host/support/temporaryFolder.h"
 #include "program.h"
 
 #include <gmock/gmock.h>
@@ -64,6 +65,8 @@ TEST(CommandLine, EachMistakeIsOneErrorThatSaysWhatIsWrong)
         {{"--bogus"}, "The following argument was not expected: --bogus"},
         {{"one.ma", "two.ma"}, "The following argument was not expected: two.ma"},
         {{"--save"}, "--save: 1 required OUT.ma missing"},
+        {{"--save", ""}, "--save: no name is given"},
+        {{""}, "FILE: no name is given"},
         {{"--render", "x.png", "--size", "640"}, "--size: \"640\" is not a size such as 1280x720"},
         {{"--render", "x.png", "--size", "0x0"}, "--size: \"0x0\" is not a size such as 1280x720"},
         {{"--describe"}, "--describe: no node type is named"},
@@ -78,6 +81,27 @@ TEST(CommandLine, EachMistakeIsOneErrorThatSaysWhatIsWrong)
         EXPECT_EQ(result.output, "") << mistake.error;
         EXPECT_EQ(result.errors, std::string(mistake.error) + "\nRun with --help for more information.\n");
     }
+}
+
+TEST(CommandLine, OutputThatCannotBeWrittenIsAnError)
+{
+    const ProgramResult result =
+        runProgram("/bin/sh", {"-c", "exec \"$0\" -e 'print \"words\\n\"' >/dev/full", TVX_HOST_PROGRAM});
+    EXPECT_EQ(result.exitCode, 1);
+    EXPECT_EQ(result.errors,
+              "Error: cannot write standard output: some of it is lost; is there room where it goes?\n");
+}
+
+TEST(CommandLine, WhatIsPrintedToAClosedOutputLandsInNoFile)
+{
+    const TemporaryFolder folder;
+    const std::string scene = (folder / "out.ma").string();
+    const ProgramResult result = runProgram(
+        "/bin/sh", {"-c", "exec \"$0\" -e 'print \"words\\n\"' --save \"$1\" >&-", TVX_HOST_PROGRAM, scene});
+    EXPECT_EQ(result.exitCode, 0);
+    EXPECT_EQ(result.errors, "");
+    EXPECT_THAT(contentsOf(scene), testing::StartsWith("//Maya ASCII"));
+    EXPECT_THAT(contentsOf(scene), testing::Not(HasSubstr("words")));
 }
 
 } // namespace

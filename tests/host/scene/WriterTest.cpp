@@ -321,4 +321,12 @@ TEST_F(SavingTest, failsWithOneErrorWhereThereIsNoFolder)
     EXPECT_EQ(scene.fileName, "");
 }
 
+TEST_F(WriterTest, aLineEndInTheNameOfTheFileDoesNotEndItsComment)
+{
+    const std::string text = sceneText(scene, "a\nb\r.ma");
+    EXPECT_NE(text.find("\n//Name: a b .ma\n"), std::string::npos) << text.substr(0, 200);
+    EXPECT_NE(text.find("\n// End of a b .ma\n"), std::string::npos);
+    EXPECT_TRUE(openSceneText(scene, text, "/scenes/test.ma").isClean());
+}
+
 } // namespace tvxhost::scene
