@@ -42,8 +42,8 @@ std::string connectMessage(const Outcome& outcome, const Plug& source, const Plu
     if (outcome.reason == Reason::sameConnection)
         return "'" + from + "' is already connected to '" + to + "'.";
     const char* reason = refusal(outcome.reason);
-    return "Connection not made: '" + from + "' -> '" + to + "'.  " +
-           (reason ? std::string(reason) : outcome.text);
+    // What the scene says of all else names the ends already.
+    return reason ? "Connection not made: '" + from + "' -> '" + to + "'.  " + reason : outcome.text;
 }
 
 std::string disconnectMessage(const Outcome& outcome, const Plug& source, const Plug& destination)

@@ -39,6 +39,8 @@ TEST_F(ConnectionCommandsTest, aDestinationIsLockedAfterwardsAndUnlockedBefore)
     EXPECT_EQ(run("getAttr -lock b.tx"), "1");
     EXPECT_EQ(failure("connectAttr -f c.tx b.tx"),
               "Connection not made: 'c.translateX' -> 'b.translateX'.  Destination is locked.");
+    EXPECT_EQ(failure("connectAttr c.tx c.tx"),
+              "Connection not made: 'c.translateX' -> 'c.translateX'.  Source and destination are the same.");
     run("connectAttr -f -lock off c.tx b.tx");
     EXPECT_EQ(run("getAttr -lock b.tx"), "0");
     EXPECT_EQ(run("connectionInfo -sfd b.tx"), "c.translateX");
