@@ -57,10 +57,11 @@ void load(CommandContext& context, Reference& reference)
         context.fail("The reference '" + reference.nodeName + "' could not be loaded");
 }
 
-std::string legalName(std::string name)
+/// A name with the characters that names may have; `others` are legal as well.
+std::string legalName(std::string name, std::string_view others = {})
 {
     for (char& c : name)
-        if (!std::isalnum(static_cast<unsigned char>(c)))
+        if (!std::isalnum(static_cast<unsigned char>(c)) && others.find(c) == std::string_view::npos)
             c = '_';
     return name;
 }
@@ -72,13 +73,14 @@ Value addReference(CommandContext& context, const ParsedCommand& call)
     if (call.positional.empty())
         context.fail("file -reference needs the name of a file");
     const fs::path file = session.workspace.resolved(call.names().front());
-    if (!fs::exists(file))
+    if (!fs::is_regular_file(file))
         context.fail("File not found: \"" + file.string() + "\"");
 
     auto reference = std::make_unique<Reference>();
     const std::string stem = legalName(file.stem().string());
     reference->hasPrefix = call.has("renamingPrefix");
-    reference->space = call.string(reference->hasPrefix ? "renamingPrefix" : "namespace", stem);
+    reference->space =
+        legalName(call.string(reference->hasPrefix ? "renamingPrefix" : "namespace", stem), "_:");
     const std::string wish = reference->space == ":" ? std::string() : reference->space;
     reference->space = wish;
     for (int i = 1; !reference->hasPrefix && !wish.empty() && scene.hasNamespace(":" + reference->space); ++i)
@@ -98,9 +100,13 @@ Value addReference(CommandContext& context, const ParsedCommand& call)
     node.isLockedNode = true;
     scene.references.push_back(std::move(reference));
     Reference& added = *scene.references.back();
-    scene.isModified = true;
     if (!added.isDeferred)
-        load(context, added);
+        sessionOf(context).loadReference(context.interpreter(), added);
+    if (!added.isDeferred && !added.isLoaded) {
+        scene::dropReference(scene, added);
+        context.fail("The file \"" + file.string() + "\" could not be referenced");
+    }
+    scene.isModified = true;
     scene::tellOfReference(scene, engine::Happening::referenceDone, added);
     return Value(shownPath(scene, added));
 }

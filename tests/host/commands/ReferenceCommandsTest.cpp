@@ -46,6 +46,24 @@ TEST_F(ReferenceCommandsTest, aMissingFileIsAnErrorAndChangesNothing)
     EXPECT_EQ(run("objExists noneRN"), "0");
 }
 
+TEST_F(ReferenceCommandsTest, aFileThatIsNoSceneIsAnErrorAndChangesNothing)
+{
+    std::ofstream(m_folder / "empty.ma") << "";
+    EXPECT_EQ(failure("file -reference \"empty.ma\""),
+              "The file \"" + path("empty.ma") + "\" could not be referenced");
+    EXPECT_EQ(failure("file -reference \".\""), "File not found: \"" + path(".") + "\"");
+    EXPECT_EQ(run("size(`file -q -r`)"), "0");
+    EXPECT_EQ(run("objExists emptyRN"), "0");
+}
+
+TEST_F(ReferenceCommandsTest, charactersThatNamesMayNotHaveBecomeLowLines)
+{
+    run("file -r -ns \"two words\" \"rig.ma\"; file -r -rpr \"my-own\" \"rig.ma\"");
+    EXPECT_EQ(run("objExists \"|two_words:body|two_words:head\""), "1");
+    EXPECT_EQ(run("objExists \"|my_own_body|my_own_head\""), "1");
+    EXPECT_EQ(run("referenceQuery -namespace \"two_wordsRN\""), ":two_words");
+}
+
 TEST_F(ReferenceCommandsTest, nodesOfAReferenceCannotBeDeletedOrRenamed)
 {
     run("file -r -ns \"r\" \"rig.ma\"");
