@@ -67,13 +67,15 @@ bool keywordBoolean(std::string_view text, bool& known)
 
 void ArgumentList::addToken(ArgumentKind kind, std::string_view text)
 {
-    m_arguments.push_back({kind, text, nullptr});
+    m_arguments.push_back({kind, text, nullptr, nullptr});
 }
 
 void ArgumentList::addQuoted(std::string_view escapedText)
 {
-    const bool hasEscapes = escapedText.find('\\') != std::string_view::npos;
-    addToken(ArgumentKind::string, hasEscapes ? keep(unescaped(escapedText)) : escapedText);
+    if (escapedText.find('\\') == std::string_view::npos)
+        addToken(ArgumentKind::string, escapedText);
+    else
+        addResolved(unescaped(escapedText));
 }
 
 void ArgumentList::addQuotedSum(std::string_view source)
@@ -87,7 +89,7 @@ void ArgumentList::addQuotedSum(std::string_view source)
         appendUnescaped(sum, source.substr(quote + 1, end - quote - 1));
         quote = source.find('"', end + 1);
     }
-    addToken(ArgumentKind::string, keep(std::move(sum)));
+    addResolved(std::move(sum));
 }
 
 void ArgumentList::addValue(const Value& value)
@@ -110,7 +112,7 @@ void ArgumentList::addValue(const Value& value)
                                                              : ArgumentKind::value;
     const std::string_view text = keep(value.toString());
     m_values.push_back(value);
-    m_arguments.push_back({kind, text, &m_values.back()});
+    m_arguments.push_back({kind, text, &m_values.back(), nullptr});
 }
 
 void ArgumentList::clear()
@@ -120,7 +122,13 @@ void ArgumentList::clear()
     m_values.clear();
 }
 
-std::string_view ArgumentList::keep(std::string text)
+void ArgumentList::addResolved(std::string text)
+{
+    std::string& kept = keep(std::move(text));
+    m_arguments.push_back({ArgumentKind::string, kept, nullptr, &kept});
+}
+
+std::string& ArgumentList::keep(std::string text)
 {
     m_strings.push_back(std::move(text));
     return m_strings.back();
@@ -137,9 +145,12 @@ std::string unescaped(std::string_view text)
 void appendUnescaped(std::string& plain, std::string_view text)
 {
     for (std::size_t i = 0; i < text.size(); ++i) {
-        if (text[i] != '\\' || i + 1 == text.size()) {
-            plain += text[i];
-            continue;
+        const std::size_t escape = std::min(text.find('\\', i), text.size());
+        plain.append(text, i, escape - i);
+        i = escape;
+        if (i + 1 >= text.size()) {
+            plain.append(text.substr(i));
+            break;
         }
         switch (const char escaped = text[++i]) {
         case 'n':

@@ -28,6 +28,8 @@ struct Argument
     ArgumentKind kind = ArgumentKind::word;
     std::string_view text;
     const Value* value = nullptr; ///< the evaluated value; null for a token of the source
+    /// The text itself when the list had to resolve quotes or escapes: whoever asks last may move it away.
+    std::string* resolved = nullptr;
 
     /// A flag's name is an unquoted or quoted string that begins with a dash and a letter.
     bool looksLikeFlag() const;
@@ -68,7 +70,8 @@ public:
     const Argument* end() const { return m_arguments.data() + m_arguments.size(); }
 
 private:
-    std::string_view keep(std::string text);
+    std::string& keep(std::string text);
+    void addResolved(std::string text);
 
     std::vector<Argument> m_arguments;
     std::deque<std::string> m_strings;

@@ -147,7 +147,7 @@ void writeNames(std::string& out, const Data& data, std::string_view)
 
 Ref<Data> parseString(Words& words)
 {
-    return Ref<Data>(new engine::StringData(words.text()));
+    return Ref<Data>(new engine::StringData(words.takeText()));
 }
 
 void writeString(std::string& out, const Data& data, std::string_view)

@@ -3,6 +3,7 @@
 
 #include <charconv>
 #include <cmath>
+#include <utility>
 
 namespace tvxhost::scene {
 
@@ -67,6 +68,13 @@ std::size_t Words::count(std::size_t wordsEach)
         return 0;
     }
     return static_cast<std::size_t>(value);
+}
+
+std::string Words::takeText()
+{
+    if (!atEnd() && m_next->resolved)
+        return std::move(*take()->resolved);
+    return text();
 }
 
 std::string Words::text()

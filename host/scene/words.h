@@ -32,6 +32,8 @@ public:
     /// A count that the remaining words can satisfy, each counted thing being `wordsEach` words.
     std::size_t count(std::size_t wordsEach = 1);
     std::string text();
+    /// The same, which must not be asked for again: a long text is moved rather than copied.
+    std::string takeText();
     void skip() { ++m_next; }
 
     /// All that is left as source text, strings quoted; takes them.
