@@ -18,6 +18,7 @@
 #include <array>
 
 using namespace tvxhost::api;
+using tvxhost::engine::Attribute;
 using tvxhost::engine::Node;
 using tvxhost::engine::NodeBehaviour;
 using tvxhost::engine::NodeType;
@@ -77,12 +78,33 @@ std::unique_ptr<NodeBehaviour> makeBehaviour(MCreatorFunction creator, Node& nod
     return std::make_unique<PxBehaviour>(node, std::move(object));
 }
 
+bool isInternal(const Attribute& attribute)
+{
+    return attribute.flags.internal ||
+           std::any_of(attribute.children.begin(), attribute.children.end(),
+                       [](const Ref<Attribute>& child) { return isInternal(*child); });
+}
+
+/// The class would keep the values of internal attributes, but is never asked for them here.
+void tellOfInternalAttributes(const NodeType& type)
+{
+    for (const Ref<Attribute>& attribute : type.attributes())
+        if (attribute->owner == &type && isInternal(*attribute))
+            sessionScene().scriptEditor().warning(
+                "'" + type.name + "." + attribute->longName +
+                "' is internal, but its value is kept as any other: MPxNode::getInternalValue and "
+                "setInternalValue are not called");
+}
+
 MStatus declareAttributes(NodeType& type, MInitializeFunction initialize)
 {
     if (!initialize)
         return MS::kSuccess;
     const RegisteringType registering(type);
-    return initialize();
+    const MStatus declared = initialize();
+    if (declared)
+        tellOfInternalAttributes(type);
+    return declared;
 }
 
 /// A command that ran and that can be undone. It lives as long as undo can come back to it.

@@ -91,6 +91,8 @@ public:
     /// is not computed here; Maya then looks further.
     virtual MStatus compute(const MPlug& plug, MDataBlock& dataBlock);
 
+    // The stand-in host keeps the values of internal attributes as all others and calls none of the
+    // following; it warns of such attributes when their type is registered.
     /// For attributes with the internal flag: hands out a value that the class keeps. True when it did.
     virtual bool getInternalValueInContext(const MPlug& plug, MDataHandle& dataHandle, MDGContext& ctx);
 

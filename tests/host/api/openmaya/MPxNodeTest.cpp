@@ -416,6 +416,26 @@ TEST_F(PxNodes, KindsWithoutABaseInTheHostFailLoudly)
     EXPECT_EQ(expected, shown(scene, tvxhost::engine::MessageKind::error));
 }
 
+TEST_F(PxNodes, InternalAttributesAreToldOfBecauseTheirClassIsNotAsked)
+{
+    const auto declare = [] {
+        MFnNumericAttribute number;
+        for (const char* name : {"kept", "plain"}) {
+            const MObject attribute = number.create(name, name, MFnNumericData::kDouble);
+            if (MString("kept") == name)
+                number.setInternal(true);
+            if (const MStatus status = MPxNode::addAttribute(attribute); !status)
+                return status;
+        }
+        return MStatus();
+    };
+    ASSERT_EQ(MS::kSuccess, registerType("keeper", 0x2008, Worker::create, declare));
+    const std::vector<std::string> expected = {
+        "'keeper.kept' is internal, but its value is kept as any other: MPxNode::getInternalValue and "
+        "setInternalValue are not called"};
+    EXPECT_EQ(expected, shown(scene, tvxhost::engine::MessageKind::warning));
+}
+
 TEST_F(PxNodes, DeregisteringTurnsLivingNodesIntoUnknownOnes)
 {
     MFnPlugin set(pluginObject);
