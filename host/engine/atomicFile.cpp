@@ -71,12 +71,20 @@ Outcome unreadable(const fs::path& file, const char* why)
     return {Reason::failed, "Cannot read file \"" + file.string() + "\": " + why};
 }
 
+/// A name in the target's folder. A target may have a name as long as a name can be.
+fs::path temporaryBeside(const fs::path& target)
+{
+    constexpr std::size_t kLongestPart = 200;
+    const std::string part = target.filename().string().substr(0, kLongestPart);
+    return target.parent_path() / (part + "." + std::to_string(std::random_device()()) + ".tmp");
+}
+
 /// An open file that is removed again unless it was kept.
 class TemporaryFile
 {
 public:
     explicit TemporaryFile(const fs::path& target)
-        : m_path(target.string() + "." + std::to_string(std::random_device()()) + ".tmp"),
+        : m_path(temporaryBeside(target).string()),
           m_file(::open(m_path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666))
     {
     }

@@ -293,6 +293,16 @@ TEST(ReadFileTest, tellsOfAFileThatAnotherProcessTruncatesMeanwhile)
     EXPECT_GT(changes, 0);
 }
 
+TEST(DiskTest, aFileMayHaveTheLongestNameThereIs)
+{
+    const test::TemporaryFolder folder;
+    const auto file = folder.path() / (std::string(252, 'n') + ".ma");
+    engine::Scene scene;
+    EXPECT_EQ(saveScene(scene, file).text, "");
+    EXPECT_TRUE(std::filesystem::exists(file));
+    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(folder.path()), {}), 1);
+}
+
 TEST(DiskTest, withoutRoomIsAnErrorAndTheFileStaysAsItWas)
 {
     const test::TemporaryFolder folder;
