@@ -38,8 +38,8 @@ TEST(UtilitiesExample, UsesEachFamily)
               "files: a folder for plaza\n"
               "windows: from 0 0, 320 by 200\n"
               "windows: from 10 20, 320 by 200\n"
-              "units: a frame is 0.04 s, a metre is 1\n" +
-                  project.path("plaza.final.ma") + "\n"); // the value of the last statement that has one
+              "units: a frame is 0.04 s, a metre is 1\n"
+              "pal\n"); // the value of the last statement that has one, which sets the unit
     EXPECT_EQ(result.errors,
               "Warning: [TarvoxCrowd::WARNING]\tCrowd Render: No mesh selected, please select a "
               "mesh first\n");
