@@ -24,19 +24,19 @@ std::string environment(const std::string& name)
 }
 
 /// A variable in a name: where it ends, and what it is called; nothing at all when there is none.
-struct Variable
+struct VariableUse
 {
     std::size_t end;
     std::string name;
 };
 
-std::optional<Variable> variableAt(const std::string& text, std::size_t at)
+std::optional<VariableUse> variableAt(const std::string& text, std::size_t at)
 {
-    const auto upTo = [&](char mark, std::size_t start) -> std::optional<Variable> {
+    const auto upTo = [&](char mark, std::size_t start) -> std::optional<VariableUse> {
         const std::size_t end = text.find(mark, start);
         if (end == std::string::npos || end == start)
             return std::nullopt;
-        return Variable{end + 1, text.substr(start, end - start)};
+        return VariableUse{end + 1, text.substr(start, end - start)};
     };
     if (text[at] == '%')
         return upTo('%', at + 1);
@@ -47,7 +47,7 @@ std::optional<Variable> variableAt(const std::string& text, std::size_t at)
     std::size_t end = at + 1;
     while (end < text.size() && (std::isalnum(static_cast<unsigned char>(text[end])) || text[end] == '_'))
         ++end;
-    return end == at + 1 ? std::nullopt : std::optional<Variable>({end, text.substr(at + 1, end - at - 1)});
+    return end == at + 1 ? std::nullopt : std::optional<VariableUse>({end, text.substr(at + 1, end - at - 1)});
 }
 
 std::string homeOf(const std::string& user)
@@ -84,7 +84,7 @@ fs::path Workspace::expanded(const std::string& name) const
 {
     std::string text;
     for (std::size_t at = 0; at < name.size();) {
-        const std::optional<Variable> variable = variableAt(name, at);
+        const std::optional<VariableUse> variable = variableAt(name, at);
         if (!variable) {
             text += name[at++];
             continue;
