@@ -47,7 +47,8 @@ std::optional<VariableUse> variableAt(const std::string& text, std::size_t at)
     std::size_t end = at + 1;
     while (end < text.size() && (std::isalnum(static_cast<unsigned char>(text[end])) || text[end] == '_'))
         ++end;
-    return end == at + 1 ? std::nullopt : std::optional<VariableUse>({end, text.substr(at + 1, end - at - 1)});
+    return end == at + 1 ? std::nullopt
+                         : std::optional<VariableUse>({end, text.substr(at + 1, end - at - 1)});
 }
 
 std::string homeOf(const std::string& user)
