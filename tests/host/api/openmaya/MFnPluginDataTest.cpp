@@ -179,8 +179,10 @@ TEST_F(PluginDataTest, AnAttributeOfTheTypeKeepsACopyOfWhatItIsGiven)
     EXPECT_EQ(MS::kSuccess, target.setMObject(given));
     static_cast<Pebble*>(MFnPluginData(given, nullptr).data())->weight = 4.0;
     EXPECT_EQ(3.0, weightOf(input.asMObject()));
-    EXPECT_EQ(kPebbleId, input.asMDataHandle().typeId());
-    EXPECT_EQ(MFnData::kPlugin, input.asMDataHandle().type());
+    MDataHandle handle = target.asMDataHandle();
+    EXPECT_EQ(kPebbleId, handle.typeId());
+    EXPECT_EQ(MFnData::kPlugin, handle.type());
+    target.destructHandle(handle);
 }
 
 TEST_F(PluginDataTest, APlugTakesThePluginsObject)
