@@ -19,9 +19,10 @@ namespace {
 constexpr const char* kUsage =
     "usage: tvxBench [--rounds N] [--only TEXT]\n"
     "\n"
-    "Measures each row of the table beside its peer, round by round in turn, and prints the\n"
-    "median of the per-round ratios (with their quartiles) and `ok` where the target is reached,\n"
-    "`short` where it is not. Run it pinned to one core: tools/bench does.\n"
+    "Measures each row of the table beside its peer, round by round in turn and in a process\n"
+    "of its own, and prints the median of the per-round ratios (with their quartiles) and `ok`\n"
+    "where the target is reached, `short` where it is not. Run it pinned to one core: tools/bench\n"
+    "does.\n"
     "\n"
     "  --rounds N    rounds per row (default 11)\n"
     "  --only TEXT   only the rows that have TEXT in their first two columns\n";

@@ -1,11 +1,16 @@
 // Measures rows with Google Benchmark.
 #include "measure.h"
 
+#include "scratch.h"
+
 #include <benchmark/benchmark.h>
 
 #include <algorithm>
 #include <iostream>
 #include <stdexcept>
+
+#include <sys/wait.h>
+#include <unistd.h>
 
 namespace tvxbench {
 namespace {
@@ -67,20 +72,68 @@ void runRound(const Row& row, bool subjectFirst, Times& times)
     times.ratio.push_back(subject / peer);
 }
 
+Measured measureRow(const Row& row, int rounds)
+{
+    Times times;
+    for (int round = 0; round < rounds; ++round)
+        runRound(row, round % 2 == 0, times);
+    return {quantile(times.subject, 0.5), quantile(times.peer, 0.5), quantile(times.ratio, 0.5),
+            quantile(times.ratio, 0.25), quantile(times.ratio, 0.75)};
+}
+
+/// Both ends of a pipe, closed at the end.
+struct Pipe
+{
+    Pipe()
+    {
+        if (::pipe(ends) != 0)
+            throw std::runtime_error("cannot make a pipe");
+    }
+    ~Pipe()
+    {
+        ::close(ends[0]);
+        ::close(ends[1]);
+    }
+    Pipe(const Pipe&) = delete;
+    Pipe& operator=(const Pipe&) = delete;
+
+    int ends[2] = {-1, -1};
+};
+
+/// Measures in a process that ends with it, so that no row finds the memory as another one left it.
+Measured measureApart(const Row& row, int rounds)
+{
+    const Pipe pipe;
+    const pid_t child = ::fork();
+    if (child < 0)
+        throw std::runtime_error("cannot start a process");
+    Measured measured;
+    if (child == 0) {
+        try {
+            measured = measureRow(row, rounds);
+            ::_exit(::write(pipe.ends[1], &measured, sizeof measured) == sizeof measured ? 0 : 1);
+        } catch (const std::exception& error) {
+            std::cerr << "tvxBench: " << error.what() << '\n';
+            ::_exit(1);
+        }
+    }
+    int status = 0;
+    if (::waitpid(child, &status, 0) != child || status != 0 ||
+        ::read(pipe.ends[0], &measured, sizeof measured) != sizeof measured)
+        throw std::runtime_error("not measured: " + row.what);
+    return measured;
+}
+
 } // namespace
 
 std::vector<Measured> measure(const std::vector<Row>& rows, int rounds)
 {
-    std::vector<Times> times(rows.size());
-    for (int round = 0; round < rounds; ++round) {
-        for (std::size_t i = 0; i < rows.size(); ++i)
-            runRound(rows[i], round % 2 == 0, times[i]);
-        std::cerr << "round " << round + 1 << " of " << rounds << '\n';
-    }
+    (void)scratchFolder(); // made here, so that it goes when this process ends
     std::vector<Measured> measured;
-    for (const Times& t : times)
-        measured.push_back({quantile(t.subject, 0.5), quantile(t.peer, 0.5), quantile(t.ratio, 0.5),
-                            quantile(t.ratio, 0.25), quantile(t.ratio, 0.75)});
+    for (const Row& row : rows) {
+        std::cerr << "row " << measured.size() + 1 << " of " << rows.size() << ": " << row.what << '\n';
+        measured.push_back(measureApart(row, rounds));
+    }
     return measured;
 }
 

@@ -16,8 +16,9 @@ struct Measured
     double quartile3 = 0;
 };
 
-/// Runs every row `rounds` times; within a round each row's two sides run one right after the other, the
-/// order changing from round to round. Throws std::runtime_error when a benchmark of a row did not run.
+/// Runs every row `rounds` times, in a process of its own; within a round the row's two sides run one right
+/// after the other, the order changing from round to round. Throws std::runtime_error when a benchmark of a
+/// row did not run.
 std::vector<Measured> measure(const std::vector<Row>& rows, int rounds);
 
 } // namespace tvxbench

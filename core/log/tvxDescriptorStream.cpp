@@ -18,19 +18,6 @@ std::streamsize DescriptorBuffer::xsputn(const char* text, std::streamsize size)
     return writeAll(text, size);
 }
 
-std::streamsize DescriptorBuffer::writeAll(const char* text, std::streamsize size)
-{
-    std::streamsize done = 0;
-    while (done < size) {
-        const std::ptrdiff_t written =
-            descriptor::writeSome(m_file, text + done, static_cast<std::size_t>(size - done));
-        if (written <= 0)
-            break;
-        done += written;
-    }
-    return done;
-}
-
 StandardOutputStream::StandardOutputStream() : std::ostream(nullptr)
 {
     rdbuf(&m_buffer);
@@ -48,13 +35,6 @@ LogFileStream::LogFileStream(const std::string& path) : std::ostream(nullptr)
 LogFileStream::~LogFileStream()
 {
     close();
-}
-
-void LogFileStream::writeAtOnce(const char* text, std::size_t size)
-{
-    const auto count = static_cast<std::streamsize>(size);
-    if (good() && m_buffer.writeAll(text, count) != count)
-        setstate(badbit);
 }
 
 bool LogFileStream::isOpen() const

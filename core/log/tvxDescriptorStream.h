@@ -3,6 +3,7 @@
 
 #include "core/log/tvxFileDescriptor.h"
 
+#include <cstddef>
 #include <ostream>
 #include <streambuf>
 #include <string>
@@ -18,7 +19,18 @@ public:
 
     /// Writes all of a text, or as much as the system takes.
     /// @return the number of characters written
-    std::streamsize writeAll(const char* text, std::streamsize size);
+    std::streamsize writeAll(const char* text, std::streamsize size)
+    {
+        std::streamsize done = 0;
+        while (done < size) {
+            const std::ptrdiff_t written =
+                descriptor::writeSome(m_file, text + done, static_cast<std::size_t>(size - done));
+            if (written <= 0)
+                break;
+            done += written;
+        }
+        return done;
+    }
 
     int file() const { return m_file; }
     void setFile(int file) { m_file = file; }
@@ -49,8 +61,14 @@ public:
     explicit LogFileStream(const std::string& path);
     ~LogFileStream() override;
 
-    /// Writes a text as write() and flush() do, without what they cost beside the system call.
-    void writeAtOnce(const char* text, std::size_t size);
+    /// Writes a text as write() and flush() do, without what they cost beside the system call. Stands here
+    /// because behind a system call each return to a caller is a slow one.
+    void writeAtOnce(const char* text, std::size_t size)
+    {
+        const auto count = static_cast<std::streamsize>(size);
+        if (good() && m_buffer.writeAll(text, count) != count)
+            setstate(badbit);
+    }
 
     bool isOpen() const;
     /// Closes the file; does nothing when it is not open.
