@@ -10,7 +10,7 @@ namespace tvxhost::engine {
 /// A point and its weight as one vector, in which curves are plain polynomials.
 struct Homogeneous
 {
-    Imath::V3d place; ///< multiplied by the weight
+    Imath::V3d place{0.0}; ///< multiplied by the weight
     double weight = 0.0;
 };
 
