@@ -3,6 +3,8 @@
 
 #include "plugTarget.h"
 
+#include "engine/instancing.h"
+
 namespace tvxhost::scene {
 
 using engine::Expected;
@@ -30,18 +32,11 @@ Expected<Plug> connectionEnd(engine::Scene& scene, const std::string& name)
     return found;
 }
 
-bool hasInstances(const engine::DagNode& node)
-{
-    for (const engine::DagNode* each = &node; !each->parents().empty(); each = each->parents().front())
-        if (each->parents().size() > 1)
-            return true;
-    return false;
-}
-
 std::string fileName(const engine::Node& node)
 {
     engine::DagNode* dag = const_cast<engine::Node&>(node).asDag();
-    const bool isUnique = !dag || (!hasInstances(*dag) && node.scene().findNode(":" + node.name()));
+    const bool isUnique =
+        !dag || (!engine::hasSeveralPaths(*dag) && node.scene().findNode(":" + node.name()));
     return isUnique ? node.name() : engine::DagPath::firstTo(*dag).fullName();
 }
 

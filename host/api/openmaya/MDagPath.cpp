@@ -3,12 +3,12 @@
 #include <maya/MDagPathArray.h>
 #include <maya/MMatrix.h>
 
+#include "engine/instancing.h"
 #include "engine/scene.h"
 #include "support/apiCall.h"
 #include "support/apiTypes.h"
 #include "support/displayStatus.h"
 #include "support/handles.h"
-#include "support/instancing.h"
 #include "support/matrix4.h"
 
 #include <algorithm>
@@ -296,7 +296,7 @@ bool MDagPath::isInstanced(MStatus* ReturnStatus) const
 {
     TVX_API_CALL_OR("MDagPath::isInstanced", ReturnStatus, false);
     const auto* place = valid(path, ReturnStatus);
-    return place && api::hasSeveralPaths(*place->node());
+    return place && engine::hasSeveralPaths(*place->node());
 }
 
 unsigned int MDagPath::instanceNumber(MStatus* ReturnStatus) const

@@ -11,7 +11,6 @@
 #include <maya/MTypeId.h>
 
 #include "support/dagSet.h"
-#include "support/instancing.h"
 #include "support/matrix4.h"
 #include "support/nodeSet.h"
 #include "support/notImplemented.h"
@@ -19,6 +18,7 @@
 #include "support/pxBehaviour.h"
 
 #include "engine/duplicate.h"
+#include "engine/instancing.h"
 
 #include <algorithm>
 
@@ -373,7 +373,7 @@ MStatus MFnDagNode::setInstanceable(const bool)
 bool MFnDagNode::isInstanced(bool indirect, MStatus* ReturnStatus) const
 {
     return ask(*this, "MFnDagNode::isInstanced", ReturnStatus, [&](const DagNode& node) {
-        return indirect ? hasSeveralPaths(node) : node.parents().size() > 1;
+        return indirect ? tvxhost::engine::hasSeveralPaths(node) : node.parents().size() > 1;
     });
 }
 

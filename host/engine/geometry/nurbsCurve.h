@@ -26,7 +26,7 @@ struct NurbsCurve
     /// A control point with its weight.
     struct Point
     {
-        Imath::V3d place;
+        Imath::V3d place{0.0};
         double weight = 1.0;
     };
 

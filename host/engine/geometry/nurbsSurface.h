@@ -37,7 +37,7 @@ struct NurbsSurface
     /// A place on the surface and how it moves with the parameters.
     struct Jet
     {
-        Imath::V3d place;
+        Imath::V3d place{0.0};
         Imath::V3d du, dv;
         Imath::V3d duu, dvv, duv;
     };

@@ -1,18 +1,18 @@
 // Whether a DAG node is in several places.
 #pragma once
 
-#include "engine/node.h"
+#include "node.h"
 
-namespace tvxhost::api {
+namespace tvxhost::engine {
 
 /// Whether more than one path leads to a node, be it that the node itself or one above it has several
 /// parents.
-inline bool hasSeveralPaths(const engine::DagNode& node)
+inline bool hasSeveralPaths(const DagNode& node)
 {
-    const engine::DagNode* fork = &node;
+    const DagNode* fork = &node;
     while (fork->parents().size() == 1)
         fork = fork->parents().front();
     return !fork->parents().empty();
 }
 
-} // namespace tvxhost::api
+} // namespace tvxhost::engine
