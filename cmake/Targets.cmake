@@ -82,9 +82,10 @@ function(tvx_test name)
     TVX_SOURCE_DIR="${CMAKE_SOURCE_DIR}"
     TVX_BUILD_DIR="${CMAKE_BINARY_DIR}")
   if(TVX_TEST_PER_PROGRAM)
-    add_test(NAME ${name} COMMAND ${name})
+    # Brief, so that of a long program a report shows what failed.
+    add_test(NAME ${name} COMMAND ${name} --gtest_brief=1)
     # A program that has lost its cases ends well: only what it prints tells.
-    set_tests_properties(${name} PROPERTIES TIMEOUT 1800 FAIL_REGULAR_EXPRESSION "Running 0 tests from")
+    set_tests_properties(${name} PROPERTIES TIMEOUT 1800 FAIL_REGULAR_EXPRESSION "\\] 0 tests from")
   else()
     gtest_discover_tests(${name} DISCOVERY_TIMEOUT 60 PROPERTIES TIMEOUT 300)
   endif()
