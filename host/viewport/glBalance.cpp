@@ -113,11 +113,28 @@ void restore(const Stack& stack, int wanted, std::string& complaints)
         stack.push();
 }
 
+std::array<double, 16> projectionMatrix()
+{
+    std::array<double, 16> matrix{};
+    glGetDoublev(GL_PROJECTION_MATRIX, matrix.data());
+    return matrix;
+}
+
+void restoreProjection(const std::array<double, 16>& wanted, std::string& complaints)
+{
+    if (projectionMatrix() == wanted)
+        return;
+    add(complaints, "projection matrix changed");
+    glMatrixMode(GL_PROJECTION);
+    glLoadMatrixd(wanted.data());
+}
+
 } // namespace
 
 GlBalance::GlBalance()
     : m_modelView(depthOf(GL_MODELVIEW_STACK_DEPTH)), m_projection(depthOf(GL_PROJECTION_STACK_DEPTH)),
-      m_attributes(depthOf(GL_ATTRIB_STACK_DEPTH)), m_clientAttributes(depthOf(GL_CLIENT_ATTRIB_STACK_DEPTH))
+      m_attributes(depthOf(GL_ATTRIB_STACK_DEPTH)), m_clientAttributes(depthOf(GL_CLIENT_ATTRIB_STACK_DEPTH)),
+      m_projectionMatrix(projectionMatrix())
 {
     takeErrors();
 }
@@ -136,6 +153,7 @@ std::string GlBalance::checkAndRepair() const
     restore(kProjection, m_projection, complaints);
     restore(kAttributes, m_attributes, complaints);
     restore(kClientAttributes, m_clientAttributes, complaints);
+    restoreProjection(m_projectionMatrix, complaints);
     glMatrixMode(GL_MODELVIEW);
     return complaints;
 }

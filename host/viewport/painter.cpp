@@ -111,10 +111,12 @@ void Painter::paintPlugin(const DrawItem& item)
     if (!locator)
         return;
     glPushAttrib(GL_ALL_ATTRIB_BITS);
+    glPushClientAttrib(GL_CLIENT_ALL_ATTRIB_BITS);
     const GlBalance balance;
     M3dView view = M3dView::active3dView();
     locator->draw(view, tvxAccess::dagPath(item.path), M3dView::kWireFrame, item.status);
     const std::string complaints = balance.checkAndRepair();
+    glPopClientAttrib();
     glPopAttrib();
     if (!complaints.empty())
         blame(*item.path.node(), complaints);

@@ -83,6 +83,22 @@ TEST_F(GlBalanceTest, EveryStackIsWatched)
     expectRepaired(balance);
 }
 
+TEST_F(GlBalanceTest, TheProjectionIsPutBack)
+{
+    glMatrixMode(GL_PROJECTION);
+    glLoadIdentity();
+    glScaled(0.5, 0.25, 1);
+    const GlBalance balance;
+    glLoadIdentity();
+    EXPECT_EQ(balance.checkAndRepair(), "projection matrix changed");
+    expectRepaired(balance);
+    GLdouble matrix[16] = {};
+    glGetDoublev(GL_PROJECTION_MATRIX, matrix);
+    EXPECT_EQ(matrix[0], 0.5);
+    EXPECT_EQ(matrix[5], 0.25);
+    EXPECT_EQ(matrix[10], 1);
+}
+
 TEST_F(GlBalanceTest, AnOpenBeginIsClosed)
 {
     const GlBalance balance;

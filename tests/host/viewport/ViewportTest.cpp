@@ -305,6 +305,30 @@ TEST_F(ViewportTest, DisorderThatAPluginLeavesIsToldOnceAndRepaired)
     EXPECT_EQ(picture.at(200, 90), kBackground);
 }
 
+TEST_F(ViewportTest, WhatAPluginSwitchesOnForItselfIsNotThereForOthers)
+{
+    lookFromFront();
+    create("testLocator", "first", &create("transform", "t1"));
+    create("mesh", "boxShape", &create("transform", "box"));
+    ASSERT_TRUE(m_scene.createNode("polyCube", "polyCube1"));
+    ASSERT_TRUE(
+        m_scene.connect(m_scene.findPlug("polyCube1.out").value, m_scene.findPlug("boxShape.i").value));
+    std::vector<float> colors(24, 1.0f);
+    TestLocator::draws = [&](M3dView& view, const MDagPath&, M3dView::DisplayStatus) {
+        view.beginGL();
+        glEnableClientState(GL_COLOR_ARRAY);
+        glColorPointer(3, GL_FLOAT, 0, colors.data());
+        glPixelStorei(GL_PACK_ROW_LENGTH, 1000);
+        glPixelStorei(GL_PACK_SKIP_ROWS, 100);
+        view.endGL();
+    };
+    const Picture picture = draw(401, 401);
+    // The box is in its own colour, and the picture where it belongs: -0.5 to 0.5 is 150 to 250 of 400.
+    EXPECT_EQ(picture.at(150, 180), kDormantWire);
+    EXPECT_EQ(picture.at(140, 180), kBackground);
+    EXPECT_EQ(m_scene.scriptEditor().warnings(), 0);
+}
+
 TEST_F(ViewportTest, SaysWhatItCannotDo)
 {
     EXPECT_EQ(viewport::drawPicture(m_scene, {10, 10, "time1"}).outcome.text, "\"time1\" is not a camera");
