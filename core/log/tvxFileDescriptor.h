@@ -23,3 +23,7 @@ std::ptrdiff_t writeSome(int file, const char* data, std::size_t size) noexcept;
 bool close(int file) noexcept;
 
 } // namespace tarvox::crowd::descriptor
+
+#ifndef _WIN32
+#include "core/log/tvxFileDescriptorPosix.h"
+#endif

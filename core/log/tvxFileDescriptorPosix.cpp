@@ -16,15 +16,6 @@ int openForWriting(const char* path) noexcept
     return file;
 }
 
-std::ptrdiff_t writeSome(int file, const char* data, std::size_t size) noexcept
-{
-    ssize_t written = 0;
-    do
-        written = ::write(file, data, size);
-    while (written < 0 && errno == EINTR);
-    return written;
-}
-
 bool close(int file) noexcept
 {
     // Interrupted or not, the descriptor is released: it must not be closed again.

@@ -1,32 +1,33 @@
 // The time stamp.
 #include "core/log/tvxLogLine.h"
 
-#include "core/log/tvxNumberText.h"
-
 #include <algorithm>
+#include <charconv>
 
 namespace tarvox::crowd {
 
 namespace {
 
-void appendTwoDigits(TextBuffer& line, std::int64_t value)
+char* putTwoDigits(char* place, std::int64_t value)
 {
+    constexpr std::ptrdiff_t kMostDigits = 19;
     if (value < 10)
-        line.append('0');
-    appendDecimal(line, static_cast<long>(value));
+        *place++ = '0';
+    return std::to_chars(place, place + kMostDigits, value).ptr;
 }
 
 } // namespace
 
-void appendTimeStamp(TextBuffer& line, std::int64_t elapsedSeconds)
+char* putTimeStamp(char* place, std::int64_t elapsedSeconds)
 {
     const std::int64_t seconds = std::max<std::int64_t>(elapsedSeconds, 0);
-    appendTwoDigits(line, seconds / 3600);
-    line.append(':');
-    appendTwoDigits(line, seconds / 60 % 60);
-    line.append(':');
-    appendTwoDigits(line, seconds % 60);
-    line.append(' ');
+    place = putTwoDigits(place, seconds / 3600);
+    *place++ = ':';
+    place = putTwoDigits(place, seconds / 60 % 60);
+    *place++ = ':';
+    place = putTwoDigits(place, seconds % 60);
+    *place++ = ' ';
+    return place;
 }
 
 } // namespace tarvox::crowd

@@ -130,7 +130,7 @@ private:
     // Listeners of unregistered logs: one may be in the middle of a message.
     std::vector<std::unique_ptr<MayaLogEventListener>> m_retiredListeners;
     std::unique_ptr<std::ostream> m_standardOutput; // the console stream that the preference asks for
-    TextBuffer m_line;                              // storage that each line reuses
+    TextBuffer m_line;                              // storage that each long line reuses
     TextBuffer m_message;                           // the same for write()
 };
 

@@ -8,12 +8,17 @@
 #include <maya/MString.h>
 
 #include <cstdarg>
+#include <cstring>
 #include <ctime>
+#include <optional>
 #include <ostream>
 
 namespace tarvox::crowd {
 
 namespace {
+
+/// A line up to this is built in place; longer ones in storage that is kept from line to line.
+constexpr std::size_t kShortLine = 512;
 
 void showInScriptEditor(int severity, const char* line)
 {
@@ -38,23 +43,31 @@ void showInScriptEditor(int severity, const char* line)
 
 void MayaLogger::log(int severity, const char* text, bool /*flag*/)
 {
-    BorrowedText borrowed(m_line);
-    TextBuffer& line = borrowed.text;
-    appendLinePrefix(line, severity);
+    const std::size_t length = text ? std::strlen(text) : 0;
+    const std::size_t room = lineRoom(m_indentation, length);
+    char inPlace[kShortLine];
+    std::optional<BorrowedText> large;
+    char* const line = room <= sizeof inPlace ? inPlace : large.emplace(m_line).text.room(room);
+
+    char* end = putLinePrefix(line, severity);
     if (severity == core::kDebug) {
-        appendTimeStamp(line, static_cast<std::int64_t>(std::time(nullptr)) - m_startTime);
-        line.append(' ');
+        end = putTimeStamp(end, static_cast<std::int64_t>(std::time(nullptr)) - m_startTime);
+        *end++ = ' ';
     }
-    appendIndentation(line, m_indentation);
-    if (text)
-        line.append(text);
-    if (m_useScriptEditor)
-        showInScriptEditor(severity, line.c_str());
-    line.append('\n');
+    end = putIndentation(end, m_indentation);
+    if (length > 0)
+        std::memcpy(end, text, length);
+    end += length;
+    if (m_useScriptEditor) {
+        *end = '\0';
+        showInScriptEditor(severity, line);
+    }
+    *end++ = '\n';
+    const auto size = static_cast<std::size_t>(end - line);
     if (m_console)
-        m_console->write(line.data(), static_cast<std::streamsize>(line.size())).flush();
+        m_console->write(line, static_cast<std::streamsize>(size)).flush();
     if (m_file)
-        m_file->writeAtOnce(line.data(), line.size());
+        m_file->writeAtOnce(line, size);
 }
 
 void MayaLogger::log(int severity, const MString& text, bool flag)

@@ -40,12 +40,6 @@ public:
 
     void append(std::string_view text) { append(text.data(), text.size()); }
 
-    void append(std::size_t count, char character)
-    {
-        std::memset(room(count), character, count);
-        m_size += count;
-    }
-
     /// Room for `size` characters, and one more, behind the text; they become part of it by advance().
     char* room(std::size_t size)
     {

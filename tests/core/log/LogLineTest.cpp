@@ -12,16 +12,20 @@ namespace {
 
 std::string linePrefix(int severity)
 {
-    TextBuffer line;
-    appendLinePrefix(line, severity);
-    return line.c_str();
+    char line[sizeof(LinePrefix::text)];
+    return {line, putLinePrefix(line, severity)};
 }
 
 std::string timeStamp(std::int64_t seconds)
 {
-    TextBuffer line;
-    appendTimeStamp(line, seconds);
-    return line.c_str();
+    char line[kTimeStampRoom];
+    return {line, putTimeStamp(line, seconds)};
+}
+
+std::string indentation(int levels)
+{
+    char line[100];
+    return {line, putIndentation(line, levels)};
 }
 
 TEST(LogLine, HasAPrefixForEverySeverity)
@@ -59,14 +63,23 @@ TEST(LogLine, CountsATimeBeforeTheStartAsTheStart)
     EXPECT_EQ(timeStamp(-5), "00:00:00 ");
 }
 
+TEST(LogLine, HasRoomForTheLongestTimeStamp)
+{
+    // 2^63 - 1 seconds are 2562047788015215 hours, 30 minutes and 7 seconds.
+    EXPECT_EQ(timeStamp(INT64_MAX), "2562047788015215:30:07 ");
+    EXPECT_LT(timeStamp(INT64_MAX).size(), kTimeStampRoom) << "and for the blank behind it";
+}
+
 TEST(LogLine, IndentsByTwoBlanksPerLevel)
 {
-    TextBuffer line;
-    line.append('x');
-    appendIndentation(line, 0);
-    EXPECT_STREQ(line.c_str(), "x");
-    appendIndentation(line, 3);
-    EXPECT_STREQ(line.c_str(), "x      ");
+    EXPECT_EQ(indentation(0), "");
+    EXPECT_EQ(indentation(3), "      ");
+}
+
+TEST(LogLine, HasRoomForAllItsPartsAndItsEnd)
+{
+    const std::string most = linePrefix(0) + timeStamp(INT64_MAX) + " " + indentation(3) + "text";
+    EXPECT_GT(lineRoom(3, 4), most.size());
 }
 
 } // namespace

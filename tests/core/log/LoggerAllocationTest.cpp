@@ -47,7 +47,8 @@ protected:
     core::Log log;
     Sink sink;
     std::ostream stream;
-    const std::string text = std::string(500, 'x');
+    const std::string text = std::string(300, 'x');
+    const std::string longText = std::string(10'000, 'x');
 };
 
 TEST_F(LoggerAllocation, CountsAllocations)
@@ -58,6 +59,7 @@ TEST_F(LoggerAllocation, CountsAllocations)
 TEST_F(LoggerAllocation, OfALineIsNone)
 {
     EXPECT_EQ(allocationsOf([&] { logger.log(core::kInfo, text.c_str()); }), 0u);
+    EXPECT_EQ(allocationsOf([&] { logger.log(core::kInfo, longText.c_str()); }), 0u);
     EXPECT_EQ(allocationsOf([&] { logger.log(core::kDebug, text.c_str()); }), 0u);
 }
 

@@ -287,17 +287,43 @@ TEST_F(LoggerOutput, KeepsTextsOfSeveralLines)
     EXPECT_EQ(takeConsole(), "[TarvoxCrowd::INFO]\tone\ntwo\n");
 }
 
+TEST_F(LoggerOutput, GivesLinesOfAnyLengthWhole)
+{
+    logToFile();
+    std::string expected;
+    for (const std::size_t length :
+         {1, 400, 430, 431, 432, 433, 450, 490, 491, 492, 511, 512, 513, 100'000}) {
+        const std::string text(length, 'x');
+        logger.log(core::kInfo, text.c_str());
+        EXPECT_THAT(host.takeMessages(), ElementsAre("info|[TarvoxCrowd::INFO]\t" + text));
+        expected += "[TarvoxCrowd::INFO]\t" + text + "\n";
+    }
+    EXPECT_EQ(file(), expected);
+}
+
+TEST_F(LoggerOutput, IndentsByAnyDepth)
+{
+    logToFile();
+    logger.indent(core::kCritical, 1000);
+    logger.log(core::kError, "deep");
+    EXPECT_EQ(file(), "[TarvoxCrowd::ERROR]\t" + std::string(2000, ' ') + "deep\n");
+}
+
 TEST_F(LoggerOutput, ANestedMessageLeavesTheOuterOneAlone)
 {
     logToFile();
-    host.scene.scriptEditor().setListener([this](const tvxhost::engine::Message& message) {
+    const std::string more(1000, 'x');
+    host.scene.scriptEditor().setListener([&](const tvxhost::engine::Message& message) {
         if (message.text.find("outer") != std::string::npos)
-            logger.log(core::kInfo, "inner, of another length than the other one");
+            logger.log(core::kInfo, ("inner, of another length than the other one" + more).c_str());
     });
     logger.log(core::kInfo, "outer");
+    logger.log(core::kInfo, ("outer" + more).c_str());
     host.scene.scriptEditor().setListener(nullptr);
-    EXPECT_EQ(file(), "[TarvoxCrowd::INFO]\tinner, of another length than the other one\n"
-                      "[TarvoxCrowd::INFO]\touter\n");
+    const std::string inner =
+        "[TarvoxCrowd::INFO]\tinner, of another length than the other one" + more + "\n";
+    EXPECT_EQ(file(),
+              inner + "[TarvoxCrowd::INFO]\touter\n" + inner + "[TarvoxCrowd::INFO]\touter" + more + "\n");
 }
 
 TEST_F(LoggerOutput, ANestedTraceOfTheSameLogLeavesTheOuterOneAlone)
