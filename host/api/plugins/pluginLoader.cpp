@@ -256,6 +256,8 @@ Outcome PluginLoader::rename(Plugin& plugin, const std::string& wish, bool makeU
     m_scene.dataTypes().renamePlugin(before, plugin.name);
     for (engine::NodeType* type : types)
         type->plugin = plugin.name;
+    for (const std::string& command : plugin.commands)
+        m_scene.pluginCommands.at(command).plugin = plugin.name;
     return {};
 }
 

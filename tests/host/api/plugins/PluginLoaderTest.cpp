@@ -289,6 +289,17 @@ TEST_F(Loading, AUsersNameIsMadeUnique)
     EXPECT_TRUE(loader.unload("mine").outcome);
 }
 
+TEST_F(Loading, WhatAPluginRegisteredGoesByItsNewName)
+{
+    ASSERT_TRUE(loader.load("goodPlugin").outcome);
+    Plugin& loaded = *loader.findLoaded("goodPlugin");
+    ASSERT_TRUE(loader.rename(loaded, "better", false));
+    EXPECT_EQ("better", scene.types().find("doubler")->plugin);
+    EXPECT_EQ("better", scene.pluginCommands.at("greet").plugin);
+    EXPECT_EQ(2u, loader.nodeTypes(loaded).size());
+    EXPECT_TRUE(loader.unload("better").outcome);
+}
+
 TEST_F(Loading, AFaultInTheRegistrationReachesThePlugin)
 {
     faults::failCall("MFnPlugin::registerNode", 2, MStatus(MS::kFailure));
