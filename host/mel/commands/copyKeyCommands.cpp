@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <cmath>
 #include <iterator>
+#include <utility>
 
 namespace tvxhost::mel {
 
@@ -132,6 +133,7 @@ KeyClipboard copiedKeys(const CommandContext& context, const ParsedCommand& call
 {
     const KeyChoice choice(context, call);
     KeyClipboard copied;
+    const Node* last = nullptr;
     for (const SelectionItem& item : itemsOrSelection(context, call.names())) {
         CopiedObject object;
         Node& node = item.plug.isNull() ? *item.node : *item.plug.node();
@@ -142,7 +144,7 @@ KeyClipboard copiedKeys(const CommandContext& context, const ParsedCommand& call
         if (object.curves.empty())
             continue;
         // Several attributes of one node that are named one by one are one object.
-        if (!copied.empty() && copied.back().name == object.name)
+        if (std::exchange(last, &node) == &node)
             std::move(object.curves.begin(), object.curves.end(), std::back_inserter(copied.back().curves));
         else
             copied.push_back(std::move(object));

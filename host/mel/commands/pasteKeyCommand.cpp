@@ -103,7 +103,8 @@ Node* curveFor(const PasteCall& call, const Plug& plug, const CopiedCurve& piece
 }
 
 /// `former` is what the attribute was before it had a curve.
-void pasteOnto(const PasteCall& call, Node& curve, const CopiedCurve& piece, double former)
+void pasteOnto(const PasteCall& call, Node& curve, const CopiedCurve& piece, const KeySpan& range,
+               double former)
 {
     AnimCurveKeys target = engine::readCurve(curve);
     AnimCurveKeys keys = piece.keys;
@@ -112,7 +113,6 @@ void pasteOnto(const PasteCall& call, Node& curve, const CopiedCurve& piece, dou
     keys.setWeighted(target.isWeighted);
     const double valuePerUi = engine::valuePerUi(curve);
     scaleValues(keys, valuePerUi / piece.valuePerUi);
-    const KeySpan range = rangeOf(call, piece);
     Paste paste;
     paste.room = call.option.room;
     paste.fitting = call.option.fitting;
@@ -136,11 +136,13 @@ void pasteOnto(const PasteCall& call, Node& curve, const CopiedCurve& piece, dou
 
 int pasteOnPlug(const PasteCall& call, const Plug& plug, const CopiedCurve& piece)
 {
+    // Where there is no range to paste into, no curve is made.
+    const KeySpan range = rangeOf(call, piece);
     const double former = engine::readNumber(plug).value.asReal();
     Node* curve = curveFor(call, plug, piece);
     if (!curve)
         return 0;
-    pasteOnto(call, *curve, piece, former);
+    pasteOnto(call, *curve, piece, range, former);
     return 1;
 }
 
@@ -209,7 +211,7 @@ int pasteOnCurve(const PasteCall& call, Node& curve, const CopiedObject& object)
                                                          : pieceFor(object, fed.front());
     if (!piece || engine::isTimed(curve) != piece->isTimed)
         return 0;
-    pasteOnto(call, curve, *piece, 0.0);
+    pasteOnto(call, curve, *piece, rangeOf(call, *piece), 0.0);
     return 1;
 }
 

@@ -47,6 +47,17 @@ TEST_F(KeyClipboardCommandsTest, TheShapeUpToTheEndsOfTheRangeIsCopied)
     expectKeys("other.tx", {10, 12}, {1, 1.4});
 }
 
+TEST_F(KeyClipboardCommandsTest, NamesakesAreObjectsOfTheirOwn)
+{
+    run("createNode transform -n eye -p ball; createNode transform -n eye -p other");
+    key("ball|eye.tx", 1, 7);
+    key("other|eye.tx", 2, 8);
+    EXPECT_EQ(run("copyKey \"ball|eye.tx\" \"other|eye.tx\""), "2");
+    run("createNode transform -n left; createNode transform -n right; pasteKey left right");
+    expectKeys("left.tx", {1}, {7});
+    expectKeys("right.tx", {2}, {8});
+}
+
 TEST_F(KeyClipboardCommandsTest, WhatHasNoKeysLeavesTheClipboardAsItIs)
 {
     EXPECT_EQ(failure("pasteKey other"), "pasteKey: there is nothing on the clipboard");
@@ -150,6 +161,13 @@ TEST_F(KeyClipboardCommandsTest, APastedPieceMakesRoomAsItsOptionSays)
     EXPECT_EQ(failure("pasteKey -option over other"), "pasteKey: 'over' is no value of -option");
     EXPECT_EQ(failure("pasteKey -t 5 -option scaleMerge other"),
               "pasteKey: -option scaleMerge needs a range of times, as -time \"3:10\"");
+}
+
+TEST_F(KeyClipboardCommandsTest, APasteThatIsRefusedMakesNoCurve)
+{
+    run("copyKey ball");
+    failure("pasteKey -t 5 -option fitInsert other");
+    EXPECT_FALSE(exists("other_translateX"));
 }
 
 TEST_F(KeyClipboardCommandsTest, CopiesFollowEachOther)
