@@ -107,8 +107,12 @@ fs::path Workspace::folderNamed(const std::string& name) const
     const fs::path path(name);
     const auto isNamed = [&](const fs::path& project) { return project.filename() == path; };
     const auto project = std::find_if(known.begin(), known.end(), isNamed);
-    if (project != known.end())
-        return *project;
+    return project != known.end() ? *project : inDirectory(name);
+}
+
+fs::path Workspace::inDirectory(const std::string& name) const
+{
+    const fs::path path(name);
     return path.is_absolute() ? path : directory / path;
 }
 

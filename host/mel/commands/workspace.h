@@ -27,9 +27,10 @@ public:
     /// The same with variables replaced (%name%, $name, ${name}: the project's, or else of the environment;
     /// behind a tilde only the latter) and the home folder for ~ and ~user.
     std::filesystem::path expanded(const std::string& name) const;
-    /// A folder's name as scripts give it to make one or to open a project: a project that is known by that
-    /// name, or relative to the current folder.
+    /// A project's name as scripts give it: that of one that is known, or else of a folder.
     std::filesystem::path folderNamed(const std::string& name) const;
+    /// A folder's name: relative ones start at the current folder.
+    std::filesystem::path inDirectory(const std::string& name) const;
     /// A file below the root relative to it; others whole.
     std::string projectPath(const std::string& file) const;
     /// Writes the rules and variables.

@@ -230,7 +230,12 @@ void baseOn(CommandContext& context, const std::string& name)
         context.fail("workspace: there is no project '" + name + "'");
     Workspace own = project;
     project.open(folder);
-    readDefinition(context, folder);
+    try {
+        readDefinition(context, folder);
+    } catch (...) {
+        project = std::move(own);
+        throw;
+    }
     own.base = name;
     own.baseRules = std::move(project.rules);
     own.baseVariables = std::move(project.variables);
@@ -271,9 +276,9 @@ Value workspace(CommandContext& context, const ParsedCommand& call)
         call.has("newWorkspace") ? newProject(context, folder) : openProject(context, folder);
     }
     if (call.has("create"))
-        makeFolder(context, project.folderNamed(call.string("create")));
+        makeFolder(context, project.inDirectory(call.string("create")));
     if (call.has("directory"))
-        project.directory = project.folderNamed(call.string("directory"));
+        project.directory = project.inDirectory(call.string("directory"));
     if (call.has("update") || call.has("updateAll"))
         project.findProjects();
     if (call.has("baseWorkspace"))

@@ -160,6 +160,25 @@ TEST_F(WorkspaceCommandTest, aProjectTakesFromItsBaseWhatItHasNotItself)
     EXPECT_EQ(failure("workspace -bw \"nobody\""), "workspace: there is no project 'nobody'");
 }
 
+TEST_F(WorkspaceCommandTest, aBaseThatCannotBeReadLeavesTheProjectAsItWas)
+{
+    run("workspace -cr \"base\"; workspace -fr \"scene\" \"mine\"");
+    std::ofstream(path("base/workspace.mel")) << "workspace -fr \"scene\" \"theirs\";\nerror \"broken\";\n";
+    EXPECT_THAT(failure("workspace -bw \"base\""), testing::HasSubstr("broken"));
+    EXPECT_EQ(run("workspace -q -fn"), m_folder.path().string());
+    EXPECT_EQ(run("workspace -q -bw"), "default");
+    EXPECT_THAT(strings("workspace -q -fr"), ElementsAre("scene", "mine"));
+}
+
+TEST_F(WorkspaceCommandTest, aFolderMayBeCalledAsAProjectThatIsKnown)
+{
+    run("workspace -cr \"one\"; workspace -cr \"two\"; workspace -o \"one\"; workspace -o \"" + path("two") +
+        "\"");
+    run("workspace -cr \"one\"; workspace -dir \"one\"");
+    EXPECT_TRUE(std::filesystem::is_directory(path("two/one")));
+    EXPECT_EQ(run("workspace -q -dir"), path("two/one"));
+}
+
 TEST_F(WorkspaceCommandTest, makesFoldersAndKeepsTheCurrentOne)
 {
     run("workspace -cr \"scenes/old\"; workspace -dir \"scenes\"");
