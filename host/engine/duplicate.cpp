@@ -3,7 +3,9 @@
 
 #include "cell.h"
 #include "mesh.h"
+#include "objectGroups.h"
 #include "scene.h"
+#include "setMembers.h"
 #include "values.h"
 
 namespace tvxhost::engine {
@@ -44,6 +46,25 @@ void copyAttributes(Node& from, Node& to)
     }
 }
 
+bool isForDeformer(Node& set)
+{
+    const Expected<Plug> users = set.findPlug("usedBy");
+    return users && isFedAnywhere(users.value);
+}
+
+/// Puts the components of a copy into the sets that have those of the original; not where they are deformed.
+Outcome joinSetsInParts(const Plug& group, DagNode& copy)
+{
+    for (const Plug& member : destinationsOf(group)) {
+        Node& set = *member.node();
+        if (!isSet(set) || isForDeformer(set))
+            continue;
+        if (Outcome joined = addToGroups(set, DagPath::firstTo(copy), groupComponents(group)); !joined)
+            return joined;
+    }
+    return {};
+}
+
 Outcome joinSets(DagNode& original, DagNode& copy)
 {
     const Expected<Plug> from = original.findPlug("instObjGroups[0]");
@@ -51,12 +72,16 @@ Outcome joinSets(DagNode& original, DagNode& copy)
     if (!from || !to)
         return {};
     for (const Plug& member : destinationsOf(from.value)) {
-        if (!member.isElement() || !member.node()->type().isA("objectSet"))
+        if (!member.isElement() || !isSet(*member.node()))
             continue;
         Scene& scene = copy.scene();
         if (Outcome joined = scene.connect(to.value, scene.nextAvailable(member.array())); !joined)
             return joined;
     }
+    const Plug groups = from.value.child(0);
+    for (const int i : existingElements(groups))
+        if (Outcome joined = joinSetsInParts(groups.element(i), copy); !joined)
+            return joined;
     return {};
 }
 

@@ -1,9 +1,11 @@
 // Members of sets; see setMembers.h.
 #include "setMembers.h"
 
+#include "objectGroups.h"
 #include "observers.h"
 
 #include <algorithm>
+#include <optional>
 
 namespace tvxhost::engine {
 
@@ -22,7 +24,25 @@ SelectionItem memberOf(const Plug& source)
     return item;
 }
 
-/// DAG members come by their instance's object group, others by their message.
+/// What a source of a set's element stands for: a whole object, the components of a group, or nothing yet.
+void addMembersOf(const Plug& source, Members& members)
+{
+    if (isFutureGroup(source))
+        return;
+    SelectionItem item = memberOf(source);
+    if (!isObjectGroup(source)) {
+        members.push_back(item);
+        return;
+    }
+    const Components components = groupComponents(source);
+    // What the shape cannot tell the numbers of is named as it was written.
+    for (std::string& text : components.empty() ? groupTexts(source) : components.texts()) {
+        item.components = std::move(text);
+        members.push_back(item);
+    }
+}
+
+/// Whole DAG members come by their instance's element of instObjGroups, others by their message.
 Plug memberSource(const SelectionItem& member)
 {
     const char* name = member.isDag() ? "instObjGroups" : "message";
@@ -47,6 +67,72 @@ Plug elementFedBy(const Plug& source, const Plug& array)
     return {};
 }
 
+/// The element that has a whole object.
+Plug wholeElement(Node& set, const SelectionItem& member)
+{
+    const Plug source = memberSource(member);
+    const Plug array = memberArray(set, member);
+    return source.isNull() || array.isNull() ? Plug() : elementFedBy(source, array);
+}
+
+Outcome notAMember(Node& set, const SelectionItem& member)
+{
+    return {Reason::notFound, "'" + member.name() + "' is not a member of '" + set.name() + "'"};
+}
+
+/// The components that an item names, those that there are; empty when there are none.
+Components componentsOf(const SelectionItem& item)
+{
+    DagNode& shape = *item.path.node();
+    const std::optional<Components> named = parseComponents(shape, item.components);
+    return named ? named->common(allComponents(shape, named->kind())) : Components();
+}
+
+Outcome addWhole(Node& set, const SelectionItem& member)
+{
+    const Plug source = memberSource(member);
+    const Plug array = memberArray(set, member);
+    if (source.isNull() || array.isNull())
+        return {Reason::wrongKind, "'" + member.name() + "' cannot be a member of '" + set.name() + "'"};
+    if (member.isDag())
+        if (Outcome dissolved = dissolveGroups(set, member.path); !dissolved)
+            return dissolved;
+    Scene& scene = set.scene();
+    return scene.connect(source, scene.nextAvailable(array));
+}
+
+Outcome addComponents(Node& set, const SelectionItem& member)
+{
+    const Components components = componentsOf(member);
+    if (components.empty())
+        return {Reason::wrongKind, "No object matches name: " + member.name()};
+    return addToGroups(set, member.path, components);
+}
+
+Outcome removeWhole(Node& set, const SelectionItem& member)
+{
+    if (const Plug element = wholeElement(set, member); !element.isNull())
+        return set.scene().disconnect(sourceOf(element), element);
+    if (!member.isDag() || groupsIn(set, member.path).empty())
+        return notAMember(set, member);
+    return dissolveGroups(set, member.path);
+}
+
+Outcome removeComponents(Node& set, const SelectionItem& member)
+{
+    const Components leaving = componentsOf(member);
+    if (const Plug element = wholeElement(set, member); !element.isNull() && !leaving.empty()) {
+        if (Outcome cut = set.scene().disconnect(sourceOf(element), element); !cut)
+            return cut;
+        const Components all = allComponents(*member.path.node(), leaving.kind());
+        if (Outcome split = addToGroups(set, member.path, all); !split)
+            return split;
+    }
+    if (membershipOf(set, member) == Membership::none)
+        return notAMember(set, member);
+    return removeFromGroups(set, member.path, leaving);
+}
+
 /// Tells that a set was modified, when it was.
 Outcome told(Node& set, Outcome modified)
 {
@@ -62,40 +148,46 @@ bool isSet(const Node& node)
     return node.type().isA("objectSet");
 }
 
-std::vector<SelectionItem> setMembers(Node& set)
+Members setMembers(Node& set)
 {
-    std::vector<SelectionItem> members;
+    Members members;
     for (const char* name : {"dagSetMembers", "dnSetMembers"}) {
         const auto array = set.findPlug(name);
         if (!array)
             continue;
         for (const int index : existingElements(array.value))
             if (const Plug source = sourceOf(array.value.element(index)); !source.isNull())
-                members.push_back(memberOf(source));
+                addMembersOf(source, members);
     }
     return members;
 }
 
+Membership membershipOf(Node& set, const SelectionItem& item)
+{
+    if (!wholeElement(set, item).isNull())
+        return Membership::wholly;
+    const std::vector<Plug> groups = item.isDag() ? groupsIn(set, item.path) : std::vector<Plug>();
+    if (item.components.empty())
+        return groups.empty() ? Membership::none : Membership::partly;
+    const Components asked = componentsOf(item);
+    Components left = asked;
+    for (const Plug& group : groups)
+        left = left.without(groupComponents(group));
+    if (left.count() == asked.count())
+        return Membership::none;
+    return left.empty() ? Membership::wholly : Membership::partly;
+}
+
 Outcome addSetMember(Node& set, const SelectionItem& member)
 {
-    const Plug source = memberSource(member);
-    const Plug array = memberArray(set, member);
-    if (source.isNull() || array.isNull())
-        return {Reason::wrongKind, "'" + member.name() + "' cannot be a member of '" + set.name() + "'"};
-    if (!elementFedBy(source, array).isNull())
+    if (membershipOf(set, member) == Membership::wholly)
         return {};
-    Scene& scene = set.scene();
-    return told(set, scene.connect(source, scene.nextAvailable(array)));
+    return told(set, member.components.empty() ? addWhole(set, member) : addComponents(set, member));
 }
 
 Outcome removeSetMember(Node& set, const SelectionItem& member)
 {
-    const Plug source = memberSource(member);
-    const Plug array = memberArray(set, member);
-    const Plug element = source.isNull() || array.isNull() ? Plug() : elementFedBy(source, array);
-    if (element.isNull())
-        return {Reason::notFound, "'" + member.name() + "' is not a member of '" + set.name() + "'"};
-    return told(set, set.scene().disconnect(source, element));
+    return told(set, member.components.empty() ? removeWhole(set, member) : removeComponents(set, member));
 }
 
 } // namespace tvxhost::engine

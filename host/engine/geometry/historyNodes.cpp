@@ -58,7 +58,7 @@ Computed computeHistory(Node& node, const Plug& plug, const HistoryRow& row)
     if (plug.attribute()->longName != row.output)
         return Computed::unknown;
     Ref<Data> data = readData(plugOf(node, row.input)).value;
-    if (!data || data->type() != DataType::mesh)
+    if (!data || (row.change && data->type() != DataType::mesh))
         return Computed::unknown;
     if (row.change) {
         data = data->clone();

@@ -4,6 +4,7 @@
 #include "sceneCommands.h"
 
 #include "engine/mesh.h"
+#include "engine/objectGroups.h"
 
 #include <algorithm>
 #include <string_view>
@@ -106,13 +107,15 @@ void addAbove(Node& node, std::vector<Node*>& nodes)
 }
 
 /// The geometry is computed once more, so that it stays when what made it goes.
-void addHistory(Node& node, Doomed& doomed)
+void addHistory(const CommandContext& context, Node& node, Doomed& doomed)
 {
     const std::vector<Node*> history = geometryHistory(node);
     if (history.empty())
         return;
-    if (DagNode* dag = node.asDag())
+    if (DagNode* dag = node.asDag()) {
         static_cast<void>(engine::meshOf(*dag));
+        require(context, engine::settleGroups(*dag));
+    }
     doomed.insert(doomed.end(), history.begin(), history.end());
 }
 
@@ -130,7 +133,7 @@ Doomed partsOf(const CommandContext& context, const std::vector<SelectionItem>& 
     Doomed doomed;
     for (Node* node : nodes) {
         if (call.has("constructionHistory"))
-            addHistory(*node, doomed);
+            addHistory(context, *node, doomed);
         for (const DriverFlag& row : kDrivers)
             if (call.has(row.longName))
                 addDrivers(*node, row, call, doomed);

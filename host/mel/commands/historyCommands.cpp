@@ -24,8 +24,11 @@ struct Step
     int level = 0;
 };
 
+/// Nodes that pass any geometry on do so through generic attributes.
 bool isGeometry(const Attribute& attribute)
 {
+    if (attribute.kind == engine::AttributeKind::generic)
+        return true;
     switch (attribute.dataType) {
     case DataType::mesh:
     case DataType::lattice:

@@ -1,5 +1,6 @@
 // ls: the objects of the scene.
 #include "commandSupport.h"
+#include "memberLists.h"
 #include "sceneCommands.h"
 
 #include "engine/glob.h"
@@ -246,24 +247,6 @@ bool isListed(const SelectionItem& item, const ParsedCommand& call)
            isOfTypeFlags(*item.node, call) && isOfTypes(*item.node, call);
 }
 
-/// "vtx[0:2]" as one item per component.
-std::vector<std::string> flattened(const SelectionItem& item, bool fullPath)
-{
-    const std::string name = item.name(fullPath);
-    const std::size_t colon = item.components.find(':');
-    const std::size_t open = item.components.find('[');
-    if (colon == std::string::npos || open == std::string::npos ||
-        item.components.find('[', open + 1) != std::string::npos)
-        return {name};
-    const int first = std::atoi(item.components.c_str() + open + 1);
-    const int last = std::atoi(item.components.c_str() + colon + 1);
-    const std::string stem = name.substr(0, name.rfind('[') + 1);
-    std::vector<std::string> names;
-    for (int i = first; i <= last; ++i)
-        names.push_back(stem + std::to_string(i) + "]");
-    return names;
-}
-
 std::string withShortAttributes(const engine::Plug& plug, bool isLong)
 {
     engine::PlugNameStyle style;
@@ -281,8 +264,9 @@ std::vector<std::string> namesOf(SelectionItem item, const ParsedCommand& call)
         item.components.clear();
     }
     const bool isLong = call.has("long") || call.has("absoluteName");
-    std::vector<std::string> names =
-        call.has("flatten") ? flattened(item, isLong) : std::vector<std::string>{item.name(isLong)};
+    std::vector<std::string> names;
+    for (const SelectionItem& one : call.has("flatten") ? flattened({item}) : Members{item})
+        names.push_back(one.name(isLong));
     if (call.has("shortNames") && !item.plug.isNull())
         names = {withShortAttributes(item.plug, isLong)};
     // Of a path each part is absolute already.

@@ -1,5 +1,6 @@
 // select, hilite: what is active.
 #include "commandSupport.h"
+#include "memberLists.h"
 #include "sceneCommands.h"
 #include "setMembers.h"
 
@@ -69,10 +70,51 @@ std::vector<SelectionItem> wanted(CommandContext& context, const ParsedCommand& 
     return items;
 }
 
-void addAll(SelectionList& list, const std::vector<SelectionItem>& items)
+bool hasComponents(const std::vector<SelectionItem>& items)
 {
-    for (const SelectionItem& item : items)
+    return std::any_of(items.begin(), items.end(),
+                       [](const SelectionItem& item) { return !item.components.empty(); });
+}
+
+/// Components of one object are together, in runs.
+SelectionList listOf(const std::vector<SelectionItem>& items)
+{
+    SelectionList list;
+    for (const SelectionItem& item : hasComponents(items) ? merged(items) : items)
         list.add(item);
+    return list;
+}
+
+bool isSelected(const SelectionList& list, const SelectionItem& item)
+{
+    return item.components.empty() ? list.contains(item) : !common({item}, list.items()).empty();
+}
+
+void deselect(SelectionList& list, const SelectionItem& item)
+{
+    if (item.components.empty())
+        list.remove(item);
+    else
+        list = listOf(without(list.items(), {item}));
+}
+
+/// One list after the other.
+std::vector<SelectionItem> joined(std::vector<SelectionItem> first, const std::vector<SelectionItem>& second)
+{
+    first.insert(first.end(), second.begin(), second.end());
+    return first;
+}
+
+/// What is selected once the items are added to it or taken out.
+SelectionList changed(SelectionList list, const std::vector<SelectionItem>& items, const ParsedCommand& call)
+{
+    std::vector<SelectionItem> added;
+    for (const SelectionItem& item : items)
+        if (call.has("deselect") || (call.has("toggle") && isSelected(list, item)))
+            deselect(list, item);
+        else
+            added.push_back(item);
+    return listOf(joined(list.items(), added));
 }
 
 Value select(CommandContext& context, const ParsedCommand& call)
@@ -88,22 +130,13 @@ Value select(CommandContext& context, const ParsedCommand& call)
             std::remove_if(items.begin(), items.end(),
                            [](const SelectionItem& item) { return !item.isDag() || !item.path.isVisible(); }),
             items.end());
-    SelectionList list;
-    if (call.has("addFirst")) {
-        addAll(list, items);
-        addAll(list, scene.selection().items());
-    } else if (call.has("add") || call.has("deselect") || call.has("toggle")) {
-        list = scene.selection();
-        for (const SelectionItem& item : items) {
-            if (call.has("deselect") || (call.has("toggle") && list.contains(item)))
-                list.remove(item);
-            else
-                list.add(item);
-        }
-    } else {
-        addAll(list, items);
-    }
-    scene.setSelection(std::move(list));
+    const SelectionList& before = scene.selection();
+    if (call.has("addFirst"))
+        scene.setSelection(listOf(joined(items, before.items())));
+    else if (call.has("add") || call.has("deselect") || call.has("toggle"))
+        scene.setSelection(changed(before, items, call));
+    else
+        scene.setSelection(listOf(items));
     return {};
 }
 

@@ -43,6 +43,14 @@ Members membersOf(const ParsedCommand& call, Node& set)
     return members;
 }
 
+/// The objects of members, each once.
+Members nodesOf(Members members)
+{
+    for (SelectionItem& member : members)
+        member.components.clear();
+    return merged(members);
+}
+
 /// Attributes of sets that are made, told and changed by their flags.
 const AttributeFlags& kAttributes()
 {
@@ -61,7 +69,7 @@ Value query(CommandContext& context, const ParsedCommand& call)
         context.fail("'sets' in query mode needs one set");
     Node& set = setNamed(context, names.front());
     if (call.has("size"))
-        return Value(static_cast<int>(membersOf(call, set).size()));
+        return Value(static_cast<int>(flattened(membersOf(call, set)).size()));
     if (call.has("renderable"))
         return Value(set.type().isA("shadingEngine"));
     for (const ComponentSet& row : kComponentSets)
@@ -69,7 +77,8 @@ Value query(CommandContext& context, const ParsedCommand& call)
             return Value(isMadeFor(context, set, row));
     if (const auto asked = queriedAttribute(context, call, kAttributes(), set))
         return *asked;
-    return Value(namesOf(membersOf(call, set)));
+    const Members members = membersOf(call, set);
+    return Value(namesOf(call.has("nodesOnly") ? nodesOf(members) : merged(members)));
 }
 
 /// The objects as members of a set.
@@ -84,10 +93,18 @@ Members meant(Node& set, const Members& items)
 
 Value areMembers(const CommandContext&, const ParsedCommand&, Node& set, const Members& items)
 {
-    const Members members = setMembers(set);
     const Members wanted = meant(set, items);
-    return Value(std::all_of(wanted.begin(), wanted.end(),
-                             [&](const SelectionItem& item) { return isAmong(members, item); }));
+    return Value(std::all_of(wanted.begin(), wanted.end(), [&](const SelectionItem& item) {
+        return membershipOf(set, item) == Membership::wholly;
+    }));
+}
+
+Value isAnyMember(const CommandContext&, const ParsedCommand&, Node& set, const Members& items)
+{
+    const Members wanted = meant(set, items);
+    return Value(std::any_of(wanted.begin(), wanted.end(), [&](const SelectionItem& item) {
+        return membershipOf(set, item) != Membership::none;
+    }));
 }
 
 /// A flag whose value is the set; what is named beside it are objects.
@@ -123,6 +140,7 @@ constexpr SetChange kChanges[] = {
      addMembers<Entry::forced>},
     {"rm", "remove", "takes the objects out of this set", removeMembers},
     {"im", "isMember", "whether the objects are all in this set", areMembers},
+    {"am", "anyMember", "whether one of the objects, or some component of it, is in this set", isAnyMember},
 };
 
 // Operations on sets
@@ -133,52 +151,54 @@ Members membersOf(const ParsedCommand& call, const SelectionItem& item)
     return item.node->type().isA("objectSet") ? membersOf(call, *item.node) : Members{item};
 }
 
+/// The members of each set or object that a call names, or that is selected.
+std::vector<Members> othersOf(const CommandContext& context, const ParsedCommand& call)
+{
+    std::vector<Members> others;
+    for (const SelectionItem& item : itemsOrSelection(context, call.names()))
+        others.push_back(membersOf(call, item));
+    return others;
+}
+
+void append(const Members& more, Members& members)
+{
+    members.insert(members.end(), more.begin(), more.end());
+}
+
 /// A flag that names one set, which is joined with those that the call names.
 struct SetOperation
 {
     const char* shortName;
     const char* longName;
     const char* help;
-    /// Whether a member of the first is in the result, from whether it is in one, and in all, of the others.
-    bool (*keeps)(bool isInOne, bool isInAll);
-    bool takesOthers; ///< members of the others are in the result too
+    /// Brings the members of another set into the result so far.
+    void (*with)(Members& result, const Members& other);
 };
 
 constexpr SetOperation kOperations[] = {
-    {"un", "union", "the members of this set and of the others", [](bool, bool) { return true; }, true},
+    {"un", "union", "the members of this set and of the others",
+     [](Members& result, const Members& other) { append(without(other, result), result); }},
     {"int", "intersection", "the members of this set that are in all others",
-     [](bool, bool isInAll) { return isInAll; }, false},
+     [](Members& result, const Members& other) { result = common(result, other); }},
     {"sub", "subtract", "the members of this set that are in no other",
-     [](bool isInOne, bool) { return !isInOne; }, false},
+     [](Members& result, const Members& other) { result = without(result, other); }},
 };
 
 Value operate(const CommandContext& context, const ParsedCommand& call, const SetOperation& operation)
 {
-    std::vector<Members> others;
-    for (const SelectionItem& item : itemsOrSelection(context, call.names()))
-        others.push_back(membersOf(call, item));
-    Members result;
-    for (const SelectionItem& member : membersOf(call, setNamed(context, call.string(operation.longName)))) {
-        const auto has = [&](const Members& other) { return isAmong(other, member); };
-        if (operation.keeps(std::any_of(others.begin(), others.end(), has),
-                            std::all_of(others.begin(), others.end(), has)))
-            result.push_back(member);
-    }
+    const std::vector<Members> others = othersOf(context, call);
+    Members result = membersOf(call, setNamed(context, call.string(operation.longName)));
     for (const Members& other : others)
-        for (const SelectionItem& member : other)
-            if (operation.takesOthers && !isAmong(result, member))
-                result.push_back(member);
-    return Value(namesOf(result));
+        operation.with(result, other);
+    return Value(namesOf(merged(result)));
 }
 
 Value isIntersecting(const CommandContext& context, const ParsedCommand& call)
 {
     const Members members = membersOf(call, setNamed(context, call.string("isIntersecting")));
-    for (const SelectionItem& item : itemsOrSelection(context, call.names()))
-        for (const SelectionItem& member : membersOf(call, item))
-            if (isAmong(members, member))
-                return Value(1);
-    return Value(0);
+    const std::vector<Members> others = othersOf(context, call);
+    return Value(std::any_of(others.begin(), others.end(),
+                             [&](const Members& other) { return !common(other, members).empty(); }));
 }
 
 /// What a set holds with the members of the sets in it instead of these.
@@ -190,7 +210,7 @@ void addFlattened(Node& set, std::vector<const Node*>& seen, Members& members)
     for (const SelectionItem& member : setMembers(set))
         if (member.node->type().isA("objectSet"))
             addFlattened(*member.node, seen, members);
-        else if (!isAmong(members, member))
+        else
             members.push_back(member);
 }
 
@@ -200,7 +220,7 @@ Value flatten(const CommandContext& context, Node& set)
     Members flat;
     addFlattened(set, seen, flat);
     for (const SelectionItem& member : setMembers(set))
-        if (!isAmong(flat, member))
+        if (member.node->type().isA("objectSet"))
             require(context, removeSetMember(set, member));
     for (const SelectionItem& member : flat)
         require(context, addSetMember(set, member));
@@ -315,7 +335,7 @@ void registerSetCommands(CommandTable& table)
         valueFlag("sp", "split", A::name, "moves the objects from this set to a new one"),
         valueFlag("ii", "isIntersecting", A::name, "whether this set shares a member with the others"),
         switchFlag("s", "size", "how many members there are", kQuery),
-        switchFlag("no", "nodesOnly", "objects, not their components (always so)", kQuery),
+        switchFlag("no", "nodesOnly", "objects, not their components", kQuery),
         switchFlag("ni", "noIntermediate", "leaves intermediate objects out", kCreateQuery),
         switchFlag("nw", "noWarnings", "does not say what -include leaves out", kCreateEdit),
         refusedFlag("l", "layer", "obsolete"),

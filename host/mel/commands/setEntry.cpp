@@ -4,6 +4,8 @@
 #include "attributeFlags.h"
 #include "setMembers.h"
 
+#include "engine/components.h"
+
 #include <algorithm>
 #include <optional>
 
@@ -53,16 +55,30 @@ std::vector<Node*> rivalsOf(Node& set)
     return rivals;
 }
 
+/// The kind of components that an item names; empty for a whole object.
+std::string kindOf(const SelectionItem& item)
+{
+    return item.components.substr(0, item.components.find('['));
+}
+
+bool isOfKind(const SelectionItem& item, const std::vector<std::string>& kinds)
+{
+    return std::find(kinds.begin(), kinds.end(), kindOf(item)) != kinds.end();
+}
+
 /// Why an object cannot be in a set, whatever is in the other sets.
 std::optional<std::string> objection(const CommandContext& context, Node& set, const SelectionItem& item)
 {
     const std::string cannot = "'" + item.name() + "' cannot be in '" + set.name() + "'";
-    if (!item.components.empty() || !item.plug.isNull())
-        return cannot + ": sets hold whole objects here";
+    if (!item.plug.isNull())
+        return cannot + ": sets hold objects and components here";
+    if (!item.components.empty() && !engine::parseComponents(*item.path.node(), item.components))
+        return cannot + ": sets hold vertices, edges and faces of meshes and points of curves here";
     for (const ComponentSet& row : kComponentSets)
-        if (isMadeFor(context, set, row))
+        if (isMadeFor(context, set, row) && !isOfKind(item, row.kinds))
             return cannot + ", which holds only " + row.what;
-    if (set.type().isA("shadingEngine") && !isRenderable(*item.node))
+    const bool isShadedPart = item.components.empty() || isOfKind(item, {"f"});
+    if (set.type().isA("shadingEngine") && !(isRenderable(*item.node) && isShadedPart))
         return cannot + ": it cannot be rendered";
     return std::nullopt;
 }
@@ -82,7 +98,7 @@ void enterOne(const CommandContext& context, Node& set, const SelectionItem& ite
         return;
     }
     for (Node* rival : rivalsOf(set)) {
-        if (!isAmong(setMembers(*rival), item))
+        if (membershipOf(*rival, item) == Membership::none)
             continue;
         if (entry != Entry::forced) {
             refuse(context, entry,
@@ -98,20 +114,15 @@ void enterOne(const CommandContext& context, Node& set, const SelectionItem& ite
 } // namespace
 
 const std::vector<ComponentSet> kComponentSets = {
-    {"v", "vertices", "verticesOnlySet", "vertices"},
-    {"eg", "edges", "edgesOnlySet", "edges"},
-    {"fc", "facets", "facetsOnlySet", "facets"},
-    {"ep", "editPoints", "editPointsOnlySet", "edit points"},
+    {"v", "vertices", "verticesOnlySet", "vertices", {"vtx", "cv"}},
+    {"eg", "edges", "edgesOnlySet", "edges", {"e"}},
+    {"fc", "facets", "facetsOnlySet", "facets", {"f"}},
+    {"ep", "editPoints", "editPointsOnlySet", "edit points", {"ep"}},
 };
 
 bool isMadeFor(const CommandContext& context, Node& set, const ComponentSet& row)
 {
     return valueOf(context, engine::readNumber(plugOf(context, set, row.attribute))).asReal() != 0.0;
-}
-
-bool isAmong(const Members& members, const SelectionItem& wanted)
-{
-    return std::find(members.begin(), members.end(), wanted) != members.end();
 }
 
 Members membersMeant(Node& set, const SelectionItem& item)

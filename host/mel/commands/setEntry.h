@@ -2,12 +2,9 @@
 #pragma once
 
 #include "commandSupport.h"
+#include "memberLists.h"
 
 namespace tvxhost::mel {
-
-using Members = std::vector<engine::SelectionItem>;
-
-bool isAmong(const Members& members, const engine::SelectionItem& wanted);
 
 /// A set that holds one sort of components only.
 struct ComponentSet
@@ -16,6 +13,7 @@ struct ComponentSet
     const char* longName;
     const char* attribute;
     const char* what;
+    std::vector<std::string> kinds; ///< of the components, as they are named
 };
 extern const std::vector<ComponentSet> kComponentSets;
 bool isMadeFor(const CommandContext& context, engine::Node& set, const ComponentSet& row);

@@ -6,6 +6,8 @@
 namespace tvxhost::mel {
 
 using engine::addSetMember;
+using engine::Membership;
+using engine::membershipOf;
 using engine::removeSetMember;
 using engine::setMembers;
 

@@ -93,11 +93,8 @@ TEST_F(SetCommandsTest, setsOfComponentsSaySoAndTakeNoObjects)
                   std::string("'a' cannot be in 'parts', which holds only ") + what);
         run("delete parts");
     }
-    run("polyCube -n \"one\"");
-    EXPECT_EQ(failure("sets -add left \"one.f[0]\""),
-              "'one.f[0]' cannot be in 'left': sets hold whole objects here");
     EXPECT_EQ(failure("sets -add left a.tx"),
-              "'a.translateX' cannot be in 'left': sets hold whole objects here");
+              "'a.translateX' cannot be in 'left': sets hold objects and components here");
     EXPECT_EQ(failure("sets -layer"), "Flag '-layer' of sets is refused: obsolete");
 }
 

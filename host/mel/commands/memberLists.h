@@ -1,0 +1,22 @@
+// Lists of members: what two have in common, what is left, runs of components joined.
+#pragma once
+
+#include "engine/selection.h"
+
+#include <vector>
+
+namespace tvxhost::mel {
+
+using Members = std::vector<engine::SelectionItem>;
+
+/// Each object once, its components of a kind together where the first of them is: one item per run.
+Members merged(const Members& items);
+/// What of the items is among others, component by component. An object has its components, not the other
+/// way.
+Members common(const Members& items, const Members& others);
+Members without(const Members& items, const Members& others);
+
+/// One item per component.
+Members flattened(const Members& items);
+
+} // namespace tvxhost::mel
