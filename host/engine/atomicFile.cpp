@@ -8,6 +8,7 @@
 #include <system_error>
 
 #include <fcntl.h>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -71,31 +72,79 @@ Outcome unreadable(const fs::path& file, const char* why)
     return {Reason::failed, "Cannot read file \"" + file.string() + "\": " + why};
 }
 
-/// A name in the target's folder. A target may have a name as long as a name can be.
-fs::path temporaryBeside(const fs::path& target)
+constexpr std::string_view kTemporaryEnding = ".tmp";
+
+/// How the names of a target's temporary files begin. A target may have a name as long as a name can be.
+std::string temporaryStart(const fs::path& target)
 {
     constexpr std::size_t kLongestPart = 200;
-    const std::string part = target.filename().string().substr(0, kLongestPart);
-    return target.parent_path() / (part + "." + std::to_string(std::random_device()()) + ".tmp");
+    return target.filename().string().substr(0, kLongestPart) + ".";
 }
 
-/// An open file that is removed again unless it was kept.
+/// A name in the target's folder.
+fs::path temporaryBeside(const fs::path& target)
+{
+    return target.parent_path() /
+           (temporaryStart(target) + std::to_string(std::random_device()()) + std::string(kTemporaryEnding));
+}
+
+bool isTemporaryName(std::string_view name, std::string_view start)
+{
+    if (name.size() <= start.size() + kTemporaryEnding.size() || name.substr(0, start.size()) != start ||
+        name.substr(name.size() - kTemporaryEnding.size()) != kTemporaryEnding)
+        return false;
+    name.remove_prefix(start.size());
+    name.remove_suffix(kTemporaryEnding.size());
+    return name.find_first_not_of("0123456789") == std::string_view::npos;
+}
+
+/// Removes what processes left behind that ended while they wrote the same target. Those that still write
+/// hold a lock.
+void removeLeftovers(const fs::path& target)
+{
+    const std::string start = temporaryStart(target);
+    std::error_code ignored;
+    const fs::path folder = target.has_parent_path() ? target.parent_path() : fs::path(".");
+    for (const fs::directory_entry& entry : fs::directory_iterator(folder, ignored)) {
+        if (!isTemporaryName(entry.path().filename().string(), start) || !entry.is_regular_file(ignored))
+            continue;
+        const int file = ::open(entry.path().c_str(), O_RDONLY | O_CLOEXEC | O_NOFOLLOW);
+        if (file < 0)
+            continue;
+        if (::flock(file, LOCK_EX | LOCK_NB) == 0)
+            ::unlink(entry.path().c_str());
+        ::close(file);
+    }
+}
+
+/// A new file that is locked, -1 on failure. Between making and locking it another process may take it for a
+/// leftover: it is then made again.
+int makeLocked(const char* path)
+{
+    for (;;) {
+        const int file = ::open(path, O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
+        struct stat state = {};
+        if (file < 0 || ::flock(file, LOCK_EX) != 0 || ::fstat(file, &state) != 0 || state.st_nlink > 0)
+            return file;
+        ::close(file);
+    }
+}
+
+/// An open file that is removed again unless it was kept. It stays locked until it has its name.
 class TemporaryFile
 {
 public:
     explicit TemporaryFile(const fs::path& target)
-        : m_path(temporaryBeside(target).string()),
-          m_file(::open(m_path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666))
+        : m_path(temporaryBeside(target).string()), m_file(makeLocked(m_path.c_str()))
     {
     }
     ~TemporaryFile()
     {
         if (m_file < 0)
             return;
-        if (!m_closed)
-            ::close(m_file);
         if (!m_kept)
             ::unlink(m_path.c_str());
+        ::close(m_file);
     }
     TemporaryFile(const TemporaryFile&) = delete;
     TemporaryFile& operator=(const TemporaryFile&) = delete;
@@ -113,12 +162,7 @@ public:
         }
         return true;
     }
-    bool close()
-    {
-        const bool synced = ::fsync(m_file) == 0;
-        m_closed = true;
-        return ::close(m_file) == 0 && synced;
-    }
+    bool sync() const { return ::fsync(m_file) == 0; }
     void takePermissions(fs::perms permissions)
     {
         std::error_code ignored;
@@ -133,16 +177,35 @@ public:
 private:
     std::string m_path;
     int m_file;
-    bool m_closed = false;
     bool m_kept = false;
 };
 
-/// Where a symbolic link points to: the link itself is to stay.
+/// Where a symbolic link points to, whether there is a file or not: the link itself is to stay.
 fs::path followed(const fs::path& path)
 {
+    constexpr int kMostLinks = 40;
+    fs::path target = path;
     std::error_code error;
-    const fs::path real = fs::canonical(path, error);
-    return error ? path : real;
+    for (int i = 0; i < kMostLinks && fs::is_symlink(target, error); ++i)
+        target = target.parent_path() / fs::read_symlink(target, error);
+    return target;
+}
+
+/// Why what is there may not be replaced; a success when it may be.
+Outcome checkReplaceable(const fs::path& path, const fs::path& target)
+{
+    std::error_code error;
+    const fs::file_status old = fs::status(target, error);
+    if (old.type() == fs::file_type::not_found)
+        return {};
+    if (old.type() == fs::file_type::none) {
+        errno = error.value();
+        return failure(path, "write");
+    }
+    if (!fs::is_regular_file(old))
+        return {Reason::failed, "cannot replace '" + path.string() + "': it is not a file"};
+    // The folder would let a file go that may not be written to.
+    return ::access(target.c_str(), W_OK) == 0 ? Outcome() : failure(path, "write");
 }
 
 } // namespace
@@ -178,15 +241,17 @@ Expected<std::string> readFile(const fs::path& file)
 Outcome writeFileAtomically(const fs::path& path, std::string_view text)
 {
     const fs::path target = followed(path);
+    if (Outcome replaceable = checkReplaceable(path, target); !replaceable)
+        return replaceable;
+    removeLeftovers(target);
     TemporaryFile file(target);
-    if (!file.isOpen() || !file.write(text) || !file.close())
+    if (!file.isOpen() || !file.write(text))
         return failure(path, "write");
     std::error_code error;
-    const fs::file_status old = fs::status(target, error);
-    if (fs::exists(old) && !fs::is_regular_file(old))
-        return {Reason::failed, "cannot replace '" + path.string() + "': it is not a file"};
-    if (fs::exists(old))
+    if (const fs::file_status old = fs::status(target, error); fs::is_regular_file(old))
         file.takePermissions(old.permissions());
+    if (!file.sync())
+        return failure(path, "write");
     if (!file.renameTo(target))
         return failure(path, "replace");
     return {};
