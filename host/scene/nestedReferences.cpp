@@ -4,6 +4,7 @@
 #include "referenceEditApplier.h"
 #include "referenceEdits.h"
 #include "referenceEvents.h"
+#include "referenceFiles.h"
 
 #include <algorithm>
 #include <filesystem>
@@ -24,8 +25,14 @@ ReferenceStates statesBelow(Scene& scene, const Reference& top)
     ReferenceStates states;
     for (const auto& part : scene.references)
         if (part->parent && &topReference(*part) == &top)
-            states[part->nodeName] = part->isLoaded;
+            states[part->nodeName].isLoaded = part->isLoaded;
     return states;
+}
+
+Outcome cannotBeReadAgain(const Reference& top)
+{
+    return {Reason::failed, "The edits of reference '" + top.nodeName +
+                                "' are not understood: it cannot be read again without losing them"};
 }
 
 /// Reads a reference of the scene itself again.
@@ -33,8 +40,7 @@ Outcome readAgain(Scene& scene, Reference& top, ReferenceStates states, const Re
                   SceneSummary& summary)
 {
     if (top.keepsEdits)
-        return {Reason::failed, "The edits of reference '" + top.nodeName +
-                                    "' are not understood: it cannot be read again without losing them"};
+        return cannotBeReadAgain(top);
     if (Outcome unloaded = unloadReference(scene, top); !unloaded)
         return unloaded;
     loadReference(scene, top, options, states, summary);
@@ -154,12 +160,13 @@ void passOn(Scene& scene, OwnedEdit each, const std::vector<Child>& children)
 Outcome unloadAllIn(Scene& scene, Reference& reference, const ReadOptions& options, SceneSummary& summary)
 {
     ReferenceStates states = statesBelow(scene, reference);
-    const bool hasLoaded =
-        std::any_of(states.begin(), states.end(), [](const auto& state) { return state.second; });
+    const bool hasLoaded = std::any_of(states.begin(), states.end(), [](const auto& state) {
+        return state.second.isLoaded.value_or(false);
+    });
     if (!hasLoaded)
         return {};
     for (auto& state : states)
-        state.second = false;
+        state.second.isLoaded = false;
     return readAgain(scene, reference, std::move(states), options, summary);
 }
 
@@ -170,7 +177,7 @@ std::vector<Child> childrenAsBefore(Scene& scene, const Reference& reference, co
         if (other->parent != &reference)
             continue;
         const auto state = before.find(other->nodeName);
-        children.push_back({other.get(), state != before.end() && state->second});
+        children.push_back({other.get(), state != before.end() && state->second.isLoaded.value_or(false)});
     }
     return children;
 }
@@ -180,6 +187,7 @@ void makeOwn(Scene& scene, Reference& reference, ReferenceStates before, const R
 {
     const std::vector<Child> children = childrenAsBefore(scene, reference, before);
     EditList waiting = takeWaitingEdits(scene, reference);
+    noteFiles(scene, waiting, before);
     for (const engine::Ref<Node>& node : reference.nodes)
         node->isReferenced = false;
     for (const Child& child : children)
@@ -201,8 +209,18 @@ Outcome setNestedLoaded(Scene& scene, Reference& reference, bool isLoaded, const
 {
     Reference& top = topReference(reference);
     ReferenceStates states = statesBelow(scene, top);
-    states[reference.nodeName] = isLoaded;
+    states[reference.nodeName].isLoaded = isLoaded;
     return readAgain(scene, top, std::move(states), options, summary);
+}
+
+Outcome replaceNested(Scene& scene, Reference& reference, const std::string& file, bool isLoaded,
+                      const ReadOptions& options, SceneSummary& summary)
+{
+    if (topReference(reference).keepsEdits)
+        return cannotBeReadAgain(topReference(reference));
+    if (Outcome named = nameFile(scene, reference, file); !named)
+        return named;
+    return setNestedLoaded(scene, reference, isLoaded, options, summary);
 }
 
 Outcome importReference(Scene& scene, Reference& reference, const ReadOptions& options, SceneSummary& summary)

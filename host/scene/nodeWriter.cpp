@@ -118,8 +118,8 @@ bool NodeWriter::writeLines(engine::Node& node)
     return m_out.size() != before;
 }
 
-/// The links of a light linker are kept as the statements that make them; their number stands with the node.
-void NodeWriter::writeLinkSizes(const engine::Node& node)
+/// Of links that could not be made the statements are kept; their number stands with the node.
+void NodeWriter::writeLinkSizes(engine::Node& node)
 {
     if (node.type().name != "lightLinker")
         return;
@@ -131,7 +131,9 @@ void NodeWriter::writeLinkSizes(const engine::Node& node)
         const auto count =
             std::count_if(m_scene.keptConnections.begin(), m_scene.keptConnections.end(),
                           [&](const std::string& statement) { return statement.rfind(start, 0) == 0; });
-        if (count > 1)
+        const auto array = node.findPlug(std::string(kind));
+        const bool isCounted = array && !engine::existingElements(array.value).empty();
+        if (count > 1 && !isCounted)
             line("setAttr" + sizeFlag(static_cast<std::size_t>(count)) + pathText(path) + ";");
     }
 }

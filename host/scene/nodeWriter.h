@@ -56,7 +56,7 @@ private:
     void writeWeights(const engine::Plug& array, const std::vector<int>& elements);
     void writeFaces(const engine::Plug& array, const std::vector<int>& elements);
 
-    void writeLinkSizes(const engine::Node& node);
+    void writeLinkSizes(engine::Node& node);
     void writeEdits(const ReferenceText& text);
 
     /// The flags of a plug's statement.

@@ -3,6 +3,7 @@
 
 #include "connectionEnd.h"
 #include "flagScanner.h"
+#include "lightLinks.h"
 #include "messages.h"
 
 #include "engine/observers.h"
@@ -102,6 +103,19 @@ void SceneReader::disconnectAttr(const SceneStatement& statement)
         error((source ? destination : source).outcome.text, statement.line);
     else if (const Outcome cut = m_scene.disconnect(source.value, destination.value); !cut)
         error(disconnectMessage(cut, source.value, destination.value), statement.line);
+}
+
+void SceneReader::relationship(const SceneStatement& statement)
+{
+    std::vector<std::string> words;
+    for (FlagScanner flags(statement.arguments); flags.next();)
+        words.emplace_back(flags.isPositional() ? flags.text() : sourceText(flags.argument()));
+    constexpr std::size_t kWordsOfLink = 4;
+    const bool isLink = words.size() == kWordsOfLink;
+    const Outcome made = isLink ? makeLightLink(m_scene, {words[0], words[1], words[2], words[3]})
+                                : Outcome(Reason::wrongKind);
+    if (!made && made.reason != Reason::sameConnection)
+        keep(m_scene.keptConnections, statement);
 }
 
 void SceneReader::keepStatement(const SceneStatement& statement)

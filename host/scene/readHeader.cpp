@@ -132,7 +132,9 @@ void SceneReader::file(const SceneStatement& statement)
     engine::Reference& reference = parsed.reference;
     reference.nodeName = absoluteName(reference.nodeName);
     if (parsed.depth > 0) {
-        m_states.emplace(reference.nodeName, !reference.isDeferred);
+        std::optional<bool>& isLoaded = m_states[reference.nodeName].isLoaded;
+        if (!isLoaded)
+            isLoaded = !reference.isDeferred;
         return;
     }
     if (!parsed.isReference || reference.file.empty()) {
@@ -145,19 +147,19 @@ void SceneReader::file(const SceneStatement& statement)
     m_scene.references.push_back(std::make_unique<engine::Reference>(std::move(reference)));
     m_references.push_back(m_scene.references.back().get());
     engine::Reference& added = *m_references.back();
-    const auto state = m_states.find(added.nodeName);
-    const bool isWanted = state == m_states.end() || state->second;
-    if (!added.isDeferred && isWanted && m_options.loadsReferences)
+    const ReferenceState& state = m_states[added.nodeName];
+    if (!state.file.empty())
+        added.file = state.file;
+    if (!added.isDeferred && state.isLoaded.value_or(true) && m_options.loadsReferences)
         loadReference(m_scene, added, m_options, m_states, m_summary);
 }
 
 void SceneReader::loadReferences()
 {
     for (engine::Reference* reference : m_references) {
-        const auto state = m_states.find(reference->nodeName);
         if (reference->isLoaded)
             applyEdits(m_scene, *reference);
-        else if (state != m_states.end() && state->second && m_options.loadsReferences)
+        else if (m_states[reference->nodeName].isLoaded.value_or(false) && m_options.loadsReferences)
             loadReference(m_scene, *reference, m_options, m_states, m_summary);
     }
 }

@@ -2,7 +2,9 @@
 #include "referenceEditApplier.h"
 
 #include "connectionEnd.h"
+#include "lightLinks.h"
 #include "plugTarget.h"
+#include "referenceEditText.h"
 #include "setAttr.h"
 
 #include "mel/parser.h"
@@ -40,6 +42,8 @@ bool EditApplier::apply(const ReferenceEdit& edit)
         return disconnect(edit.words[0], edit.words[1]);
     case ReferenceEdit::connect:
         return connect(edit);
+    case kRelationshipEdit:
+        return link(edit.words);
     case ReferenceEdit::lock:
     case ReferenceEdit::unlock:
         return lock(edit);
@@ -173,6 +177,13 @@ bool EditApplier::connectInside(const std::vector<std::string>& words)
     if (from && to)
         m_scene.breakConnection(from.value, to.value);
     return join(source.value, destination.value);
+}
+
+bool EditApplier::link(const std::vector<std::string>& words)
+{
+    constexpr std::size_t kWordsOfLink = 5;
+    return words.size() == kWordsOfLink && words.back() == "0" &&
+           makeLightLink(m_scene, {words[0], words[1], words[2], words[3]});
 }
 
 /// What the placeholder feeds is fed by the node of the reference.

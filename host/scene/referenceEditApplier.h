@@ -33,6 +33,7 @@ private:
     void deleteAttribute(const engine::ReferenceEdit& edit);
     bool disconnect(const std::string& sourceName, const std::string& destinationName);
     bool connect(const engine::ReferenceEdit& edit);
+    bool link(const std::vector<std::string>& words);
     bool connectInside(const std::vector<std::string>& words);
     bool passOn(const engine::Plug& source, const engine::Plug& placeholder);
     bool join(const engine::Plug& source, const engine::Plug& destination);

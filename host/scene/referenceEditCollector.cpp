@@ -2,6 +2,7 @@
 #include "referenceEdits.h"
 
 #include "connectionEnd.h"
+#include "lightLinks.h"
 #include "referenceNames.h"
 #include "referenceStatements.h"
 #include "references.h"
@@ -70,6 +71,8 @@ public:
             collectCut(source, destination);
         for (Node* node : m_nodes)
             collectConnections(*node);
+        for (Node* node : m_nodes)
+            collectLinks(*node);
         collectKeptEdits();
         return std::move(m_text);
     }
@@ -202,10 +205,36 @@ private:
         }
     }
 
+    bool wasThere(const Plug& source, const Plug& destination) const
+    {
+        return m_reference.baseline.connectionKeys.count(connectionKey(source, destination)) != 0;
+    }
+
+    /// Links of lights are edits of their own.
+    void collectLinks(Node& node)
+    {
+        for (const Plug& plug : engine::connectedPlugs(node))
+            for (const Plug& destination : engine::destinationsOf(plug))
+                if (const LightLink link = lightLinkAt(destination);
+                    link.isWhole() && !wasThere(plug, destination))
+                    collectLink(plug, link);
+    }
+
+    void collectLink(const Plug& own, const LightLink& link)
+    {
+        // A link of two nodes of the reference is told once.
+        if (own == link.light && m_own.count(link.object.node()) != 0)
+            return;
+        add(ownerOf(*own.node()),
+            {kRelationshipEdit,
+             ReferenceEdit::both,
+             {link.kind, editName(*link.element.node()), editName(link.object), editName(link.light), "0"}});
+    }
+
     void collectConnection(const Plug& source, const Plug& destination)
     {
-        if (m_reference.baseline.connectionKeys.count(connectionKey(source, destination)) != 0 ||
-            isForeignPlaceholder(source) || isForeignPlaceholder(destination))
+        if (wasThere(source, destination) || isForeignPlaceholder(source) ||
+            isForeignPlaceholder(destination) || lightLinkAt(destination).isWhole())
             return;
         const bool ownsSource = m_own.count(source.node()) != 0;
         const bool ownsDestination = m_own.count(destination.node()) != 0;

@@ -2,9 +2,11 @@
 #include "references.h"
 
 #include "flagScanner.h"
+#include "lightLinks.h"
 #include "lineBreaker.h"
 #include "referenceEdits.h"
 #include "referenceEvents.h"
+#include "referenceFiles.h"
 #include "referenceNames.h"
 #include "sceneReader.h"
 #include "sceneText.h"
@@ -20,6 +22,7 @@ namespace tvxhost::scene {
 using engine::DagNode;
 using engine::Node;
 using engine::Outcome;
+using engine::Plug;
 using engine::Reason;
 using engine::Reference;
 using engine::Scene;
@@ -264,6 +267,7 @@ void loadReference(Scene& scene, Reference& reference, const ReadOptions& option
         return;
     }
     tellOfReference(scene, engine::Happening::referenceLoadBegun, reference);
+    noteFiles(scene, keptEdits(scene, reference).value_or(EditList()), states);
     readReferenced(scene, reference, text.value, options, states, summary);
     if (!reference.parent)
         takeBaseline(scene, reference);
@@ -281,11 +285,14 @@ Outcome unloadReference(Scene& scene, Reference& reference)
     const ReferenceText text = textOf(scene, reference);
     std::vector<Node*> nodes = allNodes(scene, reference);
     giveFosterParent(scene, reference, text);
+    const std::vector<Plug> links = lightLinkElementsOf(nodes);
     for (Node* node : nodes)
         node->isReferenced = node->isLockedNode = false;
     for (Node* node : nodes)
         if (node->isAlive())
             (void)scene.deleteNode(*node);
+    for (const Plug& link : links)
+        (void)engine::removeElement(link.array(), link.logicalIndex());
     const auto isBelow = [&](const std::unique_ptr<Reference>& other) {
         return other.get() != &reference && &topReference(*other) == &reference;
     };

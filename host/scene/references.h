@@ -7,6 +7,7 @@
 #include "mel/arguments.h"
 
 #include <map>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -21,9 +22,15 @@ struct ReferenceStatement
 };
 ReferenceStatement parseReference(const mel::ArgumentList& arguments);
 
-/// Which references are to be loaded, by the name of their reference node: what the scene says overrides what
-/// the files say that it refers to.
-using ReferenceStates = std::map<std::string, bool>;
+/// How a reference is to be read whatever the file says that makes it.
+struct ReferenceState
+{
+    std::optional<bool> isLoaded;
+    std::string file; ///< in place of the one that is named there; empty: that one
+};
+/// These by the name of the reference node: what the scene says overrides what the files say that it refers
+/// to.
+using ReferenceStates = std::map<std::string, ReferenceState>;
 
 /// Reads a reference's file and applies the edits of its reference node. A file that is not there is one
 /// warning, and the reference stays as it is. Errors and warnings are counted into `summary`.
@@ -41,6 +48,10 @@ void dropReference(engine::Scene& scene, const engine::Reference& reference);
 /// with it all references below that, which are other objects afterwards.
 engine::Outcome setNestedLoaded(engine::Scene& scene, engine::Reference& reference, bool isLoaded,
                                 const ReadOptions& options, SceneSummary& summary);
+/// Gives a reference within another one another file: an edit of the scene's own reference around it, which
+/// is read again as by setNestedLoaded().
+engine::Outcome replaceNested(engine::Scene& scene, engine::Reference& reference, const std::string& file,
+                              bool isLoaded, const ReadOptions& options, SceneSummary& summary);
 /// Makes the nodes of a loaded reference the scene's own, with all edits; references in it become the
 /// scene's own ones. The reference is gone.
 engine::Outcome importReference(engine::Scene& scene, engine::Reference& reference,

@@ -34,7 +34,7 @@ const SceneReader::HandlerRow SceneReader::kHandlers[] = {
     {"parent", &SceneReader::parent},
     {"lockNode", &SceneReader::lockNode},
     {"disconnectAttr", &SceneReader::disconnectAttr},
-    {"relationship", &SceneReader::keepStatement},
+    {"relationship", &SceneReader::relationship},
     {"dataStructure", &SceneReader::keepStatement},
     {"applyMetadata", &SceneReader::keepStatement},
     {"requires", &SceneReader::requires_},

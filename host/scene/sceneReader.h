@@ -80,6 +80,7 @@ private:
     // Connections and what is kept, in readConnections.cpp
     void connectAttr(const SceneStatement& statement);
     void disconnectAttr(const SceneStatement& statement);
+    void relationship(const SceneStatement& statement);
     void keepStatement(const SceneStatement& statement);
 
     // The file's frame, in readHeader.cpp

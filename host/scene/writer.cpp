@@ -2,6 +2,7 @@
 #include "writer.h"
 
 #include "connectionEnd.h"
+#include "lightLinks.h"
 #include "lineBreaker.h"
 #include "nodeWriter.h"
 #include "references.h"
@@ -175,6 +176,8 @@ std::string SceneWriter::write()
         m_nodes.writeNode(*node);
     writeDefaults();
     writeConnections(m_dagNodes);
+    for (Node* node : m_dependNodes)
+        m_out += lightLinkStatements(*node);
     writeKept([](const std::string& text) { return beginsWith(text, "relationship"); });
     writeConnections(m_dependNodes);
     writeConnections(m_defaultNodes);
@@ -363,7 +366,7 @@ void SceneWriter::writeConnections(const std::vector<Node*>& nodes)
 {
     for (Node* node : nodes)
         for (const Plug& plug : engine::connectedPlugs(*node))
-            if (const Plug source = engine::sourceOf(plug); !source.isNull())
+            if (const Plug source = engine::sourceOf(plug); !source.isNull() && !lightLinkAt(plug).isWhole())
                 writeConnection(source, plug);
     for (Node* node : nodes)
         if (const auto own = m_placeholders.find(node); own != m_placeholders.end())

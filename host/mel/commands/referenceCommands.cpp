@@ -7,6 +7,7 @@
 
 #include "scene/referenceEditList.h"
 #include "scene/referenceEvents.h"
+#include "scene/referenceFiles.h"
 #include "scene/referenceNames.h"
 #include "scene/references.h"
 
@@ -53,8 +54,6 @@ void load(CommandContext& context, Reference& reference)
     if (reference.isLoaded)
         require(context, scene::unloadReference(sceneOf(context), reference));
     sessionOf(context).loadReference(context.interpreter(), reference);
-    if (!reference.isLoaded)
-        context.fail("The reference '" + reference.nodeName + "' could not be loaded");
 }
 
 /// A name with the characters that names may have; `others` are legal as well.
@@ -97,6 +96,7 @@ Value addReference(CommandContext& context, const ParsedCommand& call)
     const std::string nodeName = (reference->space.empty() ? stem : reference->space) + "RN";
     engine::Node& node = *valueOf(context, scene.createNode("reference", ":" + nodeName));
     reference->nodeName = node.name();
+    require(context, scene::nameFile(scene, *reference, reference->file));
     node.isLockedNode = true;
     scene.references.push_back(std::move(reference));
     Reference& added = *scene.references.back();
@@ -111,19 +111,21 @@ Value addReference(CommandContext& context, const ParsedCommand& call)
     return Value(shownPath(scene, added));
 }
 
-/// Names another file; nothing has changed when that is not possible.
+/// Names another file and loads it; nothing has changed when there is none of that name.
 void replaceFile(CommandContext& context, Reference& reference, const fs::path& file)
 {
-    if (reference.parent)
-        context.fail("The reference '" + reference.nodeName + "' belongs to the reference '" +
-                     reference.parent->nodeName + "', whose file names its file");
     if (!fs::is_regular_file(file))
         context.fail("File not found: \"" + file.string() + "\"");
+    sceneOf(context).isModified = true;
+    if (reference.parent) {
+        require(context,
+                sessionOf(context).replaceNested(context.interpreter(), reference, file.string(), true));
+        return;
+    }
     if (reference.isLoaded)
         require(context, scene::unloadReference(sceneOf(context), reference));
-    reference.file = file.string();
-    reference.path = reference.file;
-    sceneOf(context).isModified = true;
+    require(context, scene::nameFile(sceneOf(context), reference, file.string()));
+    load(context, reference);
 }
 
 template <class Change>
@@ -137,12 +139,16 @@ Value change(CommandContext& context, Reference& reference, const Change& apply)
 Value loadOne(CommandContext& context, const ParsedCommand& call)
 {
     Reference& reference = referenceNamed(context, call.string("loadReference"));
-    if (!call.positional.empty())
+    const std::string node = reference.nodeName;
+    if (call.positional.empty())
+        load(context, reference);
+    else
         replaceFile(context, reference, sessionOf(context).workspace.resolved(call.names().front()));
     // Where the file is may show only now, and references in others are other objects afterwards.
-    const std::string node = reference.nodeName;
-    load(context, reference);
-    return Value(shownPath(sceneOf(context), referenceNamed(context, node)));
+    const Reference& loaded = referenceNamed(context, node);
+    if (!loaded.isLoaded)
+        context.fail("The reference '" + node + "' could not be loaded");
+    return Value(shownPath(sceneOf(context), loaded));
 }
 
 Value unloadOne(CommandContext& context, const ParsedCommand& call)

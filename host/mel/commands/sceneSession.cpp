@@ -180,6 +180,13 @@ engine::Outcome SceneSession::setNestedLoaded(Interpreter& interpreter, engine::
     return scene::setNestedLoaded(m_scene, reference, isLoaded, readOptions(interpreter), summary);
 }
 
+engine::Outcome SceneSession::replaceNested(Interpreter& interpreter, engine::Reference& reference,
+                                            const std::string& file, bool isLoaded)
+{
+    scene::SceneSummary summary;
+    return scene::replaceNested(m_scene, reference, file, isLoaded, readOptions(interpreter), summary);
+}
+
 engine::Outcome SceneSession::importReference(Interpreter& interpreter, engine::Reference& reference)
 {
     scene::SceneSummary summary;

@@ -87,6 +87,9 @@ public:
     void loadReference(Interpreter& interpreter, engine::Reference& reference);
     /// Loads or unloads a reference within another one; see scene::setNestedLoaded().
     engine::Outcome setNestedLoaded(Interpreter& interpreter, engine::Reference& reference, bool isLoaded);
+    /// Gives a reference within another one another file; see scene::replaceNested().
+    engine::Outcome replaceNested(Interpreter& interpreter, engine::Reference& reference,
+                                  const std::string& file, bool isLoaded);
     /// Makes the nodes of a reference the scene's own.
     engine::Outcome importReference(Interpreter& interpreter, engine::Reference& reference);
     /// Saves the scene under its name or another.

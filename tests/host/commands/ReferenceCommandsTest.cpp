@@ -235,9 +235,33 @@ TEST_F(ReferenceCommandsTest, aReferenceWithinAnotherOneIsUnloadedAndLoadedAlone
     EXPECT_EQ(run("referenceQuery -isLoaded \"pRN\""), "1");
     EXPECT_EQ(run("file -loadReference \"p:oneRN\""), path("rig.ma"));
     EXPECT_EQ(run("getAttr \"p:one:body.v\""), "0");
-    EXPECT_THAT(failure("file -loadReference \"p:oneRN\" \"pair.ma\""),
-                HasSubstr("belongs to the reference 'pRN', whose file names its file"));
     EXPECT_THAT(failure("file -importReference -rfn \"p:oneRN\""), HasSubstr("import that one first"));
+}
+
+TEST_F(ReferenceCommandsTest, aReferenceWithinAnotherOneIsReplacedByAnEditOfThat)
+{
+    std::ofstream(m_folder / "pair.ma") << "//Maya ASCII 2016 scene\n"
+                                           "file -rdi 1 -ns \"one\" -rfn \"oneRN\" \"rig.ma\";\n"
+                                           "file -r -ns \"one\" -dr 1 -rfn \"oneRN\" \"rig.ma\";\n"
+                                           "createNode reference -n \"oneRN\";\n";
+    std::ofstream(m_folder / "two.ma") << "//Maya ASCII 2016 scene\ncreateNode transform -n \"body\";\n"
+                                          "createNode transform -n \"tail\" -p \"body\";\n";
+    run("file -r -ns \"p\" \"pair.ma\"; setAttr \"p:one:body.v\" 0");
+    EXPECT_EQ(failure("file -loadReference \"p:oneRN\" \"none.ma\""),
+              "File not found: \"" + path("none.ma") + "\"");
+    EXPECT_EQ(run("objExists \"p:one:head\""), "1");
+    EXPECT_EQ(run("file -loadReference \"p:oneRN\" \"two.ma\""), path("two.ma"));
+    EXPECT_EQ(run("objExists \"p:one:head\""), "0");
+    EXPECT_EQ(run("objExists \"p:one:tail\""), "1");
+    EXPECT_EQ(run("getAttr \"p:one:body.v\""), "0");
+    EXPECT_EQ(run("getAttr \"p:oneRN.fileNames[0]\""), path("two.ma"));
+    EXPECT_THAT(strings("referenceQuery -es -ec setAttr \"pRN\""),
+                ElementsAre("setAttr p:oneRN.fileNames[0] -type \"string\" \"" + path("two.ma") + "\"",
+                            "setAttr p:oneRN.fileNames[1] -type \"string\" \"rig.ma\"",
+                            "setAttr |p:one:body.visibility 0", "setAttr p:oneRN.fileNames -s 2"));
+    EXPECT_THAT(failure("file -loadReference \"p:oneRN\" \"pair.ma\""), HasSubstr("could not be loaded"));
+    run("file -unloadReference \"pRN\"; file -cleanReference \"pRN\"; file -loadReference \"pRN\"");
+    EXPECT_EQ(run("objExists \"p:one:head\""), "1") << "the edit is gone";
 }
 
 } // namespace tvxhost::mel

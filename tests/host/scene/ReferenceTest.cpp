@@ -270,6 +270,10 @@ protected:
     {
         return setNestedLoaded(scene, *findReference(scene, name), isLoaded, {}, m_summary);
     }
+    Outcome replace(const std::string& name, const std::string& path)
+    {
+        return replaceNested(scene, *findReference(scene, name), path, true, {}, m_summary);
+    }
     void expectAllEdits()
     {
         EXPECT_THAT(numbers("p:hub.v"), ElementsAre(0));
@@ -306,6 +310,71 @@ TEST_F(NestedReferenceTest, goesAndComesBackAlone)
     ASSERT_TRUE(setLoaded("p:oneRN", true));
     expectAllEdits();
     EXPECT_EQ(saved(), before);
+}
+
+TEST_F(NestedReferenceTest, isReadFromAnotherFileWithTheEditsOfBothFiles)
+{
+    const std::string second =
+        file("second.ma", "//Maya ASCII 2016 scene\ncreateNode transform -n \"body\";\n"
+                          "createNode transform -n \"tail\" -p \"body\";\n"
+                          "createNode reverse -n \"flip\";\n");
+    ASSERT_TRUE(replace("p:oneRN", second));
+    EXPECT_TRUE(scene.findNode("p:one:tail"));
+    EXPECT_FALSE(scene.findNode("p:one:head"));
+    expectAllEdits();
+    const std::string text = savedTwice();
+    EXPECT_THAT(text, HasSubstr("file -rdi 2 -ns \"one\" -rfn \"p:oneRN\" \"" + second + "\";\n"));
+    EXPECT_TRUE(scene.findNode("p:one:tail")) << "what was saved says so";
+    expectAllEdits();
+    ASSERT_TRUE(setLoaded("p:oneRN", false));
+    ASSERT_TRUE(setLoaded("p:oneRN", true));
+    EXPECT_EQ(saved(), text);
+}
+
+TEST_F(NestedReferenceTest, isReadFromTheFileThatTheFileAroundItNamesByNowUnlessItWasReplaced)
+{
+    file("second.ma", "//Maya ASCII 2016 scene\ncreateNode transform -n \"later\";\n");
+    file("pair.ma", std::string(kHeader) + "file -r -ns \"one\" -dr 1 -rfn \"oneRN\" \"second.ma\";\n"
+                                           "file -rdi 1 -ns \"one\" -rfn \"oneRN\" \"second.ma\";\n"
+                                           "createNode reference -n \"oneRN\";\n");
+    const std::string before = saved();
+    openScene(scene, file("saved.ma", before));
+    EXPECT_TRUE(scene.findNode("p:one:later"));
+    EXPECT_FALSE(scene.findNode("p:one:body"));
+}
+
+TEST_F(NestedReferenceTest, thatIsReplacedStaysSoWhenTheOneAroundItIsImported)
+{
+    const std::string second =
+        file("second.ma", "//Maya ASCII 2016 scene\ncreateNode transform -n \"later\";\n");
+    ASSERT_TRUE(replace("p:oneRN", second));
+    ASSERT_TRUE(importReference(scene, *findReference(scene, "pRN"), {}, m_summary));
+    EXPECT_TRUE(scene.findNode("p:one:later"));
+    EXPECT_THAT(savedTwice(),
+                HasSubstr("file -r -ns \"p:one\" -dr 1 -rfn \"p:oneRN\" \"" + second + "\";\n"));
+    EXPECT_TRUE(scene.findNode("p:one:later"));
+}
+
+TEST_F(NestedReferenceTest, threeDeepIsReplacedByTheSceneRatherThanByTheFileBetween)
+{
+    const std::string second =
+        file("second.ma", "//Maya ASCII 2016 scene\ncreateNode transform -n \"later\";\n");
+    const std::string third =
+        file("third.ma", "//Maya ASCII 2016 scene\ncreateNode transform -n \"last\";\n");
+    file("set.ma", std::string(kHeader) +
+                       "file -r -ns \"q\" -dr 1 -rfn \"qRN\" \"pair.ma\";\n"
+                       "file -rdi 1 -ns \"q\" -rfn \"qRN\" \"pair.ma\";\n"
+                       "createNode reference -n \"qRN\";\n"
+                       "\tsetAttr \".ed\" -type \"dataReferenceEdits\" \"qRN\" \"qRN\" 0 \"qRN\" 1\n"
+                       "\t\t2 \"q:oneRN\" \"fileNames[0]\" \" -type \\\"string\\\" \\\"" +
+                       second + "\\\"\";\n");
+    open("file -r -ns \"s\" -rfn \"sRN\" \"set.ma\";\ncreateNode reference -n \"sRN\";\n");
+    EXPECT_TRUE(scene.findNode("s:q:one:later")) << "the file between replaces it";
+    ASSERT_TRUE(replace("s:q:oneRN", third));
+    EXPECT_TRUE(scene.findNode("s:q:one:last"));
+    EXPECT_FALSE(scene.findNode("s:q:one:later"));
+    savedTwice();
+    EXPECT_TRUE(scene.findNode("s:q:one:last"));
 }
 
 TEST_F(NestedReferenceTest, isNotRemovedFromTheOneAroundIt)
@@ -412,6 +481,101 @@ TEST_F(ReferenceTest, keepsItsLightLinksBesideTheEditsThatItApplies)
     engine::Reference& reference = *scene.references.front();
     ASSERT_TRUE(unloadReference(scene, reference));
     EXPECT_THAT(saved(), HasSubstr(links + ";\n"));
+}
+
+class ReferenceLinkTest : public ReferenceTest
+{
+protected:
+    static constexpr const char* kLinker =
+        "createNode lightLinker -s -n \"lightLinker1\";\ncreateNode transform -n \"lamp\";\n"
+        "createNode pointLight -n \"lampShape\" -p \"lamp\";\n";
+    static constexpr const char* kLinks =
+        "\t\t7 \"shadowLink\" \":lightLinker1\" 2 \"|r:body.message\" \":defaultLightSet.message\" \n"
+        "\t\t0\n"
+        "\t\t7 \"ignore\" \":lightLinker1\" 2 \"|r:body|r:head|r:headShape.message\" "
+        "\"|lamp|lampShape.message\" \n"
+        "\t\t0";
+
+    void openWithLinks(const std::string& links = kLinks)
+    {
+        EXPECT_TRUE(open("file -r -ns \"r\" -rfn \"rRN\" \"rig.ma\";\n" + std::string(kLinker) +
+                         "createNode reference -n \"rRN\";\n"
+                         "\tsetAttr \".ed\" -type \"dataReferenceEdits\" \n\t\t\"rRN\"\n\t\t\"rRN\" 2\n" +
+                         links + ";\n")
+                        .isClean());
+        EXPECT_THAT(messages(), IsEmpty());
+    }
+    void expectLinked()
+    {
+        EXPECT_EQ(source("lightLinker1.ignore[0].lightIgnored"), "lampShape.message");
+        EXPECT_EQ(source("lightLinker1.ignore[0].objectIgnored"), "r:headShape.message");
+        EXPECT_EQ(source("lightLinker1.shadowLink[0].shadowLight"), "defaultLightSet.message");
+        EXPECT_EQ(source("lightLinker1.shadowLink[0].shadowObject"), "r:body.message");
+    }
+};
+
+TEST_F(ReferenceLinkTest, connectsLightsWithNodesOfTheReference)
+{
+    openWithLinks();
+    expectLinked();
+    const std::string text = savedTwice();
+    expectLinked();
+    EXPECT_THAT(text, HasSubstr(std::string(kLinks) + ";\n"));
+    EXPECT_THAT(text, Not(HasSubstr("relationship")));
+    EXPECT_THAT(text, Not(HasSubstr("phl")));
+}
+
+TEST_F(ReferenceLinkTest, goesAndComesBackWithTheReference)
+{
+    openWithLinks();
+    const std::string before = saved();
+    engine::Reference& reference = *scene.references.front();
+    ASSERT_TRUE(unloadReference(scene, reference));
+    EXPECT_THAT(engine::existingElements(scene.findPlug("lightLinker1.ignore").value), IsEmpty());
+    EXPECT_THAT(engine::existingElements(scene.findPlug("lightLinker1.shadowLink").value), IsEmpty());
+    EXPECT_THAT(saved(), HasSubstr(std::string(kLinks) + ";\n"));
+    ReferenceStates states;
+    SceneSummary summary;
+    loadReference(scene, reference, {}, states, summary);
+    expectLinked();
+    EXPECT_EQ(saved(), before);
+}
+
+TEST_F(ReferenceLinkTest, isTheScenesOwnOnceTheReferenceIsImported)
+{
+    openWithLinks();
+    SceneSummary summary;
+    ASSERT_TRUE(importReference(scene, *findReference(scene, "rRN"), {}, summary));
+    EXPECT_THAT(
+        savedTwice(),
+        HasSubstr("relationship \"ignore\" \":lightLinker1\" \"r:headShape.message\" \"lampShape.message\";\n"
+                  "relationship \"shadowLink\" \":lightLinker1\" \"r:body.message\" "
+                  "\":defaultLightSet.message\";\n"));
+    expectLinked();
+}
+
+TEST_F(ReferenceLinkTest, ofTheReferencesOwnFileIsThereAndNotSaved)
+{
+    file("rig.ma", std::string(kRig) + "createNode lightLinker -s -n \"lightLinker1\";\n"
+                                       "relationship \"link\" \":lightLinker1\" \"head.message\" "
+                                       "\":defaultLightSet.message\";\n");
+    EXPECT_TRUE(open("createNode lightLinker -s -n \"lightLinker1\";\n"
+                     "file -rdi 1 -ns \"r\" -rfn \"rRN\" \"rig.ma\";\n"
+                     "file -r -ns \"r\" -dr 1 -rfn \"rRN\" \"rig.ma\";\ncreateNode reference -n \"rRN\";\n")
+                    .isClean());
+    EXPECT_EQ(source("lightLinker1.link[0].object"), "r:head.message");
+    const std::string text = savedTwice();
+    EXPECT_THAT(text, Not(HasSubstr("relationship")));
+    EXPECT_THAT(text, Not(HasSubstr("\t\t7 ")));
+}
+
+TEST_F(ReferenceLinkTest, waitsForNodesThatAreNotThere)
+{
+    const std::string links =
+        "\t\t7 \"link\" \":lightLinker1\" 2 \"|r:tail.message\" \":defaultLightSet.message\" 0\n"
+        "\t\t7 \"somethingElse\" \":lightLinker1\" 2 \"|r:body.message\" \":time1.message\" 0";
+    openWithLinks(links);
+    EXPECT_THAT(savedTwice(), HasSubstr(links + ";\n"));
 }
 
 } // namespace tvxhost::scene
