@@ -105,6 +105,8 @@ TEST(CameraVolume, OfAnOrthographicCameraIsItsWidthAcross)
     lens.orthographicWidth = 30;
     expectSize(viewport::volumeOf(lens, 1.5), 30, 20);
     expectSize(viewport::volumeOf(lens, 0.5), 30, 60);
+    lens.overscan = 2;
+    expectSize(viewport::volumeOf(lens, 1.5), 60, 40);
 }
 
 TEST(CameraProjection, PutsTheNearAndFarPlaneAtTheEndsOfDepth)
@@ -128,6 +130,8 @@ TEST(CameraProjection, PutsTheGatesCornersAtThePicturesCorners)
     Lens lens = millimetreLens();
     lens.horizontalOffset = 10 / 25.4;
     EXPECT_NEAR(projected(lens, 1.5, {28, 0, -50}).x, 1, 1e-9);
+    lens.verticalOffset = -5 / 25.4;
+    EXPECT_NEAR(projected(lens, 1.5, {28, 7, -50}).y, 1, 1e-9);
 }
 
 TEST(CameraProjection, KeepsDistanceOutOfAnOrthographicPicture)
@@ -195,12 +199,31 @@ TEST(FindCamera, TakesACameraOrItsTransform)
     }
 }
 
+TEST(FindCamera, IsTheScenesFirstWhenPerspIsNotInItsPlace)
+{
+    engine::Scene scene;
+    scene.newScene();
+    ASSERT_TRUE(scene.createNode("transform", "rig"));
+    const auto dagNamed = [&](const char* name) { return scene.findNode(name).value->asDag(); };
+    ASSERT_TRUE(scene.reparent(*dagNamed("persp"), nullptr, dagNamed("rig")));
+    const auto camera = viewport::findCamera(scene, "");
+    ASSERT_TRUE(camera) << camera.outcome.text;
+    EXPECT_EQ(camera.value.fullName(), "|rig|persp|perspShape");
+}
+
 TEST(FindCamera, SaysWhatIsWrong)
 {
     engine::Scene scene;
     scene.newScene();
     EXPECT_EQ(viewport::findCamera(scene, "time1").outcome.text, "\"time1\" is not a camera");
-    EXPECT_EQ(viewport::findCamera(scene, "nobody").outcome.reason, engine::Reason::doesNotExist);
+    ASSERT_TRUE(scene.createNode("transform", "empty"));
+    EXPECT_EQ(viewport::findCamera(scene, "empty").outcome.text, "\"empty\" is not a camera");
+    const auto nobody = viewport::findCamera(scene, "nobody");
+    EXPECT_EQ(nobody.outcome.reason, engine::Reason::doesNotExist);
+    EXPECT_EQ(nobody.outcome.text, "camera \"nobody\": No object matches name: nobody");
+    for (const char* name : {"persp", "top", "front", "side"})
+        ASSERT_TRUE(scene.deleteNode(*scene.findNode(name).value)) << name;
+    EXPECT_EQ(viewport::findCamera(scene, "").outcome.text, "the scene has no camera");
 }
 
 TEST(CameraLens, ComesFromTheNodesAttributes)
@@ -219,6 +242,11 @@ TEST(CameraLens, ComesFromTheNodesAttributes)
     set("filmFit", 3);
     set("horizontalFilmAperture", 1.2);
     set("verticalFilmAperture", 0.8);
+    set("horizontalFilmOffset", 0.1);
+    set("verticalFilmOffset", -0.2);
+    set("lensSqueezeRatio", 2);
+    set("cameraScale", 3);
+    set("overscan", 1.3);
     const Lens lens = viewport::lensOf(node);
     EXPECT_TRUE(lens.orthographic);
     EXPECT_EQ(lens.orthographicWidth, 42);
@@ -228,6 +256,26 @@ TEST(CameraLens, ComesFromTheNodesAttributes)
     EXPECT_EQ(lens.fit, FilmFit::overscan);
     EXPECT_EQ(lens.horizontalAperture, 1.2);
     EXPECT_EQ(lens.verticalAperture, 0.8);
+    EXPECT_EQ(lens.horizontalOffset, 0.1);
+    EXPECT_EQ(lens.verticalOffset, -0.2);
+    EXPECT_EQ(lens.squeeze, 2);
+    EXPECT_EQ(lens.scale, 3);
+    EXPECT_EQ(lens.overscan, 1.3);
+}
+
+TEST(CameraLens, IsOneThatSeesSomethingWhateverTheAttributesAre)
+{
+    engine::Scene scene;
+    scene.newScene();
+    engine::DagNode& node = *viewport::findCamera(scene, "side").value.node();
+    for (const char* name : {"lensSqueezeRatio", "overscan"})
+        ASSERT_TRUE(engine::writeNumber(node.findPlug(name).value, engine::Number(0.0))) << name;
+    ASSERT_TRUE(engine::writeNumber(node.findPlug("nearClipPlane").value, engine::Number(100.0)));
+    ASSERT_TRUE(engine::writeNumber(node.findPlug("farClipPlane").value, engine::Number(10.0)));
+    const Lens lens = viewport::lensOf(node);
+    EXPECT_EQ(lens.squeeze, 1);
+    EXPECT_EQ(lens.overscan, 1);
+    EXPECT_GT(lens.farClip, lens.nearClip);
 }
 
 } // namespace

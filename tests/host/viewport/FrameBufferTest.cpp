@@ -65,9 +65,26 @@ TEST_F(FrameBufferTest, IsReadFromTheTopDown)
     }
 }
 
+TEST_F(FrameBufferTest, OfTwoRowsEachIsInItsPlace)
+{
+    const auto buffer = FrameBuffer::create(1, 2, m_context->largestSide());
+    ASSERT_TRUE(buffer);
+    glClearColor(0, 0, 0, 1);
+    glClear(GL_COLOR_BUFFER_BIT);
+    glEnable(GL_SCISSOR_TEST);
+    glScissor(0, 0, 1, 1); // the lower one
+    glClearColor(1, 1, 1, 1);
+    glClear(GL_COLOR_BUFFER_BIT);
+    glDisable(GL_SCISSOR_TEST);
+    EXPECT_EQ(buffer.value->read().bytes, (std::vector<std::uint8_t>{0, 0, 0, 255, 255, 255}));
+}
+
 TEST_F(FrameBufferTest, OfASizeThatGlCannotDoIsRefused)
 {
     EXPECT_EQ(FrameBuffer::create(0, 10, 8192).outcome.text, "a picture of 0x10 has no pixels");
+    EXPECT_EQ(FrameBuffer::create(10, 0, 8192).outcome.text, "a picture of 10x0 has no pixels");
+    EXPECT_EQ(FrameBuffer::create(10, 8193, 8192).outcome.text,
+              "a picture of 10x8193 is larger than OpenGL can draw here, at most 8192x8192");
     EXPECT_EQ(FrameBuffer::create(8193, 10, 8192).outcome.text,
               "a picture of 8193x10 is larger than OpenGL can draw here, at most 8192x8192");
 }

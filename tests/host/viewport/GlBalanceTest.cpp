@@ -109,9 +109,36 @@ TEST_F(GlBalanceTest, AnOpenBeginIsClosed)
 
 TEST_F(GlBalanceTest, ErrorsAreNamed)
 {
+    const struct
+    {
+        const char* name;
+        void (*mistake)();
+    } rows[] = {{"GL_INVALID_ENUM", [] { glEnable(GL_LINES); }}, // not a capability
+                {"GL_INVALID_VALUE", [] { glLineWidth(-1); }},
+                {"GL_INVALID_OPERATION", [] { glEnd(); }},
+                {"GL_STACK_UNDERFLOW", [] {
+                     glMatrixMode(GL_PROJECTION);
+                     glPopMatrix();
+                 }}};
+    for (const auto& row : rows) {
+        const GlBalance balance;
+        row.mistake();
+        EXPECT_EQ(balance.checkAndRepair(), row.name);
+        expectRepaired(balance);
+    }
+}
+
+TEST_F(GlBalanceTest, AStackThatIsFullIsEmptiedAgain)
+{
     const GlBalance balance;
-    glEnable(GL_LINES); // not a capability
-    EXPECT_EQ(balance.checkAndRepair(), "GL_INVALID_ENUM");
+    GLint depth = 0;
+    GLint most = 0;
+    glGetIntegerv(GL_MODELVIEW_STACK_DEPTH, &depth);
+    glGetIntegerv(GL_MAX_MODELVIEW_STACK_DEPTH, &most);
+    for (int i = 0; i < most; ++i)
+        glPushMatrix();
+    EXPECT_EQ(balance.checkAndRepair(),
+              "GL_STACK_OVERFLOW, model-view stack " + std::to_string(most - depth) + " too deep");
     expectRepaired(balance);
 }
 

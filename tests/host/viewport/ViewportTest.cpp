@@ -1,4 +1,5 @@
 // Pictures of scenes: what is seen, where, and in which colour.
+#define GL_GLEXT_PROTOTYPES
 #include "viewport/viewport.h"
 
 #include "engine/boundingBox.h"
@@ -9,6 +10,7 @@
 #include <maya/MPxLocatorNode.h>
 
 #include <GL/gl.h>
+#include <GL/glext.h>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -24,6 +26,7 @@ using viewport::Rgb;
 
 constexpr Rgb kBackground{92, 92, 92};
 constexpr Rgb kGrid{128, 128, 128};
+constexpr Rgb kGridAxis{0, 0, 0};
 constexpr Rgb kDormantWire{0, 4, 96};
 constexpr Rgb kLeadWire{67, 255, 163};
 
@@ -129,6 +132,80 @@ TEST_F(ViewportTest, AnEmptySceneShowsTheGridOnTheBackground)
     EXPECT_GT(count(picture, kGrid), 500);
     EXPECT_GT(count(picture, kBackground), 10000);
     EXPECT_EQ(count(picture, kDormantWire), 0);
+}
+
+TEST_F(ViewportTest, TheGridHasALineEachUnitUpToTwelveAndDarkAxes)
+{
+    // Ten pixels a unit; the origin is the pixel 150, 150.
+    set(*viewport::findCamera(m_scene, "top").value.node(), "orthographicWidth", 30.1);
+    const Picture picture = draw(301, 301, "top");
+    for (int x = 0; x < 301; ++x) {
+        const bool isLine = x % 10 == 0 && x >= 30 && x <= 270;
+        EXPECT_EQ(picture.at(x, 155), x == 150 ? kGridAxis : isLine ? kGrid : kBackground) << x;
+        EXPECT_EQ(picture.at(155, x), x == 150 ? kGridAxis : isLine ? kGrid : kBackground) << x;
+    }
+}
+
+TEST_F(ViewportTest, WhatLiesOnTheGridIsDrawnOverIt)
+{
+    set(*viewport::findCamera(m_scene, "top").value.node(), "orthographicWidth", 30.1);
+    create("locator", "markShape", &create("transform", "mark"));
+    EXPECT_EQ(draw(301, 301, "top").at(155, 150), kDormantWire);
+}
+
+TEST_F(ViewportTest, WhatIsNearerHidesWhatIsBehindIt)
+{
+    lookFromFront();
+    create("testLocator", "wall", &create("transform", "near"));
+    create("locator", "markShape", &create("transform", "mark"));
+    TestLocator::draws = [](M3dView&, const MDagPath&, M3dView::DisplayStatus) {
+        glColor4f(1, 1, 0, 1);
+        glRectd(-9, -9, 0, 9);
+        glTranslated(0, 0, 1);
+        glRectd(-9, 0.25, 9, 9);
+    };
+    const Picture picture = draw(401, 401);
+    // The cross is upright at the pixel 200 of 400, 0.25 is at 175; the wall below there is no nearer.
+    EXPECT_EQ(picture.at(200, 160), (Rgb{255, 255, 0}));
+    EXPECT_EQ(picture.at(200, 190), kDormantWire);
+}
+
+TEST_F(ViewportTest, TheAxesAreInFrontOfEverythingAndFitIntoASmallPicture)
+{
+    lookFromFront();
+    create("testLocator", "wall", &create("transform", "near"));
+    TestLocator::draws = [](M3dView&, const MDagPath&, M3dView::DisplayStatus) {
+        glTranslated(0, 0, 900);
+        glRectd(-9, -9, 9, 9);
+    };
+    EXPECT_NEAR(count(draw(200, 200), Rgb{255, 0, 0}), 23, 2);
+    EXPECT_NEAR(count(draw(12, 200), Rgb{255, 0, 0}), 4, 1);
+    EXPECT_NEAR(count(draw(200, 12), Rgb{0, 255, 0}), 4, 1);
+}
+
+TEST_F(ViewportTest, APictureOfAnyShapeIsNotDistorted)
+{
+    lookFromFront();
+    DagNode& transform = create("transform", "mark");
+    set(transform, "translateY", 0.5);
+    DagNode& shape = create("locator", "markShape", &transform);
+    set(shape, "localScaleX", 0.4);
+    set(shape, "localScaleY", 0.4);
+    const Picture picture = draw(401, 201);
+    // A hundred pixels a unit either way; the locator is at the pixel 200, 50.
+    for (const auto& [x, y] : {std::pair{165, 50}, {235, 50}, {200, 15}, {200, 85}})
+        EXPECT_EQ(picture.at(x, y), kDormantWire) << x << "," << y;
+    for (const auto& [x, y] : {std::pair{155, 50}, {245, 50}, {200, 5}, {200, 95}})
+        EXPECT_EQ(picture.at(x, y), kBackground) << x << "," << y;
+}
+
+TEST_F(ViewportTest, ALocatorsCrossIsAtItsLocalPosition)
+{
+    lookFromFront();
+    set(create("locator", "markShape", &create("transform", "mark")), "localPositionX", -1);
+    const Picture picture = draw(401, 401);
+    EXPECT_EQ(picture.at(100, 160), kDormantWire);
+    EXPECT_EQ(picture.at(200, 160), kBackground);
 }
 
 TEST_F(ViewportTest, ALocatorIsACrossOfItsScaleAtItsPlace)
@@ -305,6 +382,40 @@ TEST_F(ViewportTest, DisorderThatAPluginLeavesIsToldOnceAndRepaired)
     EXPECT_EQ(picture.at(200, 90), kBackground);
 }
 
+TEST_F(ViewportTest, APluginFindsGlAsItIsByDefault)
+{
+    create("mesh", "boxShape", &create("transform", "box"));
+    ASSERT_TRUE(m_scene.createNode("polyCube", "polyCube1"));
+    ASSERT_TRUE(
+        m_scene.connect(m_scene.findPlug("polyCube1.out").value, m_scene.findPlug("boxShape.i").value));
+    create("testLocator", "shape", &create("transform", "t"));
+    std::vector<bool> switches;
+    GLint matrixMode = 0;
+    TestLocator::draws = [&](M3dView&, const MDagPath&, M3dView::DisplayStatus) {
+        for (const GLenum which : {GL_DEPTH_TEST, GL_LIGHTING, GL_VERTEX_ARRAY})
+            switches.push_back(glIsEnabled(which) == GL_TRUE);
+        glGetIntegerv(GL_MATRIX_MODE, &matrixMode);
+    };
+    draw(10, 10);
+    EXPECT_EQ(switches, (std::vector<bool>{true, false, false}));
+    EXPECT_EQ(matrixMode, GL_MODELVIEW);
+}
+
+TEST_F(ViewportTest, APluginsViewIsThePictureWhateverWasBoundBefore)
+{
+    lookFromFront();
+    create("testLocator", "shape", &create("transform", "t"));
+    TestLocator::draws = [](M3dView& view, const MDagPath&, M3dView::DisplayStatus) {
+        glBindFramebuffer(GL_FRAMEBUFFER, 0);
+        view.beginGL();
+        glColor4f(1, 1, 0, 1);
+        glRectd(-9, -9, 9, 9);
+        view.endGL();
+        glBindFramebuffer(GL_FRAMEBUFFER, 0);
+    };
+    EXPECT_EQ(draw(40, 40).at(20, 10), (Rgb{255, 255, 0}));
+}
+
 TEST_F(ViewportTest, WhatAPluginSwitchesOnForItselfIsNotThereForOthers)
 {
     lookFromFront();
@@ -318,6 +429,7 @@ TEST_F(ViewportTest, WhatAPluginSwitchesOnForItselfIsNotThereForOthers)
         view.beginGL();
         glEnableClientState(GL_COLOR_ARRAY);
         glColorPointer(3, GL_FLOAT, 0, colors.data());
+        glColorMask(GL_FALSE, GL_FALSE, GL_FALSE, GL_FALSE);
         glPixelStorei(GL_PACK_ROW_LENGTH, 1000);
         glPixelStorei(GL_PACK_SKIP_ROWS, 100);
         view.endGL();
