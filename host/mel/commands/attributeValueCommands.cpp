@@ -1,9 +1,11 @@
 // setAttr and getAttr.
+#include "attributeElements.h"
 #include "commandSupport.h"
 #include "sceneCommands.h"
 
 #include "engine/animCurve.h"
 #include "engine/data.h"
+#include "engine/mesh.h"
 #include "scene/setAttr.h"
 #include "scene/uiUnits.h"
 
@@ -171,6 +173,70 @@ Value dataValue(const Data& data)
     }
 }
 
+Value valueOfPlug(CommandContext& context, const Plug& plug);
+
+/// The elements of an array that have a value: those that exist, and of what is told of each instance all.
+std::vector<Plug> elementsOf(const Plug& array)
+{
+    std::vector<Plug> elements;
+    engine::DagNode* dag = array.node()->asDag();
+    if (dag && array.attribute()->flags.worldSpace) {
+        const int instances = static_cast<int>(engine::DagPath::countTo(*dag));
+        for (int i = 0; i < instances; ++i)
+            elements.push_back(array.element(i));
+        return elements;
+    }
+    for (const int i : engine::existingElements(array))
+        elements.push_back(array.element(i));
+    return elements;
+}
+
+template <class List>
+void append(List& list, const List& more)
+{
+    list.insert(list.end(), more.begin(), more.end());
+}
+
+/// The values of several plugs of one attribute one after the other, as an array of texts or of numbers.
+Value valuesOf(CommandContext& context, const std::vector<Plug>& plugs)
+{
+    Value::Strings texts;
+    Value::Numbers numbers;
+    bool areWhole = true;
+    for (const Plug& plug : plugs) {
+        const Value value = valueOfPlug(context, plug);
+        switch (value.type()) {
+        case Type::integer:
+            numbers.push_back(value.integer());
+            continue;
+        case Type::integerArray:
+            append(numbers, Value::Numbers(value.integers().begin(), value.integers().end()));
+            continue;
+        case Type::number:
+            numbers.push_back(value.number());
+            break;
+        case Type::numberArray:
+            append(numbers, value.numbers());
+            break;
+        case Type::string:
+            texts.push_back(value.string());
+            break;
+        case Type::stringArray:
+            append(texts, value.strings());
+            break;
+        case Type::none:
+            continue;
+        default:
+            context.fail("getAttr: The values of '" + plug.name() + "' cannot be told together.");
+        }
+        areWhole = false;
+    }
+    if (!texts.empty())
+        return Value(std::move(texts));
+    return areWhole && !numbers.empty() ? Value(Value::Integers(numbers.begin(), numbers.end()))
+                                        : Value(std::move(numbers));
+}
+
 Value valueOfPlug(CommandContext& context, const Plug& plug)
 {
     Attribute& attribute = *plug.attribute();
@@ -184,7 +250,9 @@ Value valueOfPlug(CommandContext& context, const Plug& plug)
     }
     if (attribute.kind == AttributeKind::message)
         context.fail("getAttr: Message attributes have no data values.");
-    if (plug.isArray() || attribute.isCompound())
+    if (plug.isArray())
+        return valuesOf(context, elementsOf(plug));
+    if (attribute.isCompound())
         context.fail("getAttr: The attribute '" + plug.name() +
                      "' has no single value; ask for one of its parts.");
     const auto data = engine::readData(plug);
@@ -237,23 +305,56 @@ private:
     double m_before;
 };
 
+/// Has the geometry that a mesh holds as a whole in its attributes, where a plug is one of these.
+class GeometryInAttributes
+{
+public:
+    explicit GeometryInAttributes(const Plug& plug) : m_journal(plug.node()->scene().journal())
+    {
+        engine::Node& node = *plug.node();
+        const Attribute* top = plug.attribute();
+        while (top->parent)
+            top = top->parent;
+        if (!node.type().isA("mesh") || !isGeometry(top->longName))
+            return;
+        const engine::Journal::Into step(m_journal, &m_step);
+        engine::settleMesh(*node.asDag());
+    }
+    ~GeometryInAttributes()
+    {
+        const engine::Journal::Into nothing(m_journal, nullptr);
+        m_step.undo();
+    }
+    GeometryInAttributes(const GeometryInAttributes&) = delete;
+    GeometryInAttributes& operator=(const GeometryInAttributes&) = delete;
+
+private:
+    static bool isGeometry(const std::string& attribute)
+    {
+        return attribute == "vrts" || attribute == "edge" || attribute == "face";
+    }
+
+    engine::Journal& m_journal;
+    engine::Step m_step;
+};
+
 Value getAttr(CommandContext& context, const ParsedCommand& call)
 {
     engine::Scene& scene = sceneOf(context);
-    const std::string name = call.names().front();
-    const engine::SelectionItem item = itemNamed(context, name);
-    if (item.plug.isNull())
-        context.fail("No object matches name: " + name);
-    if (const Value state = stateValue(item.plug, call); !state.isNone())
+    const AskedPlugs what = plugsAsked(context, call.names().front());
+    const GeometryInAttributes geometry(what.plug);
+    if (const Value state = stateValue(what.plug, call); !state.isNone())
         return state;
-    if (call.has("asString") && item.plug.attribute()->kind == AttributeKind::enumeration) {
-        const auto number = static_cast<short>(valueOf(context, engine::readNumber(item.plug)).asWhole());
-        return Value(item.plug.attribute()->fieldName(number).value_or(""));
+    if (call.has("asString") && what.plug.attribute()->kind == AttributeKind::enumeration) {
+        const auto number = static_cast<short>(valueOf(context, engine::readNumber(what.plug)).asWhole());
+        return Value(what.plug.attribute()->fieldName(number).value_or(""));
     }
     std::optional<AtTime> at;
     if (const FlagUse* time = call.use("time"))
         at.emplace(scene, toInternal(context, time->arguments.front(), ArgumentType::time));
-    const Value value = valueOfPlug(context, item.plug);
+    const Value value = !what.points.isNone() ? what.points
+                        : what.isRange        ? valuesOf(context, what.elements)
+                                              : valueOfPlug(context, what.plug);
     if (call.has("expandEnvironmentVariables") && value.type() == Type::string)
         return Value(MString(value.string().c_str()).expandEnvironmentVariablesAndTilde().asChar());
     return value;

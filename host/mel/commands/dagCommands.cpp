@@ -225,6 +225,47 @@ Value group(CommandContext& context, const ParsedCommand& call)
     return Value(scene.shortestName(made));
 }
 
+/// What stands below a transform, by the path of that.
+std::vector<SelectionItem> childrenOf(const DagPath& path)
+{
+    std::vector<SelectionItem> items;
+    for (DagNode* child : engine::Node::Links(path.node()->children())) {
+        SelectionItem item;
+        item.node = child;
+        item.path = path;
+        if (item.path.push(*child))
+            items.push_back(item);
+    }
+    return items;
+}
+
+/// Puts what is in a group where the group stands, or elsewhere, and deletes the group.
+void dissolveGroup(CommandContext& context, const ParsedCommand& call, const SelectionItem& group)
+{
+    engine::Scene& scene = sceneOf(context);
+    if (!group.isDag() || !group.path.node()->isTransform() || group.path.node()->children().empty() ||
+        group.path.shapeBelow())
+        context.fail("'" + group.name() + "' is not a group");
+    DagPath to = DagPath::world(scene);
+    if (call.has("parent"))
+        to = DagPath::firstTo(dagNodeNamed(context, call.string("parent")));
+    else if (DagNode* above = call.has("world") ? nullptr : parentInPath(group))
+        to = DagPath::firstTo(*above);
+    for (const SelectionItem& item : childrenOf(group.path))
+        putBelow(context, item, to, call.has("relative"));
+    require(context, scene.deleteNode(*group.node));
+}
+
+Value ungroup(CommandContext& context, const ParsedCommand& call)
+{
+    const std::vector<SelectionItem> items = itemsOrSelection(context, call.names());
+    if (items.empty())
+        context.fail("Nothing is selected to ungroup.");
+    for (const SelectionItem& item : items)
+        dissolveGroup(context, call, item);
+    return {};
+}
+
 /// A transform with the numbers of another one.
 DagNode& transformLike(CommandContext& context, DagNode& original, const std::string& name, DagNode* above)
 {
@@ -306,6 +347,12 @@ void registerDagCommands(CommandTable& table)
                      switchFlag("a", "absolute", "keeps their place in the world (the default)"),
                      valueFlag("uag", "useAsGroup", A::name, "this transform instead of a new one")},
                     names(), group),
+        makeCommand("ungroup", "Takes objects out of groups, which are deleted",
+                    {switchFlag("a", "absolute", "keeps their place in the world (the default)"),
+                     switchFlag("r", "relative", "keeps the numbers of their transforms"),
+                     valueFlag("p", "parent", A::name, "what they stand under afterwards"),
+                     switchFlag("w", "world", "they stand under the world afterwards")},
+                    names(), ungroup),
         makeCommand("instance", "Makes instances of transforms",
                     {valueFlag("n", "name", A::string, "the new transform's name"),
                      switchFlag("lf", "leaf", "of shapes only; the transforms above them are copied"),

@@ -18,11 +18,13 @@ using engine::SelectionItem;
 
 namespace {
 
+/// None for whole objects, and for a star where the shape does not tell how many there are.
 std::optional<Components> numbersOf(const SelectionItem& item)
 {
     if (item.components.empty() || !item.isDag())
         return std::nullopt;
-    return engine::parseComponents(*item.path.node(), item.components);
+    std::optional<Components> numbers = engine::parseComponents(*item.path.node(), item.components);
+    return numbers && !numbers->empty() ? numbers : std::nullopt;
 }
 
 SelectionItem wholeOf(SelectionItem item)

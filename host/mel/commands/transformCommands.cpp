@@ -1,4 +1,5 @@
 // move, rotate, scale.
+#include "pointComponents.h"
 #include "sceneCommands.h"
 #include "transformParts.h"
 
@@ -155,10 +156,10 @@ MVector alongAxes(const ParsedCommand& call, const MVector& by, const MMatrix& a
     return sum;
 }
 
-Value move(CommandContext& context, const ParsedCommand& call)
+void moveObjects(const CommandContext& context, const ParsedCommand& call, const Amounts& amounts,
+                 const std::vector<DagPath>& paths)
 {
-    const Amounts amounts = amountsOf(context, call, ArgumentType::linear);
-    changeEach(context, call, transformsOf(context, amounts.objects), [&](const DagPath& path) {
+    changeEach(context, call, paths, [&](const DagPath& path) {
         changeParts(context, path, [&](Transformation& parts, const Parents& parents) {
             const bool isInObject = call.has("objectSpace");
             if (!isInObject && !call.has("localSpace"))
@@ -170,6 +171,29 @@ Value move(CommandContext& context, const ParsedCommand& call)
                     alongAxes(call, amounts.value, isInObject ? parts.matrix() : MMatrix(), parents.matrix);
         });
     });
+}
+
+/// Each point by itself, in the world or in the space of its shape.
+void movePoints(const CommandContext& context, const ParsedCommand& call, const Amounts& amounts,
+                const engine::SelectionItem& item)
+{
+    const bool isInWorld = !call.has("objectSpace") && !call.has("localSpace");
+    changePoints(context, item, isInWorld, [&](const engine::Vec3d& point) {
+        const MVector from(point.x, point.y, point.z);
+        const MVector to = call.has("relative") ? from + amounts.value : amounts.over(from);
+        return engine::Vec3d(to.x, to.y, to.z);
+    });
+}
+
+Value move(CommandContext& context, const ParsedCommand& call)
+{
+    const Amounts amounts = amountsOf(context, call, ArgumentType::linear);
+    std::vector<engine::SelectionItem> items = itemsOrSelection(context, amounts.objects);
+    const std::vector<engine::SelectionItem> components = takeComponents(items);
+    for (const engine::SelectionItem& item : components)
+        movePoints(context, call, amounts, item);
+    if (components.empty() || !items.empty())
+        moveObjects(context, call, amounts, transformsOf(context, items));
     return {};
 }
 

@@ -15,8 +15,14 @@ using engine::Outcome;
 
 std::vector<DagPath> transformsOf(const CommandContext& context, const std::vector<std::string>& names)
 {
+    return transformsOf(context, itemsOrSelection(context, names));
+}
+
+std::vector<DagPath> transformsOf(const CommandContext& context,
+                                  const std::vector<engine::SelectionItem>& items)
+{
     std::vector<DagPath> paths;
-    for (const engine::SelectionItem& item : itemsOrSelection(context, names)) {
+    for (const engine::SelectionItem& item : items) {
         if (!item.components.empty())
             context.fail("'" + context.command() + "' of components is not implemented: " + item.name());
         DagPath path = item.path;

@@ -17,6 +17,9 @@ namespace tvxhost::mel {
 std::vector<engine::DagPath> transformsOf(const CommandContext& context,
                                           const std::vector<std::string>& names);
 
+std::vector<engine::DagPath> transformsOf(const CommandContext& context,
+                                          const std::vector<engine::SelectionItem>& items);
+
 /// All parts of the transform at the end of a path, evaluated.
 api::Transformation partsOf(const CommandContext& context, const engine::DagPath& path);
 

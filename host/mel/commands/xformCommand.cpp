@@ -1,4 +1,5 @@
 // xform: the parts of a transform, one by one or as a whole.
+#include "pointComponents.h"
 #include "sceneCommands.h"
 #include "transformParts.h"
 
@@ -180,9 +181,8 @@ void append(Value::Numbers& numbers, const MVector& vector, double unit)
         numbers.push_back(component / unit);
 }
 
-Value boundingBox(const CommandContext& context, const DagPath& path, const View& view)
+Value numbersOf(const CommandContext& context, const Imath::Box3d& box)
 {
-    const Imath::Box3d box = boxOf(path, view.isWorld());
     const double unit = unitOf(context, A::linear);
     Value::Numbers numbers;
     append(numbers, MVector(box.min.x, box.min.y, box.min.z), unit);
@@ -196,7 +196,7 @@ Value queryXform(const CommandContext& context, const ParsedCommand& call, const
     const Transformation parts = partsOf(context, path);
     const Parents parents = api::parentsOf(path);
     if (call.has("boundingBox") || call.has("boundingBoxInvisible"))
-        return boundingBox(context, path, view);
+        return numbersOf(context, boxOf(path, view.isWorld()));
     if (call.has("matrix")) {
         const MMatrix matrix = view.isWorld() ? worldOf(parts, parents) : parts.matrix();
         return Value(Value::Numbers(&matrix.matrix[0][0], &matrix.matrix[0][0] + 16));
@@ -293,9 +293,52 @@ void setXform(const CommandContext& context, const ParsedCommand& call, const Da
     });
 }
 
+// Components have places, and a box around them.
+
+/// The box or the places of points, one after the other.
+Value queryPoints(const CommandContext& context, const ParsedCommand& call,
+                  const std::vector<engine::SelectionItem>& items)
+{
+    const bool isBox = call.has("boundingBox") || call.has("boundingBoxInvisible");
+    if (!isBox && !call.has("translation"))
+        context.fail("xform: components have a translation and a bounding box only");
+    Imath::Box3d box;
+    Value::Numbers numbers;
+    for (const engine::SelectionItem& item : items) {
+        const engine::Matrix toSpace =
+            viewOf(call).isWorld() ? item.path.inclusiveMatrix() : engine::Matrix();
+        for (const auto& [number, place] : pointsOf(context, item)) {
+            const engine::Vec3d point = place * toSpace;
+            box.extendBy(point);
+            append(numbers, MVector(point.x, point.y, point.z), unitOf(context, A::linear));
+        }
+    }
+    return isBox ? numbersOf(context, box) : Value(std::move(numbers));
+}
+
+void setPoints(const CommandContext& context, const ParsedCommand& call, const engine::SelectionItem& item)
+{
+    const FlagUse* use = call.use("translation");
+    if (!use)
+        context.fail("xform: of components only the translation can be set");
+    const View view = viewOf(call);
+    const MVector value = vectorOf(context, *use, A::linear);
+    const engine::Vec3d given(value.x, value.y, value.z);
+    changePoints(context, item, view.isWorld(),
+                 [&](const engine::Vec3d& point) { return view.isRelative ? point + given : given; });
+}
+
 Value xform(CommandContext& context, const ParsedCommand& call)
 {
-    const std::vector<DagPath> paths = transformsOf(context, call.names());
+    std::vector<engine::SelectionItem> items = itemsOrSelection(context, call.names());
+    const std::vector<engine::SelectionItem> components = takeComponents(items);
+    if (call.queries() && !components.empty())
+        return queryPoints(context, call, components);
+    for (const engine::SelectionItem& item : components)
+        setPoints(context, call, item);
+    if (!components.empty() && items.empty())
+        return {};
+    const std::vector<DagPath> paths = transformsOf(context, items);
     if (call.queries())
         return queryXform(context, call, paths.front());
     for (const DagPath& path : paths)

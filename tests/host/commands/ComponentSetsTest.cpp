@@ -221,6 +221,32 @@ TEST_F(ComponentSetsTest, everyInstanceHasItsOwnGroups)
     EXPECT_EQ(run("sets -anyMember red \"|net|netShape.f[0]\""), "0");
 }
 
+TEST_F(ComponentSetsTest, componentsOfGeometryThatIsNotThereAreNamedAsTheyWereWritten)
+{
+    run("createNode transform -n \"bare\"; createNode mesh -n \"bareShape\" -p bare;"
+        "setAttr bareShape.iog[0].og[0].gcl -type \"componentList\" 2 \"vtx[*]\" \"vtx[7]\";"
+        "connectAttr bareShape.iog[0].og[0] some.dsm -na;"
+        "setAttr bareShape.iog[0].og[1].gcl -type \"componentList\" 1 \"vtx[*]\";"
+        "connectAttr bareShape.iog[0].og[1] some.dsm -na");
+    EXPECT_THAT(strings("sets -q some"), ElementsAre("bare.vtx[7]", "bare.vtx[*]"));
+}
+
+TEST_F(ComponentSetsTest, listSetsTellsWhatAnObjectIsIn)
+{
+    run("sets -e -forceElement red net.f[0:1]; sets -add some net made.vtx[0]");
+    EXPECT_THAT(strings("listSets -object net"), ElementsAre("some"));
+    EXPECT_THAT(strings("listSets -object net.f[0]"), ElementsAre("red"));
+    EXPECT_THAT(strings("listSets -extendToShape -object net"),
+                ElementsAre("initialShadingGroup", "red", "some"));
+    EXPECT_THAT(strings("listSets -type 1 -ets -object made"), ElementsAre("initialShadingGroup"));
+    EXPECT_THAT(strings("listSets made.vtx[0:3]"), ElementsAre("initialShadingGroup", "some"));
+    EXPECT_THAT(strings("listSets -type 1"),
+                ElementsAre("initialShadingGroup", "initialParticleSE", "red", "blue"));
+    EXPECT_THAT(strings("listSets -type 2"), IsEmpty());
+    EXPECT_EQ(failure("listSets"), "listSets: say of which object, or -allSets");
+    EXPECT_EQ(failure("listSets -type 3"), "listSets: a type is 1 for rendering sets or 2 for deformer sets");
+}
+
 TEST_F(ComponentSetsTest, allOfItIsUndone)
 {
     expectUndoable("sets -e -forceElement red net.f[0:1]");

@@ -1,4 +1,4 @@
-// listRelatives, parent, group, instance.
+// listRelatives, parent, group, ungroup, instance.
 #include "CommandFixture.h"
 
 namespace tvxhost::mel {
@@ -178,6 +178,28 @@ TEST_F(DagCommandsTest, duplicatesOfGroupsKeepTheNamesBelow)
     EXPECT_THAT(strings("duplicate -po a"), ElementsAre("a2"));
     EXPECT_THAT(strings("listRelatives a2"), testing::IsEmpty());
     EXPECT_EQ(failure("select -cl; duplicate"), "Nothing is selected to duplicate.");
+}
+
+TEST_F(DagCommandsTest, ungroupPutsObjectsWhereTheGroupStood)
+{
+    run("setAttr a.t 1 2 3; setAttr c.t 10 0 0; group -n \"g\" b c; setAttr g.ty 5");
+    EXPECT_EQ(run("ungroup g"), "");
+    EXPECT_THAT(strings("ls -l b c"), ElementsAre("|a|b", "|a|c"));
+    EXPECT_EQ(run("objExists g"), "0");
+    EXPECT_THAT(numbers("xform -q -ws -t c"), ElementsAre(10, 5, 0)) << "they stay in their place";
+}
+
+TEST_F(DagCommandsTest, ungroupedObjectsCanKeepTheirNumbersAndGoElsewhere)
+{
+    run("setAttr a.t 1 2 3; setAttr b.t 4 5 6; createNode transform -n \"d\"; setAttr d.t 100 0 0; select a;"
+        "ungroup -relative -parent d");
+    EXPECT_THAT(strings("ls -l b"), ElementsAre("|d|b"));
+    EXPECT_THAT(numbers("getAttr b.t"), ElementsAre(4, 5, 6));
+    run("group -n \"outer\" d; ungroup -world d");
+    EXPECT_THAT(strings("ls -l b outer"), ElementsAre("|b", "|outer"));
+    EXPECT_THAT(numbers("xform -q -ws -t b"), ElementsAre(104, 5, 6));
+    EXPECT_EQ(failure("ungroup b"), "'b' is not a group");
+    EXPECT_EQ(failure("select -cl; ungroup"), "Nothing is selected to ungroup.");
 }
 
 TEST_F(DagCommandsTest, duplicatesCanShareTheShapes)

@@ -125,7 +125,9 @@ TEST_F(TransformCommandsTest, moveOfAShapeMovesItsTransform)
 TEST_F(TransformCommandsTest, componentsAreNotTakenForTheirObject)
 {
     run("createNode mesh -n \"s\" -p \"b\"; setAttr -s 2 s.vt[0:1] 0 0 0 1 0 0");
-    EXPECT_EQ(failure("move 1 2 3 s.vtx[0]"), "'move' of components is not implemented: b.vtx[0]");
+    EXPECT_EQ(failure("rotate 1 2 3 s.vtx[0]"), "'rotate' of components is not implemented: b.vtx[0]");
+    run("move 1 2 3 s.vtx[0]");
+    expectNear("getAttr b.r", {0, 0, 0});
     expectNear("getAttr b.t", {0, 0, 0});
 }
 

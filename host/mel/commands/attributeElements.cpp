@@ -1,0 +1,115 @@
+// What a name means to getAttr; see attributeElements.h.
+#include "attributeElements.h"
+
+#include "pointComponents.h"
+
+#include "engine/components.h"
+#include "engine/geometry/curveNode.h"
+
+#include <optional>
+#include <string_view>
+
+namespace tvxhost::mel {
+
+using engine::Components;
+using engine::Plug;
+using engine::SelectionItem;
+
+namespace {
+
+/// Through which attribute the points of a shape are moved.
+struct PointRow
+{
+    std::string_view word; ///< as names have it
+    const char* kind;      ///< of components
+    const char* shape;
+    const char* attribute;
+};
+
+constexpr PointRow kPointRows[] = {
+    {"vtx", "vtx", "mesh", "pnts"},
+    {"pt", "vtx", "mesh", "pnts"},
+    {"cv", "cv", "nurbsCurve", "controlPoints"},
+};
+
+Value placesOf(const CommandContext& context, const SelectionItem& item)
+{
+    const double unit = toInternal(context, Value(1.0), ArgumentType::linear);
+    Value::Numbers numbers;
+    for (const auto& [number, point] : pointsOf(context, item))
+        numbers.insert(numbers.end(), {point.x / unit, point.y / unit, point.z / unit});
+    return Value(std::move(numbers));
+}
+
+std::vector<Plug> elementsIn(const Plug& array, const Components& numbers)
+{
+    std::vector<Plug> elements;
+    for (const Components::Run& run : numbers.runs())
+        for (int i = run.first; i <= run.last; ++i)
+            elements.push_back(array.element(i));
+    return elements;
+}
+
+AskedPlugs componentsAsked(const CommandContext& context, const SelectionItem& item)
+{
+    engine::DagNode& shape = *item.path.node();
+    const std::size_t open = item.components.find('[');
+    for (const PointRow& row : kPointRows) {
+        if (open == std::string::npos || item.components.substr(0, open) != row.word ||
+            !shape.type().isA(row.shape))
+            continue;
+        const auto numbers = engine::parseComponents(shape, row.kind + item.components.substr(open));
+        if (!numbers)
+            break;
+        const Plug array = valueOf(context, shape.findPlug(row.attribute));
+        AskedPlugs what{array, true, elementsIn(array, *numbers), {}};
+        if (shape.type().isA("nurbsCurve") && !engine::hasCurveHistory(shape))
+            what.points = placesOf(context, item);
+        return what;
+    }
+    context.fail("No object matches name: " + item.name());
+}
+
+bool endsWith(std::string_view text, std::string_view end)
+{
+    return text.size() >= end.size() && text.substr(text.size() - end.size()) == end;
+}
+
+/// The run of elements that a name with a colon between brackets means; none for any other name. A transform
+/// stands for its shape.
+std::optional<scene::PlugTarget> rangeNamed(const CommandContext& context, const std::string& name)
+{
+    const std::size_t dot = name.find('.');
+    const std::size_t bracket = name.rfind('[');
+    if (dot == std::string::npos || bracket == std::string::npos || bracket < dot ||
+        name.find(':', bracket) == std::string::npos)
+        return std::nullopt;
+    const auto item = sceneOf(context).findItem(name.substr(0, name.find_first_of(".[", dot + 1)));
+    if (!item || item.value.plug.isNull())
+        return std::nullopt;
+    return valueOf(context, scene::findTarget(*item.value.plug.node(), name.substr(dot + 1)));
+}
+
+} // namespace
+
+AskedPlugs plugsAsked(const CommandContext& context, const std::string& name)
+{
+    if (const auto range = rangeNamed(context, name)) {
+        AskedPlugs what{range->plug, true, {}, {}};
+        for (std::size_t i = 0; i < range->count(); ++i)
+            what.elements.push_back(valueOf(context, range->nth(i)));
+        return what;
+    }
+    constexpr std::string_view kAll = "[*]";
+    if (endsWith(name, kAll))
+        if (const auto array = sceneOf(context).findPlug(name.substr(0, name.size() - kAll.size())))
+            return {array.value, false, {}, {}};
+    const SelectionItem item = itemNamed(context, name);
+    if (!item.components.empty())
+        return componentsAsked(context, item);
+    if (item.plug.isNull())
+        context.fail("No object matches name: " + name);
+    return {item.plug, false, {}, {}};
+}
+
+} // namespace tvxhost::mel
