@@ -1,6 +1,8 @@
 // Reading and writing files whole or not at all: see atomicFile.h.
 #include "atomicFile.h"
 
+#include "fileTests.h"
+
 #include <cerrno>
 #include <cstring>
 #include <random>
@@ -262,7 +264,7 @@ std::filesystem::path setAside(const std::filesystem::path& file)
     std::filesystem::path aside = file;
     aside += ".broken";
     const std::string stem = aside.string();
-    for (int i = 1; std::filesystem::exists(aside); ++i)
+    for (int i = 1; isThere(aside); ++i)
         aside = stem + std::to_string(i);
     std::error_code error;
     std::filesystem::rename(file, aside, error);

@@ -1,6 +1,7 @@
 // PluginLoader: finds, loads and unloads plug-ins, and knows what each of them registered.
 #include "pluginLoader.h"
 
+#include "engine/fileTests.h"
 #include "engine/observers.h"
 #include "engine/pluginData.h"
 #include "library.h"
@@ -35,17 +36,11 @@ std::vector<fs::path> searchPath()
     return folders;
 }
 
-bool isFile(const fs::path& path)
-{
-    std::error_code ignored;
-    return fs::is_regular_file(path, ignored);
-}
-
 /// The path itself or with the extension of a plug-in.
 std::optional<fs::path> fileAt(const fs::path& path)
 {
     for (const fs::path& candidate : {path, fs::path(path.string() + kExtension)})
-        if (isFile(candidate))
+        if (engine::isFile(candidate))
             return fs::absolute(candidate).lexically_normal();
     return std::nullopt;
 }

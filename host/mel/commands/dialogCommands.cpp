@@ -3,6 +3,8 @@
 #include "commandSupport.h"
 #include "sceneCommands.h"
 
+#include "engine/fileTests.h"
+
 #include <optional>
 
 namespace tvxhost::mel {
@@ -61,9 +63,9 @@ std::string chosenPath(const CommandContext& context, const std::string& answer,
     const fs::path path = fs::path(answer).is_absolute() ? fs::path(answer) : start / answer;
     const std::string text = withoutSlash(path);
     const bool wantsFolder = mode == FileMode::folder || mode == FileMode::folderOnly;
-    if (wantsFolder && !fs::is_directory(path))
+    if (wantsFolder && !engine::isFolder(path))
         context.fail(context.command() + ": there is no folder \"" + text + "\"");
-    if (mode != FileMode::anyFile && !wantsFolder && !fs::is_regular_file(path))
+    if (mode != FileMode::anyFile && !wantsFolder && !engine::isFile(path))
         context.fail(context.command() + ": there is no file \"" + text + "\"");
     return text;
 }

@@ -5,6 +5,7 @@
 
 #include "../interpreter.h"
 
+#include "engine/fileTests.h"
 #include "engine/scriptEditor.h"
 
 #include <algorithm>
@@ -97,7 +98,7 @@ Value queryFile(CommandContext& context, const ParsedCommand& call)
     const engine::Scene& scene = session.scene();
     const fs::path file(scene.fileName);
     if (call.has("exists"))
-        return Value(fs::exists(session.workspace.resolved(call.names().at(0))));
+        return Value(engine::isThere(session.workspace.resolved(call.names().at(0))));
     if (call.has("modified"))
         return Value(scene.isModified);
     if (call.has("sceneName"))

@@ -5,6 +5,7 @@
 #include "referenceEditCommands.h"
 #include "sceneCommands.h"
 
+#include "engine/fileTests.h"
 #include "scene/referenceEditList.h"
 #include "scene/referenceEvents.h"
 #include "scene/referenceFiles.h"
@@ -72,7 +73,7 @@ Value addReference(CommandContext& context, const ParsedCommand& call)
     if (call.positional.empty())
         context.fail("file -reference needs the name of a file");
     const fs::path file = session.workspace.resolved(call.names().front());
-    if (!fs::is_regular_file(file))
+    if (!engine::isFile(file))
         context.fail("File not found: \"" + file.string() + "\"");
 
     auto reference = std::make_unique<Reference>();
@@ -114,7 +115,7 @@ Value addReference(CommandContext& context, const ParsedCommand& call)
 /// Names another file and loads it; nothing has changed when there is none of that name.
 void replaceFile(CommandContext& context, Reference& reference, const fs::path& file)
 {
-    if (!fs::is_regular_file(file))
+    if (!engine::isFile(file))
         context.fail("File not found: \"" + file.string() + "\"");
     sceneOf(context).isModified = true;
     if (reference.parent) {

@@ -43,11 +43,18 @@ Outcome mayReplace(const std::filesystem::path& file)
                                         "move it away"};
 }
 
+/// The root of all when the folder that the program runs in is gone.
+std::filesystem::path currentFolder()
+{
+    std::error_code gone;
+    const std::filesystem::path folder = std::filesystem::current_path(gone);
+    return gone ? std::filesystem::path("/") : folder;
+}
+
 } // namespace
 
 SceneSession::SceneSession(engine::Scene& scene, api::PluginLoader* plugins)
-    : workspace(std::filesystem::current_path()), conditions(scene), jobs(scene), m_scene(scene),
-      m_plugins(plugins)
+    : workspace(currentFolder()), conditions(scene), jobs(scene), m_scene(scene), m_plugins(plugins)
 {
 }
 

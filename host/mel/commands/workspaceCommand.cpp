@@ -4,6 +4,7 @@
 
 #include "../interpreter.h"
 
+#include "engine/fileTests.h"
 #include "engine/observers.h"
 
 #include <algorithm>
@@ -199,13 +200,13 @@ Value queryWorkspace(CommandContext& context, const ParsedCommand& call)
 
 void readDefinition(CommandContext& context, const fs::path& folder)
 {
-    if (fs::exists(folder / Workspace::kFileName))
+    if (engine::isFile(folder / Workspace::kFileName))
         context.interpreter().sourceFile(folder / Workspace::kFileName);
 }
 
 void openProject(CommandContext& context, const fs::path& folder)
 {
-    if (!fs::is_directory(folder))
+    if (!engine::isFolder(folder))
         context.fail("workspace: there is no folder \"" + folder.string() + "\"");
     sessionOf(context).workspace.open(folder);
     readDefinition(context, folder);
@@ -215,9 +216,9 @@ void openProject(CommandContext& context, const fs::path& folder)
 /// A project without a definition yet. No folder is made; without one the root is that of the system.
 void newProject(CommandContext& context, const fs::path& folder)
 {
-    if (fs::exists(folder / Workspace::kFileName))
+    if (engine::isFile(folder / Workspace::kFileName))
         context.fail("workspace: there is a project in \"" + folder.string() + "\" already");
-    sessionOf(context).workspace.open(fs::is_directory(folder) ? folder : folder.root_path());
+    sessionOf(context).workspace.open(engine::isFolder(folder) ? folder : folder.root_path());
     sceneOf(context).observers().tell({engine::Happening::projectChanged});
 }
 
@@ -226,7 +227,7 @@ void baseOn(CommandContext& context, const std::string& name)
 {
     Workspace& project = sessionOf(context).workspace;
     const fs::path folder = project.folderNamed(name);
-    if (!fs::exists(folder / Workspace::kFileName))
+    if (!engine::isFile(folder / Workspace::kFileName))
         context.fail("workspace: there is no project '" + name + "'");
     Workspace own = project;
     project.open(folder);

@@ -55,6 +55,10 @@ TEST_F(DialogCommandsTest, whatMustExistDoes)
     EXPECT_EQ(failure("fileDialog2 -fm 1"), "fileDialog2: there is no file \"" + path("none.ma") + "\"");
     EXPECT_EQ(failure("fileDialog2 -fm 2"), "fileDialog2: there is no folder \"" + path("a.ma") + "\"");
     EXPECT_EQ(failure("fileDialog2 -fm 1"), "fileDialog2: there is no file \"" + path("scenes") + "\"");
+    const std::string tooLong(5000, 'a');
+    answer({tooLong, tooLong});
+    EXPECT_EQ(failure("fileDialog2 -fm 1"), "fileDialog2: there is no file \"" + path(tooLong) + "\"");
+    EXPECT_EQ(failure("fileDialog2 -fm 2"), "fileDialog2: there is no folder \"" + path(tooLong) + "\"");
     EXPECT_EQ(failure("fileDialog2 -fm 5"), "fileDialog2: there is no file mode 5");
 }
 

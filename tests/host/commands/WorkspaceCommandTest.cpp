@@ -179,6 +179,27 @@ TEST_F(WorkspaceCommandTest, aFolderMayBeCalledAsAProjectThatIsKnown)
     EXPECT_EQ(run("workspace -q -dir"), path("two/one"));
 }
 
+TEST_F(WorkspaceCommandTest, aNameThatIsTooLongIsThatOfNoFolder)
+{
+    const std::string name(5000, 'a');
+    EXPECT_EQ(failure("workspace -o " + name), "workspace: there is no folder \"" + path(name) + "\"");
+    EXPECT_EQ(failure("workspace -bw " + name), "workspace: there is no project '" + name + "'");
+    EXPECT_EQ(run("file -q -exists " + name), "0");
+    EXPECT_EQ(failure("file -r " + name), "File not found: \"" + path(name) + "\"");
+    run("workspace -n " + name);
+    EXPECT_EQ(run("workspace -q -rd"), "/");
+}
+
+TEST_F(WorkspaceCommandTest, theProjectIsTheRootWhereTheFolderOfTheProgramIsGone)
+{
+    const std::filesystem::path before = std::filesystem::current_path();
+    std::filesystem::create_directory(path("gone"));
+    std::filesystem::current_path(path("gone"));
+    std::filesystem::remove(path("gone"));
+    EXPECT_EQ(SceneSession(scene, nullptr).workspace.root(), "/");
+    std::filesystem::current_path(before);
+}
+
 TEST_F(WorkspaceCommandTest, makesFoldersAndKeepsTheCurrentOne)
 {
     run("workspace -cr \"scenes/old\"; workspace -dir \"scenes\"");
