@@ -328,7 +328,13 @@ Value Evaluator::sized(const ast::Declaration::Declarator& declarator, Type type
         sizes.push_back(size ? index(size) : 0);
     }
     if (type == Type::matrix) {
-        return sizes.size() == 2 ? Matrix(sizes[0], sizes[1]) : Matrix();
+        if (sizes.size() != 2) {
+            return Matrix();
+        }
+        if (sizes[0] * sizes[1] > kMostElements) {
+            throw ValueError("The matrix \"$" + declarator.name + "\" is too large.");
+        }
+        return Matrix(sizes[0], sizes[1]);
     }
     Value array = Value::neutral(type);
     if (sizes.front() > 0) {

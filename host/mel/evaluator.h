@@ -95,6 +95,8 @@ private:
     std::shared_ptr<Variable> require(const std::string& name);
     void declareOne(const ast::Declaration& declaration, const ast::Declaration::Declarator& declarator);
     std::shared_ptr<Variable> declared(const std::string& name, Type type, bool isGlobal, bool& isNew);
+    /// Elements one array may grow to; a larger index is a mistake, not an array.
+    static constexpr int kMostElements = 100'000'000;
     Value sized(const ast::Declaration::Declarator& declarator, Type type);
     void declareImplicitly(const std::string& name, const Value& value);
     std::size_t index(const ast::ExpressionPtr& expression);

@@ -9,9 +9,6 @@ namespace tvxhost::mel {
 
 namespace {
 
-// Elements one array may grow to; a larger index is a mistake, not an array.
-constexpr int kMostElements = 100'000'000;
-
 /// The type an array literal's elements have in common.
 Type commonType(const std::vector<Value>& elements)
 {
