@@ -1,6 +1,7 @@
 // TypeReader: see typeReader.h and types/README.md.
 #include "typeReader.h"
 
+#include "data.h"
 #include "tableWords.h"
 #include "units.h"
 
@@ -305,6 +306,10 @@ private:
 
     void readDefault(Attribute& attribute, const std::string& value)
     {
+        if (attribute.kind == AttributeKind::typed && attribute.dataType == DataType::string) {
+            attribute.defaultData = Ref<Data>(new StringData(value));
+            return;
+        }
         if (attribute.children.empty()) {
             attribute.defaultNumber = internalValue(attribute, number(value));
             return;

@@ -160,6 +160,13 @@ bool isJoined(const Plug& plug)
     return engine::isFedAnywhere(plug) || engine::isConnected(plug);
 }
 
+/// Elements that Maya counts and this host does not have: the list of shaders begins with four there.
+std::size_t elementsElsewhere(const Plug& array)
+{
+    const bool isShaderList = array.node()->isDefaultNode && array.attribute()->longName == "shaders";
+    return isShaderList ? 2 : 0;
+}
+
 const engine::KeptData* faceAt(const Plug& plug)
 {
     const auto data = engine::readData(plug);
@@ -197,7 +204,7 @@ void NodeWriter::writeArray(const Plug& array)
     const bool isOne = runs.size() == 1 && elements.size() > 1;
     for (const std::string& run : runs)
         line("setAttr" + (isOne ? sizeFlag(elements.size()) : std::string()) + run);
-    std::size_t written = runs.empty() ? 0 : elements.size();
+    std::size_t written = (runs.empty() ? 0 : elements.size()) + elementsElsewhere(array);
     for (const int index : elements) {
         const Plug element = array.element(index);
         const std::size_t before = m_out.size();

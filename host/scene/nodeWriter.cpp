@@ -43,6 +43,20 @@ std::string pathIn(const std::string& statement)
     return end == std::string::npos ? std::string() : statement.substr(begin + 2, end - begin - 2);
 }
 
+/// Whether a kept statement tells nothing but the size of an array.
+bool tellsSize(const std::string& statement)
+{
+    constexpr std::string_view kEnd = "\";";
+    return statement.rfind("setAttr -s", 0) == 0 && statement.size() > kEnd.size() &&
+           statement.compare(statement.size() - kEnd.size(), kEnd.size(), kEnd) == 0;
+}
+
+bool hasElements(engine::Node& node, const std::string& path)
+{
+    const auto array = node.findPlug(path);
+    return array && array.value.isArray() && !engine::existingElements(array.value).empty();
+}
+
 /// Types whose defaults are known for sure.
 constexpr std::array<std::string_view, 7> kCertainTypes = {"node",          "entity",  "dagNode",  "shape",
                                                            "geometryShape", "locator", "transform"};
@@ -96,7 +110,7 @@ bool NodeWriter::writeLines(engine::Node& node)
     for (const std::string& kept : node.keptLines)
         if (std::string altered = alteredPath(kept); !altered.empty())
             m_alteredPaths.insert(std::move(altered));
-        else if (std::string path = pathIn(kept); !path.empty())
+        else if (std::string path = pathIn(kept); !path.empty() && !tellsSize(kept))
             m_keptPaths.insert(std::move(path));
     const bool keepsLinesOnly = isPlaceholder(node, m_scene.types());
     if (!keepsLinesOnly) {
@@ -109,7 +123,7 @@ bool NodeWriter::writeLines(engine::Node& node)
     for (const std::string& kept : node.keptLines)
         if (kept.rfind("lockNode", 0) == 0)
             m_out += kept + '\n';
-        else if (alteredPath(kept).empty())
+        else if (alteredPath(kept).empty() && !(tellsSize(kept) && hasElements(node, pathIn(kept))))
             line(kept);
     if (const auto reference = references.find(&node); reference != references.end())
         writeEdits(reference->second);
@@ -131,9 +145,7 @@ void NodeWriter::writeLinkSizes(engine::Node& node)
         const auto count =
             std::count_if(m_scene.keptConnections.begin(), m_scene.keptConnections.end(),
                           [&](const std::string& statement) { return statement.rfind(start, 0) == 0; });
-        const auto array = node.findPlug(std::string(kind));
-        const bool isCounted = array && !engine::existingElements(array.value).empty();
-        if (count > 1 && !isCounted)
+        if (count > 1 && !hasElements(node, std::string(kind)))
             line("setAttr" + sizeFlag(static_cast<std::size_t>(count)) + pathText(path) + ";");
     }
 }

@@ -39,6 +39,13 @@ bool isAltered(const mel::ArgumentList& arguments, const SetAttrRequest& request
     return false;
 }
 
+/// Whether only the size of an array is told, of which nothing is there.
+bool tellsSizeOnly(const SetAttrRequest& request, const PlugTarget& target)
+{
+    return request.hasHint && !request.hasValues() && !request.changesState() && !target.isRange &&
+           target.plug.isArray() && engine::existingElements(target.plug).empty();
+}
+
 } // namespace
 
 /// Keeps a relative statement of a node (or default node) that is not understood; false when the section is
@@ -117,6 +124,8 @@ void SceneReader::setAttr(const SceneStatement& statement)
             keep(m_section.node->keptLines, statement);
         else if (isRelative && isAltered(statement.arguments, request))
             m_section.node->keptLines.push_back(alteredMark(std::string(request.plug.substr(1))));
+        else if (isRelative && m_section.node->isDefaultNode && tellsSizeOnly(request, target.value))
+            m_section.node->keptLines.push_back(keptText(statement.source));
         return;
     }
     if (!isRelative || set.reason != Reason::notImplemented)

@@ -17,6 +17,7 @@ using engine::NumberKind;
 namespace {
 
 constexpr std::size_t kLongString = 1024;
+constexpr std::size_t kLongestPiece = 2048;
 
 double parse(const std::string& text)
 {
@@ -64,14 +65,14 @@ std::size_t lineEnd(std::string_view text, std::size_t begin)
     return found == std::string_view::npos ? text.size() : found + 1;
 }
 
-/// Where to break a long string: behind the first line end past the limit, and before a line that is longer
-/// than the limit alone.
+/// Where to break a long string: behind the first line end past the limit, and before a line with which the
+/// piece would get too long.
 std::size_t pieceEnd(std::string_view text, std::size_t begin)
 {
     std::size_t end = lineEnd(text, begin);
     while (end < text.size() && end - begin <= kLongString) {
         const std::size_t next = lineEnd(text, end);
-        if (next - end > kLongString)
+        if (next - begin > kLongestPiece)
             break;
         end = next;
     }
@@ -108,7 +109,7 @@ std::string leafText(const engine::Attribute& leaf, double internal, const engin
 
 std::string stringText(std::string_view text)
 {
-    if (text.size() <= kLongString || pieceEnd(text, 0) == text.size())
+    if (text.size() <= kLongString)
         return mel::quoted(text);
     std::string joined = "(";
     for (std::size_t begin = 0; begin < text.size();) {

@@ -142,6 +142,7 @@ TEST(TypeReaderTest, ATableMakesTypes)
               "    size sz double =2 min=0 smax=10 keyable\n"
               "    mode m enum \"fields=Off:On=5:Very On\" =5\n"
               "    place p distance3 =1,2,3 hidden\n"
+              "    label lb string \"=two words\"\n"
               "    list l compound array unordered delete {\n"
               "        item it string\n"
               "        turn tu angle =90\n"
@@ -164,6 +165,7 @@ TEST(TypeReaderTest, ATableMakesTypes)
     EXPECT_FALSE(type.find("list")->flags.indexMatters);
     EXPECT_EQ(type.find("list")->disconnectBehaviour, 0);
     EXPECT_EQ(type.find("it")->parent, type.find("l"));
+    EXPECT_EQ(static_cast<const StringData&>(*type.find("label")->defaultData).value.str(), "two words");
     EXPECT_DOUBLE_EQ(type.find("turn")->defaultNumber, 3.14159265358979323846 / 2);
     EXPECT_FALSE(type.find("r")->flags.writable);
     EXPECT_TRUE(type.isOutput(*type.find("result")));

@@ -118,11 +118,11 @@ TEST_F(LineFormTest, listsThatTellTheirLengthBreakByTheWidthOfTheLine)
 TEST_F(LineFormTest, longStringsBreakBehindTheirLines)
 {
     const std::string line(600, 'x');
-    const std::string endless(1500, 'y');
+    const std::string endless(2500, 'y');
     expectKept("script -n \"s\"", "\tsetAttr \".b\" -type \"string\" (\n\t\t\"" + line + "\\n" + line +
                                       "\\n\"\n\t\t+ \"short\\n\"\n\t\t+ \"" + endless + "\\n\"\n\t\t+ \"" +
                                       line + "\");\n");
-    expectKept("script -n \"s\"", "\tsetAttr \".b\" -type \"string\" \"" + endless + "\";\n");
+    expectKept("script -n \"s\"", "\tsetAttr \".b\" -type \"string\" (\n\t\t\"" + endless + "\");\n");
 }
 
 TEST_F(LineFormTest, declarationsBreakBetweenAFlagAndItsValue)
@@ -261,6 +261,39 @@ TEST_F(LineFormTest, listsOfEverySceneAreNamedWhereSomethingIsInThem)
     EXPECT_NE(saved().find("select -ne :defaultTextureList1;\nselect -ne :initialShadingGroup;\n"),
               std::string::npos)
         << saved();
+}
+
+TEST_F(LineFormTest, theListOfShadersBeginsWithFour)
+{
+    read("");
+    EXPECT_NE(saved().find("select -ne :defaultShaderList1;\n\tsetAttr -s 4 \".s\";\n"), std::string::npos);
+    read("createNode blinn -n \"skin\";\nconnectAttr \"skin.msg\" \":defaultShaderList1.s\" -na;\n");
+    EXPECT_NE(saved().find("select -ne :defaultShaderList1;\n\tsetAttr -s 5 \".s\";\n"), std::string::npos);
+}
+
+TEST_F(LineFormTest, theRendererIsToldWhenItIsAnotherOne)
+{
+    const std::string section = "select -ne :defaultRenderGlobals;\n";
+    read("");
+    EXPECT_EQ(string("defaultRenderGlobals.ren"), "mayaSoftware");
+    EXPECT_EQ(saved().find(section), std::string::npos);
+    const std::string other = section + "\tsetAttr \".ren\" -type \"string\" \"mayaHardware2\";\n";
+    read(other);
+    EXPECT_NE(saved().find(other), std::string::npos);
+    const std::string shown = section + "\tsetAttr -cb on \".ren\";\n";
+    read(shown);
+    EXPECT_NE(saved().find(shown), std::string::npos);
+}
+
+TEST_F(LineFormTest, sizesOfWhatEverySceneHasStayWhereNothingElseIsKnown)
+{
+    const std::string solvers = "select -ne :ikSystem;\n\tsetAttr -s 4 \".sol\";\n";
+    read(solvers);
+    EXPECT_NE(saved().find(solvers), std::string::npos);
+    read(solvers +
+         "createNode ikRPsolver -n \"a\";\ncreateNode ikSCsolver -n \"b\";\n"
+         "connectAttr \"a.msg\" \":ikSystem.sol\" -na;\nconnectAttr \"b.msg\" \":ikSystem.sol\" -na;\n");
+    EXPECT_NE(saved().find("select -ne :ikSystem;\n\tsetAttr -s 2 \".sol\";\n"), std::string::npos);
 }
 
 TEST_F(LineFormTest, lockedNodesOfUnknownTypesAreLockedWithoutATab)

@@ -69,4 +69,36 @@ TEST(UiNumberText, settlesForNumbersThatNoTextGives)
     }
 }
 
+/// A line of that many characters, its end included.
+std::string lineOf(std::size_t length)
+{
+    return std::string(length - 1, 'x') + '\n';
+}
+std::string quotedLineOf(std::size_t length)
+{
+    return std::string(length - 1, 'x') + "\\n";
+}
+
+TEST(StringText, breaksBehindTheFirstLineEndPastAThousandCharacters)
+{
+    EXPECT_EQ(stringText(lineOf(500) + lineOf(524)), '"' + quotedLineOf(500) + quotedLineOf(524) + '"');
+    EXPECT_EQ(stringText(lineOf(500) + lineOf(524) + lineOf(10) + lineOf(20)),
+              "(\n\t\t\"" + quotedLineOf(500) + quotedLineOf(524) + quotedLineOf(10) + "\"\n\t\t+ \"" +
+                  quotedLineOf(20) + "\")");
+}
+
+TEST(StringText, breaksBeforeALineThatIsTooLongForWhatIsThere)
+{
+    EXPECT_EQ(stringText(lineOf(75) + lineOf(1516)),
+              "(\n\t\t\"" + quotedLineOf(75) + quotedLineOf(1516) + "\")");
+    EXPECT_EQ(stringText(lineOf(548) + lineOf(1507)),
+              "(\n\t\t\"" + quotedLineOf(548) + "\"\n\t\t+ \"" + quotedLineOf(1507) + "\")");
+}
+
+TEST(StringText, standsInParenthesesWhenItIsLongWithoutLineEnds)
+{
+    const std::string text(3411, 'x');
+    EXPECT_EQ(stringText(text), "(\n\t\t\"" + text + "\")");
+}
+
 } // namespace tvxhost::scene
