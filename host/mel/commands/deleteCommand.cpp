@@ -153,6 +153,51 @@ std::vector<SelectionItem> everything(engine::Scene& scene)
     return items;
 }
 
+/// What made the shapes at and below a node, the nearest first, and then what tells their groups apart.
+void addMakers(DagNode& node, Doomed& makers)
+{
+    for (DagNode* child : node.children())
+        addMakers(*child, makers);
+    const std::vector<Node*> history = node.isShape() ? geometryHistory(node) : std::vector<Node*>();
+    makers.insert(makers.end(), history.begin(), history.end());
+    for (const Plug& plug : engine::connectedPlugs(node))
+        if (const Plug source = engine::sourceOf(plug);
+            !source.isNull() && source.node()->type().isA("groupId"))
+            makers.emplace_back(source.node());
+}
+
+/// Whether anything comes of a node; that it is known to others is no use.
+bool isUsed(const Node& node)
+{
+    const std::vector<Plug> connected = engine::connectedPlugs(node);
+    return std::any_of(connected.begin(), connected.end(), [](const Plug& plug) {
+        return plug.attribute()->kind != engine::AttributeKind::message &&
+               !engine::destinationsOf(plug).empty();
+    });
+}
+
+bool canGo(const Node& node)
+{
+    return node.isAlive() && !node.isDefaultNode && !node.isShared && !node.isLockedNode &&
+           !node.isReferenced;
+}
+
+/// Deletes objects, and what made them unless it makes something else as well.
+void deleteObjects(const CommandContext& context, const Doomed& objects)
+{
+    engine::Scene& scene = sceneOf(context);
+    Doomed makers;
+    for (const engine::Ref<Node>& object : objects)
+        if (DagNode* dag = object->asDag())
+            addMakers(*dag, makers);
+    for (const engine::Ref<Node>& object : objects)
+        if (object->isAlive())
+            require(context, scene.deleteNode(*object));
+    for (const engine::Ref<Node>& maker : makers)
+        if (canGo(*maker) && !isUsed(*maker))
+            require(context, scene.deleteNode(*maker));
+}
+
 Value deleteNodes(CommandContext& context, const ParsedCommand& call)
 {
     engine::Scene& scene = sceneOf(context);
@@ -163,15 +208,16 @@ Value deleteNodes(CommandContext& context, const ParsedCommand& call)
     const bool onlyParts = call.has("constructionHistory") ||
                            std::any_of(std::begin(kDrivers), std::end(kDrivers),
                                        [&](const DriverFlag& row) { return call.has(row.longName); });
-    Doomed doomed;
-    if (onlyParts)
-        doomed = partsOf(context, items, call);
-    else
-        for (const SelectionItem& item : items)
-            doomed.push_back(item.node);
-    for (const engine::Ref<Node>& node : doomed)
-        if (node->isAlive())
-            require(context, scene.deleteNode(*node));
+    if (onlyParts) {
+        for (const engine::Ref<Node>& node : partsOf(context, items, call))
+            if (node->isAlive())
+                require(context, scene.deleteNode(*node));
+        return {};
+    }
+    Doomed objects;
+    for (const SelectionItem& item : items)
+        objects.push_back(item.node);
+    deleteObjects(context, objects);
     return {};
 }
 

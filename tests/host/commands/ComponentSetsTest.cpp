@@ -221,6 +221,20 @@ TEST_F(ComponentSetsTest, everyInstanceHasItsOwnGroups)
     EXPECT_EQ(run("sets -anyMember red \"|net|netShape.f[0]\""), "0");
 }
 
+TEST_F(ComponentSetsTest, whatMadeAnObjectAndItsGroupsGoesWithIt)
+{
+    const std::string history = "ls -type polyPlane -type groupParts -type groupId";
+    run("sets -e -forceElement red made.f[0]; delete made");
+    EXPECT_THAT(strings(history), IsEmpty());
+    run("polyPlane -n \"first\"; polyPlane -n \"second\" -ch 0;"
+        "connectAttr -f polyPlane1.output secondShape.inMesh; delete first");
+    EXPECT_THAT(strings(history), ElementsAre("polyPlane1")) << "it makes the other one as well";
+    run("instance -n \"third\" second; delete second");
+    EXPECT_THAT(strings(history), ElementsAre("polyPlane1"));
+    expectUndoable("delete third");
+    EXPECT_THAT(strings(history), IsEmpty());
+}
+
 TEST_F(ComponentSetsTest, componentsOfGeometryThatIsNotThereAreNamedAsTheyWereWritten)
 {
     run("createNode transform -n \"bare\"; createNode mesh -n \"bareShape\" -p bare;"
