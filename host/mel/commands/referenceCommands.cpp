@@ -46,14 +46,22 @@ Reference& referenceOf(CommandContext& context, const ParsedCommand& call)
     return referenceNamed(context, call.names().front());
 }
 
+/// For steps by which nodes of files go for good: what was edited before cannot be taken back behind them,
+/// not even when a step fails or the next one does.
+void requireForGood(CommandContext& context, const engine::Outcome& outcome)
+{
+    sceneOf(context).journal().flush();
+    require(context, outcome);
+}
+
 void load(CommandContext& context, Reference& reference)
 {
     if (reference.parent) {
-        require(context, sessionOf(context).setNestedLoaded(context.interpreter(), reference, true));
+        requireForGood(context, sessionOf(context).setNestedLoaded(context.interpreter(), reference, true));
         return;
     }
     if (reference.isLoaded)
-        require(context, scene::unloadReference(sceneOf(context), reference));
+        requireForGood(context, scene::unloadReference(sceneOf(context), reference));
     sessionOf(context).loadReference(context.interpreter(), reference);
 }
 
@@ -119,12 +127,12 @@ void replaceFile(CommandContext& context, Reference& reference, const fs::path& 
         context.fail("File not found: \"" + file.string() + "\"");
     sceneOf(context).isModified = true;
     if (reference.parent) {
-        require(context,
-                sessionOf(context).replaceNested(context.interpreter(), reference, file.string(), true));
+        requireForGood(
+            context, sessionOf(context).replaceNested(context.interpreter(), reference, file.string(), true));
         return;
     }
     if (reference.isLoaded)
-        require(context, scene::unloadReference(sceneOf(context), reference));
+        requireForGood(context, scene::unloadReference(sceneOf(context), reference));
     require(context, scene::nameFile(sceneOf(context), reference, file.string()));
     load(context, reference);
 }
@@ -156,16 +164,17 @@ Value unloadOne(CommandContext& context, const ParsedCommand& call)
 {
     return change(
         context, referenceNamed(context, call.string("unloadReference")), [&](Reference& reference) {
-            require(context, reference.parent && reference.isLoaded
-                                 ? sessionOf(context).setNestedLoaded(context.interpreter(), reference, false)
-                                 : scene::unloadReference(sceneOf(context), reference));
+            requireForGood(context,
+                           reference.parent && reference.isLoaded
+                               ? sessionOf(context).setNestedLoaded(context.interpreter(), reference, false)
+                               : scene::unloadReference(sceneOf(context), reference));
         });
 }
 
 Value importOne(CommandContext& context, const ParsedCommand& call)
 {
     return change(context, referenceOf(context, call), [&](Reference& reference) {
-        require(context, sessionOf(context).importReference(context.interpreter(), reference));
+        requireForGood(context, sessionOf(context).importReference(context.interpreter(), reference));
     });
 }
 
@@ -185,7 +194,7 @@ Value cleanOne(CommandContext& context, const ParsedCommand& call)
 Value removeOne(CommandContext& context, const ParsedCommand& call)
 {
     return change(context, referenceOf(context, call), [&](Reference& reference) {
-        require(context, scene::removeReference(sceneOf(context), reference));
+        requireForGood(context, scene::removeReference(sceneOf(context), reference));
     });
 }
 
@@ -324,7 +333,7 @@ Value changeReferences(CommandContext& context, const ParsedCommand& call)
 {
     const auto* action = std::find_if(std::begin(kActions), std::end(kActions),
                                       [&](const auto& candidate) { return call.has(candidate.first); });
-    // Nodes of files come and go for good: what was edited before cannot be taken back behind them.
+    // None of it can be taken back, see requireForGood().
     engine::Journal& journal = sceneOf(context).journal();
     const engine::Journal::Into nothing(journal, nullptr);
     Value result = action->second(context, call);

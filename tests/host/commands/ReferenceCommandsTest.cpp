@@ -56,6 +56,20 @@ TEST_F(ReferenceCommandsTest, aFileThatIsNoSceneIsAnErrorAndChangesNothing)
     EXPECT_EQ(run("objExists emptyRN"), "0");
 }
 
+TEST_F(ReferenceCommandsTest, nothingIsTakenBackBehindNodesThatWentAlsoWhenNoneCameInstead)
+{
+    std::ofstream(m_folder / "empty.ma") << "";
+    run("file -reference \"rig.ma\"; createNode transform -n \"own\"");
+    run("undoInfo -state on");
+    run("connectAttr own.tx rig:body.tx");
+    EXPECT_EQ(failure("file -loadReference noneRN"),
+              "'noneRN' is not a reference file, reference node, or referenced node.");
+    EXPECT_EQ(run("undo; undoInfo -q -redoName"), "connectAttr own.tx rig:body.tx");
+    run("redo");
+    EXPECT_EQ(failure("file -loadReference rigRN \"empty.ma\""), "The reference 'rigRN' could not be loaded");
+    EXPECT_EQ(failure("undo"), "There are no more commands to undo.");
+}
+
 TEST_F(ReferenceCommandsTest, charactersThatNamesMayNotHaveBecomeLowLines)
 {
     run("file -r -ns \"two words\" \"rig.ma\"; file -r -rpr \"my-own\" \"rig.ma\"");
