@@ -309,7 +309,8 @@ private:
 class GeometryInAttributes
 {
 public:
-    explicit GeometryInAttributes(const Plug& plug) : m_journal(plug.node()->scene().journal())
+    explicit GeometryInAttributes(const Plug& plug)
+        : m_scene(plug.node()->scene()), m_wasModified(m_scene.isModified)
     {
         engine::Node& node = *plug.node();
         const Attribute* top = plug.attribute();
@@ -317,13 +318,14 @@ public:
             top = top->parent;
         if (!node.type().isA("mesh") || !isGeometry(top->longName))
             return;
-        const engine::Journal::Into step(m_journal, &m_step);
+        const engine::Journal::Into step(m_scene.journal(), &m_step);
         engine::settleMesh(*node.asDag());
     }
     ~GeometryInAttributes()
     {
-        const engine::Journal::Into nothing(m_journal, nullptr);
+        const engine::Journal::Into nothing(m_scene.journal(), nullptr);
         m_step.undo();
+        m_scene.isModified = m_wasModified;
     }
     GeometryInAttributes(const GeometryInAttributes&) = delete;
     GeometryInAttributes& operator=(const GeometryInAttributes&) = delete;
@@ -334,7 +336,8 @@ private:
         return attribute == "vrts" || attribute == "edge" || attribute == "face";
     }
 
-    engine::Journal& m_journal;
+    engine::Scene& m_scene;
+    bool m_wasModified;
     engine::Step m_step;
 };
 

@@ -51,6 +51,16 @@ TEST_F(ArrayCommandsTest, groupsOfNumbersAreToldOneAfterTheOther)
     EXPECT_THAT(numbers("getAttr net.pnts[0:3].pntx"), ElementsAre(0, 0, 0, 4));
 }
 
+TEST_F(ArrayCommandsTest, askingForGeometryChangesNothing)
+{
+    run("polyPlane -n \"net\" -sx 1 -sy 1 -ch 0");
+    const std::string before = state();
+    scene.isModified = false;
+    EXPECT_EQ(numbers("getAttr netShape.vrts").size(), 12u);
+    EXPECT_FALSE(scene.isModified);
+    EXPECT_EQ(state(), before);
+}
+
 TEST_F(ArrayCommandsTest, matricesOfEachInstanceAreToldTogether)
 {
     run("setAttr n.t 1 2 3");
