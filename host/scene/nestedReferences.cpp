@@ -210,6 +210,7 @@ Outcome setNestedLoaded(Scene& scene, Reference& reference, bool isLoaded, const
     Reference& top = topReference(reference);
     ReferenceStates states = statesBelow(scene, top);
     states[reference.nodeName].isLoaded = isLoaded;
+    states[reference.nodeName].depth = depthBelow(options.references);
     return readAgain(scene, top, std::move(states), options, summary);
 }
 

@@ -150,8 +150,8 @@ void SceneReader::file(const SceneStatement& statement)
     const ReferenceState& state = m_states[added.nodeName];
     if (!state.file.empty())
         added.file = state.file;
-    if (!added.isDeferred && state.isLoaded.value_or(true) && m_options.loadsReferences)
-        loadReference(m_scene, added, m_options, m_states, m_summary);
+    if (!added.isDeferred)
+        loadReference(added, state.isLoaded.value_or(true));
 }
 
 void SceneReader::loadReferences()
@@ -159,9 +159,31 @@ void SceneReader::loadReferences()
     for (engine::Reference* reference : m_references) {
         if (reference->isLoaded)
             applyEdits(m_scene, *reference);
-        else if (m_states[reference->nodeName].isLoaded.value_or(false) && m_options.loadsReferences)
-            loadReference(m_scene, *reference, m_options, m_states, m_summary);
+        else if (reference->isDeferred)
+            loadReference(*reference, m_states[reference->nodeName].isLoaded.value_or(false));
     }
+}
+
+/// Which of the references that this file makes are read.
+ReferenceDepth SceneReader::referenceDepth() const
+{
+    if (!m_reference)
+        return m_options.references;
+    const auto state = m_states.find(m_reference->nodeName);
+    return state == m_states.end() ? ReferenceDepth::asSaved
+                                   : state->second.depth.value_or(ReferenceDepth::asSaved);
+}
+
+/// Loads one that this file makes, unless none are. `isWanted`: what was saved says that it is loaded.
+void SceneReader::loadReference(engine::Reference& reference, bool isWanted)
+{
+    const ReferenceDepth depth = referenceDepth();
+    if (depth == ReferenceDepth::none || (depth == ReferenceDepth::asSaved && !isWanted))
+        return;
+    std::optional<ReferenceDepth>& below = m_states[reference.nodeName].depth;
+    if (!below)
+        below = depthBelow(depth);
+    scene::loadReference(m_scene, reference, m_options, m_states, m_summary);
 }
 
 } // namespace tvxhost::scene

@@ -19,6 +19,15 @@ class StatementReader;
 
 namespace tvxhost::scene {
 
+/// Which references are read of the files that a file names.
+enum class ReferenceDepth
+{
+    asSaved, ///< as it was when the scene was saved
+    none,
+    topOnly, ///< those that it names itself, without the references within them
+    all
+};
+
 struct ReadOptions
 {
     /// Loads a plug-in that the file requires; the outcome says why it could not. Empty: none can be loaded.
@@ -28,8 +37,7 @@ struct ReadOptions
     std::function<void(mel::StatementReader&, const std::string& file)> runStatement;
     /// Where files that are named relatively are looked for beside the scene's own folder.
     std::vector<std::filesystem::path> projectFolders;
-    /// Leaves references unloaded, whatever the files say.
-    bool loadsReferences = true;
+    ReferenceDepth references = ReferenceDepth::asSaved;
     /// Called once the file has turned out to be a scene, right before the present one changes.
     std::function<void()> begins;
     /// Told how far the reading is, in bytes, now and then and at the end.

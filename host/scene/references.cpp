@@ -236,6 +236,11 @@ std::string namespaceOf(const Reference& reference)
     return reference.hasPrefix ? above : join(above, reference.space);
 }
 
+ReferenceDepth depthBelow(ReferenceDepth depth)
+{
+    return depth == ReferenceDepth::topOnly ? ReferenceDepth::none : depth;
+}
+
 void loadReference(Scene& scene, Reference& reference, const ReadOptions& options, ReferenceStates& states,
                    SceneSummary& summary)
 {

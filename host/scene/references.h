@@ -26,11 +26,15 @@ ReferenceStatement parseReference(const mel::ArgumentList& arguments);
 struct ReferenceState
 {
     std::optional<bool> isLoaded;
-    std::string file; ///< in place of the one that is named there; empty: that one
+    std::optional<ReferenceDepth> depth; ///< of the references that its own file names
+    std::string file;                    ///< in place of the one that is named there; empty: that one
 };
 /// These by the name of the reference node: what the scene says overrides what the files say that it refers
 /// to.
 using ReferenceStates = std::map<std::string, ReferenceState>;
+
+/// Which references are read of a file that another one names, of which those are.
+ReferenceDepth depthBelow(ReferenceDepth depth);
 
 /// Reads a reference's file and applies the edits of its reference node. A file that is not there is one
 /// warning, and the reference stays as it is. Errors and warnings are counted into `summary`.
@@ -45,7 +49,8 @@ engine::Outcome removeReference(engine::Scene& scene, engine::Reference& referen
 /// Takes a reference and its node out of the scene without its file's nodes.
 void dropReference(engine::Scene& scene, const engine::Reference& reference);
 /// Loads or unloads a reference within another one. The scene's own reference around it is read again, and
-/// with it all references below that, which are other objects afterwards.
+/// with it all references below that, which are other objects afterwards. `options.references` says which of
+/// those in the reference itself are loaded.
 engine::Outcome setNestedLoaded(engine::Scene& scene, engine::Reference& reference, bool isLoaded,
                                 const ReadOptions& options, SceneSummary& summary);
 /// Gives a reference within another one another file: an edit of the scene's own reference around it, which

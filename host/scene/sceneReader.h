@@ -90,6 +90,8 @@ private:
     void file(const SceneStatement& statement);
     std::string absoluteName(const std::string& name) const;
     void loadReferences();
+    void loadReference(engine::Reference& reference, bool isWanted);
+    ReferenceDepth referenceDepth() const;
 
     void error(const std::string& text, int line);
     void warning(const std::string& text, int line);

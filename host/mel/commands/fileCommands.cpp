@@ -45,7 +45,7 @@ Value openFile(CommandContext& context, const ParsedCommand& call)
     checkUnsaved(context, call);
     SceneSession& session = sessionOf(context);
     const fs::path file = session.workspace.resolved(call.names().at(0));
-    checkRead(context, session.open(context.interpreter(), file));
+    checkRead(context, session.open(context.interpreter(), file, referenceDepthOf(context, call)));
     return Value(file.string());
 }
 
@@ -53,7 +53,7 @@ Value importFile(CommandContext& context, const ParsedCommand& call)
 {
     SceneSession& session = sessionOf(context);
     const fs::path file = session.workspace.resolved(call.names().at(0));
-    checkRead(context, session.import(context.interpreter(), file));
+    checkRead(context, session.import(context.interpreter(), file, referenceDepthOf(context, call)));
     return Value(file.string());
 }
 
@@ -97,6 +97,8 @@ Value queryFile(CommandContext& context, const ParsedCommand& call)
     SceneSession& session = sessionOf(context);
     const engine::Scene& scene = session.scene();
     const fs::path file(scene.fileName);
+    if (call.has("exists") && call.positional.empty())
+        context.fail("file -query -exists: which file is asked for?");
     if (call.has("exists"))
         return Value(engine::isThere(session.workspace.resolved(call.names().at(0))));
     if (call.has("modified"))

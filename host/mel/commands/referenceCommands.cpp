@@ -20,6 +20,7 @@ namespace tvxhost::mel {
 namespace fs = std::filesystem;
 
 using engine::Reference;
+using scene::ReferenceDepth;
 
 namespace {
 
@@ -54,15 +55,16 @@ void requireForGood(CommandContext& context, const engine::Outcome& outcome)
     require(context, outcome);
 }
 
-void load(CommandContext& context, Reference& reference)
+void load(CommandContext& context, Reference& reference, ReferenceDepth depth)
 {
     if (reference.parent) {
-        requireForGood(context, sessionOf(context).setNestedLoaded(context.interpreter(), reference, true));
+        requireForGood(context,
+                       sessionOf(context).setNestedLoaded(context.interpreter(), reference, true, depth));
         return;
     }
     if (reference.isLoaded)
         requireForGood(context, scene::unloadReference(sceneOf(context), reference));
-    sessionOf(context).loadReference(context.interpreter(), reference);
+    sessionOf(context).loadReference(context.interpreter(), reference, depth);
 }
 
 /// A name with the characters that names may have; `others` are legal as well.
@@ -96,7 +98,9 @@ Value addReference(CommandContext& context, const ParsedCommand& call)
     reference->file = file.string();
     reference->from = scene.fileName;
     reference->words = "-typ \"mayaAscii\"";
-    reference->isDeferred = call.has("deferReference") && call.boolean("deferReference");
+    const ReferenceDepth depth = referenceDepthOf(context, call);
+    reference->isDeferred =
+        (call.has("deferReference") && call.boolean("deferReference")) || depth == ReferenceDepth::none;
 
     if (!scene::mayDo(scene, engine::Happening::referenceChecked, *reference))
         context.fail("File operation cancelled by user supplied callback.");
@@ -110,7 +114,7 @@ Value addReference(CommandContext& context, const ParsedCommand& call)
     scene.references.push_back(std::move(reference));
     Reference& added = *scene.references.back();
     if (!added.isDeferred)
-        sessionOf(context).loadReference(context.interpreter(), added);
+        sessionOf(context).loadReference(context.interpreter(), added, depth);
     if (!added.isDeferred && !added.isLoaded) {
         scene::dropReference(scene, added);
         context.fail("The file \"" + file.string() + "\" could not be referenced");
@@ -120,21 +124,28 @@ Value addReference(CommandContext& context, const ParsedCommand& call)
     return Value(shownPath(scene, added));
 }
 
-/// Names another file and loads it; nothing has changed when there is none of that name.
-void replaceFile(CommandContext& context, Reference& reference, const fs::path& file)
+void requireFile(CommandContext& context, const fs::path& file)
 {
     if (!engine::isFile(file))
         context.fail("File not found: \"" + file.string() + "\"");
+}
+
+/// Names another file and loads it; nothing has changed when there is none of that name.
+void replaceFile(CommandContext& context, Reference& reference, const fs::path& file, ReferenceDepth depth)
+{
+    requireFile(context, file);
+    const bool isLoaded = depth != ReferenceDepth::none;
     sceneOf(context).isModified = true;
     if (reference.parent) {
-        requireForGood(
-            context, sessionOf(context).replaceNested(context.interpreter(), reference, file.string(), true));
+        requireForGood(context, sessionOf(context).replaceNested(context.interpreter(), reference,
+                                                                 file.string(), isLoaded, depth));
         return;
     }
     if (reference.isLoaded)
         requireForGood(context, scene::unloadReference(sceneOf(context), reference));
     require(context, scene::nameFile(sceneOf(context), reference, file.string()));
-    load(context, reference);
+    if (isLoaded)
+        load(context, reference, depth);
 }
 
 template <class Change>
@@ -149,13 +160,17 @@ Value loadOne(CommandContext& context, const ParsedCommand& call)
 {
     Reference& reference = referenceNamed(context, call.string("loadReference"));
     const std::string node = reference.nodeName;
-    if (call.positional.empty())
-        load(context, reference);
+    const ReferenceDepth depth = referenceDepthOf(context, call);
+    const Workspace& workspace = sessionOf(context).workspace;
+    if (!call.positional.empty())
+        replaceFile(context, reference, workspace.resolved(call.names().front()), depth);
+    else if (depth == ReferenceDepth::none)
+        requireFile(context, workspace.resolved(reference.path.empty() ? reference.file : reference.path));
     else
-        replaceFile(context, reference, sessionOf(context).workspace.resolved(call.names().front()));
+        load(context, reference, depth);
     // Where the file is may show only now, and references in others are other objects afterwards.
     const Reference& loaded = referenceNamed(context, node);
-    if (!loaded.isLoaded)
+    if (!loaded.isLoaded && depth != ReferenceDepth::none)
         context.fail("The reference '" + node + "' could not be loaded");
     return Value(shownPath(sceneOf(context), loaded));
 }
@@ -164,10 +179,10 @@ Value unloadOne(CommandContext& context, const ParsedCommand& call)
 {
     return change(
         context, referenceNamed(context, call.string("unloadReference")), [&](Reference& reference) {
-            requireForGood(context,
-                           reference.parent && reference.isLoaded
-                               ? sessionOf(context).setNestedLoaded(context.interpreter(), reference, false)
-                               : scene::unloadReference(sceneOf(context), reference));
+            requireForGood(context, reference.parent && reference.isLoaded
+                                        ? sessionOf(context).setNestedLoaded(context.interpreter(), reference,
+                                                                             false, ReferenceDepth::asSaved)
+                                        : scene::unloadReference(sceneOf(context), reference));
         });
 }
 
@@ -306,6 +321,21 @@ Reference& referenceNamed(CommandContext& context, const std::string& name)
     context.fail("'" + name + "' is not a reference file, reference node, or referenced node.");
 }
 
+ReferenceDepth referenceDepthOf(CommandContext& context, const ParsedCommand& call)
+{
+    if (!call.has("loadReferenceDepth"))
+        return ReferenceDepth::asSaved;
+    constexpr std::pair<const char*, ReferenceDepth> kDepths[] = {
+        {"all", ReferenceDepth::all}, {"none", ReferenceDepth::none}, {"topOnly", ReferenceDepth::topOnly}};
+    const std::string name = call.string("loadReferenceDepth");
+    for (const auto& [word, depth] : kDepths)
+        if (name == word)
+            return depth;
+    if (name == "asPrefs" && call.has("loadReference"))
+        return ReferenceDepth::asSaved;
+    context.fail("Invalid value '" + name + "' of -loadReferenceDepth: all, none or topOnly");
+}
+
 std::vector<FlagSpec> referenceFlags()
 {
     using A = ArgumentType;
@@ -314,6 +344,8 @@ std::vector<FlagSpec> referenceFlags()
         valueFlag("ns", "namespace", A::string, "of the nodes of a referenced file", kCreateQuery),
         valueFlag("rpr", "renamingPrefix", A::string, "in front of the names of a referenced file's nodes"),
         valueFlag("dr", "deferReference", A::boolean, "does not load it", kCreateQuery),
+        valueFlag("lrd", "loadReferenceDepth", A::string,
+                  "which references are loaded: all, none, topOnly or, with -loadReference, asPrefs"),
         valueFlag("rfn", "referenceNode", A::string, "the node of a reference", kCreateQuery),
         switchFlag("rr", "removeReference", "removes a reference"),
         valueFlag("lr", "loadReference", A::string, "loads the reference of a reference node"),

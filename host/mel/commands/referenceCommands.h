@@ -4,6 +4,7 @@
 #include "../commandTable.h"
 
 #include "engine/reference.h"
+#include "scene/reader.h"
 
 #include <string>
 #include <vector>
@@ -17,6 +18,9 @@ class ParsedCommand;
 engine::Reference* findReference(CommandContext& context, const std::string& name);
 /// The same, or that of a node; stops the script when there is none.
 engine::Reference& referenceNamed(CommandContext& context, const std::string& name);
+
+/// Which references `-loadReferenceDepth` says; as they were saved when it is not there.
+scene::ReferenceDepth referenceDepthOf(CommandContext& context, const ParsedCommand& call);
 
 /// The flags of `file` that are about references.
 std::vector<FlagSpec> referenceFlags();

@@ -133,13 +133,15 @@ scene::ReadOptions SceneSession::readOptions(Interpreter& interpreter)
     return options;
 }
 
-scene::ReadResult SceneSession::open(Interpreter& interpreter, const std::filesystem::path& file)
+scene::ReadResult SceneSession::open(Interpreter& interpreter, const std::filesystem::path& file,
+                                     scene::ReferenceDepth depth)
 {
     scene::ReadResult result;
     result.outcome = mayDo(m_scene, Happening::openChecked, file);
     if (!result.outcome)
         return result;
     scene::ReadOptions options = readOptions(interpreter);
+    options.references = depth;
     options.begins = [&] {
         tell(m_scene, Happening::openBegun, file);
         tell(m_scene, Happening::readBegun, file);
@@ -153,13 +155,15 @@ scene::ReadResult SceneSession::open(Interpreter& interpreter, const std::filesy
     return result;
 }
 
-scene::ReadResult SceneSession::import(Interpreter& interpreter, const std::filesystem::path& file)
+scene::ReadResult SceneSession::import(Interpreter& interpreter, const std::filesystem::path& file,
+                                       scene::ReferenceDepth depth)
 {
     scene::ReadResult result;
     result.outcome = mayDo(m_scene, Happening::importChecked, file);
     if (!result.outcome)
         return result;
     scene::ReadOptions options = readOptions(interpreter);
+    options.references = depth;
     options.begins = [&] {
         tell(m_scene, Happening::importBegun, file);
         tell(m_scene, Happening::readBegun, file);
@@ -173,25 +177,32 @@ scene::ReadResult SceneSession::import(Interpreter& interpreter, const std::file
     return result;
 }
 
-void SceneSession::loadReference(Interpreter& interpreter, engine::Reference& reference)
+void SceneSession::loadReference(Interpreter& interpreter, engine::Reference& reference,
+                                 scene::ReferenceDepth depth)
 {
     scene::ReferenceStates states;
+    states[reference.nodeName].depth = scene::depthBelow(depth);
     scene::SceneSummary summary;
     scene::loadReference(m_scene, reference, readOptions(interpreter), states, summary);
 }
 
 engine::Outcome SceneSession::setNestedLoaded(Interpreter& interpreter, engine::Reference& reference,
-                                              bool isLoaded)
+                                              bool isLoaded, scene::ReferenceDepth depth)
 {
     scene::SceneSummary summary;
-    return scene::setNestedLoaded(m_scene, reference, isLoaded, readOptions(interpreter), summary);
+    scene::ReadOptions options = readOptions(interpreter);
+    options.references = depth;
+    return scene::setNestedLoaded(m_scene, reference, isLoaded, options, summary);
 }
 
 engine::Outcome SceneSession::replaceNested(Interpreter& interpreter, engine::Reference& reference,
-                                            const std::string& file, bool isLoaded)
+                                            const std::string& file, bool isLoaded,
+                                            scene::ReferenceDepth depth)
 {
     scene::SceneSummary summary;
-    return scene::replaceNested(m_scene, reference, file, isLoaded, readOptions(interpreter), summary);
+    scene::ReadOptions options = readOptions(interpreter);
+    options.references = depth;
+    return scene::replaceNested(m_scene, reference, file, isLoaded, options, summary);
 }
 
 engine::Outcome SceneSession::importReference(Interpreter& interpreter, engine::Reference& reference)

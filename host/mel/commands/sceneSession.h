@@ -81,15 +81,19 @@ public:
     /// who may forbid it.
     engine::Outcome newScene();
     /// Opens a file: `file -open`. A failure is a file that is no scene; what is wrong inside has been shown.
-    scene::ReadResult open(Interpreter& interpreter, const std::filesystem::path& file);
-    scene::ReadResult import(Interpreter& interpreter, const std::filesystem::path& file);
+    scene::ReadResult open(Interpreter& interpreter, const std::filesystem::path& file,
+                           scene::ReferenceDepth depth = scene::ReferenceDepth::asSaved);
+    scene::ReadResult import(Interpreter& interpreter, const std::filesystem::path& file,
+                             scene::ReferenceDepth depth = scene::ReferenceDepth::asSaved);
     /// Loads a reference; whether it was shows in the reference, what went wrong has been shown.
-    void loadReference(Interpreter& interpreter, engine::Reference& reference);
+    /// `depth` counts from it on: of none and of topOnly it is the only one.
+    void loadReference(Interpreter& interpreter, engine::Reference& reference, scene::ReferenceDepth depth);
     /// Loads or unloads a reference within another one; see scene::setNestedLoaded().
-    engine::Outcome setNestedLoaded(Interpreter& interpreter, engine::Reference& reference, bool isLoaded);
+    engine::Outcome setNestedLoaded(Interpreter& interpreter, engine::Reference& reference, bool isLoaded,
+                                    scene::ReferenceDepth depth);
     /// Gives a reference within another one another file; see scene::replaceNested().
     engine::Outcome replaceNested(Interpreter& interpreter, engine::Reference& reference,
-                                  const std::string& file, bool isLoaded);
+                                  const std::string& file, bool isLoaded, scene::ReferenceDepth depth);
     /// Makes the nodes of a reference the scene's own.
     engine::Outcome importReference(Interpreter& interpreter, engine::Reference& reference);
     /// Saves the scene under its name or another.

@@ -278,4 +278,79 @@ TEST_F(ReferenceCommandsTest, aReferenceWithinAnotherOneIsReplacedByAnEditOfThat
     EXPECT_EQ(run("objExists \"p:one:head\""), "1") << "the edit is gone";
 }
 
+/// A scene "shot.ma" that refers to a pair, which refers to the rig.
+class ReferenceDepthTest : public ReferenceCommandsTest
+{
+protected:
+    void SetUp() override
+    {
+        ReferenceCommandsTest::SetUp();
+        writeScene("pair.ma", "oneRN", "one", "rig.ma");
+        writeScene("shot.ma", "pRN", "p", "pair.ma");
+    }
+    void writeScene(const std::string& name, const std::string& node, const std::string& space,
+                    const std::string& file)
+    {
+        const std::string rest = " -ns \"" + space + "\" -dr 1 -rfn \"" + node + "\" \"" + file + "\";\n";
+        std::ofstream(m_folder / name) << "//Maya ASCII 2016 scene\nfile -rdi 1" << rest << "file -r" << rest
+                                       << "createNode reference -n \"" << node << "\";\n";
+    }
+    /// Whether the outer and the inner reference are loaded.
+    std::string loaded()
+    {
+        const auto isLoaded = [&](const std::string& node) {
+            return run("objExists \"" + node + "\"") == "1" ? run("referenceQuery -isLoaded \"" + node + "\"")
+                                                            : "-";
+        };
+        return isLoaded("pRN") + isLoaded("p:oneRN");
+    }
+};
+
+TEST_F(ReferenceDepthTest, saysWhichReferencesOfASceneAreLoaded)
+{
+    run("file -f -o \"shot.ma\"");
+    EXPECT_EQ(loaded(), "0-") << "as it was saved";
+    run("file -f -o -loadReferenceDepth \"topOnly\" \"shot.ma\"");
+    EXPECT_EQ(loaded(), "10");
+    run("file -f -o -lrd \"all\" \"shot.ma\"");
+    EXPECT_EQ(loaded(), "11");
+    run("file -f -new; file -i -lrd \"all\" \"shot.ma\"");
+    EXPECT_EQ(loaded(), "11");
+    run("file -f -o -lrd \"none\" \"shot.ma\"");
+    EXPECT_EQ(loaded(), "0-");
+    EXPECT_EQ(failure("file -f -o -lrd \"asPrefs\" \"shot.ma\""),
+              "Invalid value 'asPrefs' of -loadReferenceDepth: all, none or topOnly");
+}
+
+TEST_F(ReferenceDepthTest, countsFromTheReferenceThatIsLoaded)
+{
+    run("file -f -o \"shot.ma\"; file -lrd \"topOnly\" -loadReference \"pRN\"");
+    EXPECT_EQ(loaded(), "10");
+    run("file -lrd \"topOnly\" -loadReference \"p:oneRN\"");
+    EXPECT_EQ(loaded(), "11");
+    run("file -lrd \"asPrefs\" -loadReference \"pRN\"");
+    EXPECT_EQ(loaded(), "10");
+    run("file -lrd \"all\" -loadReference \"pRN\"");
+    EXPECT_EQ(loaded(), "11");
+    run("file -f -new; file -r -ns \"p\" -lrd \"all\" \"pair.ma\"");
+    EXPECT_EQ(loaded(), "11");
+    run("file -f -new; file -r -ns \"p\" -lrd \"none\" \"pair.ma\"");
+    EXPECT_EQ(loaded(), "0-");
+}
+
+TEST_F(ReferenceDepthTest, noneReplacesAFileWithoutLoadingIt)
+{
+    std::ofstream(m_folder / "two.ma") << "//Maya ASCII 2016 scene\ncreateNode transform -n \"tail\";\n";
+    run("file -f -o -lrd \"all\" \"shot.ma\"");
+    EXPECT_EQ(run("file -lrd \"none\" -loadReference \"p:oneRN\" \"two.ma\""), path("two.ma"));
+    EXPECT_EQ(loaded(), "10");
+    run("file -loadReference \"p:oneRN\"");
+    EXPECT_EQ(run("objExists \"p:one:tail\""), "1");
+    EXPECT_EQ(run("file -lrd \"none\" -loadReference \"pRN\" \"two.ma\""), path("two.ma"));
+    EXPECT_EQ(loaded(), "0-");
+    EXPECT_EQ(run("file -lrd \"none\" -loadReference \"pRN\""), path("two.ma"));
+    EXPECT_EQ(failure("file -lrd \"none\" -loadReference \"pRN\" \"gone.ma\""),
+              "File not found: \"" + path("gone.ma") + "\"");
+}
+
 } // namespace tvxhost::mel
