@@ -91,7 +91,9 @@ constexpr DeclarationQuestion kQuestions[] = {
 /// `addAttr -q`: what a declaration says.
 Value queryDeclaration(CommandContext& context, const ParsedCommand& call)
 {
-    const SelectionItem item = itemNamed(context, call.names().at(0));
+    if (call.positional.empty())
+        context.fail("addAttr: which attribute is asked for?");
+    const SelectionItem item = itemNamed(context, call.names().front());
     if (call.has("exists"))
         return Value(!item.plug.isNull());
     if (item.plug.isNull())

@@ -211,8 +211,10 @@ Value listAliases(const SelectionItem& item)
 Value aliasAttr(CommandContext& context, const ParsedCommand& call)
 {
     const std::vector<std::string> names = call.names();
+    if (call.queries() && names.empty())
+        context.fail("aliasAttr: whose aliases are asked for?");
     if (call.queries())
-        return listAliases(itemNamed(context, names.at(0)));
+        return listAliases(itemNamed(context, names.front()));
     if (call.has("remove")) {
         for (const std::string& name : names) {
             const Plug plug = plugNamed(context, name);

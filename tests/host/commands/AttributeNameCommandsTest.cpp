@@ -78,6 +78,8 @@ TEST_F(AttributeNameCommandsTest, anAliasGoesWithItsAttribute)
     run("aliasAttr first n.pairX second n.list[3] third n.pai fourth n.tx");
     run("deleteAttr n.pair; deleteAttr n.list");
     EXPECT_THAT(strings("aliasAttr -q n"), ElementsAre("third", "pai", "fourth", "translateX"));
+    EXPECT_EQ(failure("aliasAttr -q"), "aliasAttr: whose aliases are asked for?");
+    EXPECT_EQ(failure("addAttr -q -keyable"), "addAttr: which attribute is asked for?");
     run("addAttr -ln first n");
 }
 
