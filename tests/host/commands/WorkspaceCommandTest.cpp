@@ -185,6 +185,7 @@ TEST_F(WorkspaceCommandTest, aNameThatIsTooLongIsThatOfNoFolder)
     EXPECT_EQ(failure("workspace -o " + name), "workspace: there is no folder \"" + path(name) + "\"");
     EXPECT_EQ(failure("workspace -bw " + name), "workspace: there is no project '" + name + "'");
     EXPECT_EQ(run("file -q -exists " + name), "0");
+    EXPECT_EQ(failure("file -q -exists"), "file -query -exists: which file is asked for?");
     EXPECT_EQ(failure("file -r " + name), "File not found: \"" + path(name) + "\"");
     run("workspace -n " + name);
     EXPECT_EQ(run("workspace -q -rd"), "/");
