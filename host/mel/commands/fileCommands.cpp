@@ -99,8 +99,6 @@ Value queryFile(CommandContext& context, const ParsedCommand& call)
     const fs::path file(scene.fileName);
     if (call.has("exists") && call.positional.empty())
         context.fail("file -query -exists: which file is asked for?");
-    if (call.has("exists") && call.positional.empty())
-        context.fail("file -query -exists: which file is asked for?");
     if (call.has("exists"))
         return Value(engine::isThere(session.workspace.resolved(call.names().at(0))));
     if (call.has("modified"))
