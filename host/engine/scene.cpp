@@ -584,8 +584,18 @@ void Scene::emptyScene()
             takeOut(*node);
             dispose(*node);
         }
-    while (!m_waiting.empty())
-        dispose(**m_waiting.begin());
+    disposeWaiting();
+}
+
+/// In the order in which they were made, so that observers hear the same each time.
+void Scene::disposeWaiting()
+{
+    std::vector<Ref<Node>> nodes(m_waiting.begin(), m_waiting.end());
+    std::sort(nodes.begin(), nodes.end(),
+              [](const Ref<Node>& a, const Ref<Node>& b) { return a->m_serial < b->m_serial; });
+    for (const Ref<Node>& node : nodes)
+        if (node->m_isWaiting)
+            dispose(*node);
 }
 
 void Scene::newScene()

@@ -272,6 +272,7 @@ private:
     void wait(Node& node);
     void comeBack(Node& node, const Ref<Node>& next);
     void dispose(Node& node);
+    void disposeWaiting();
     void becomeTransform(DagNode& placeholder);
     void setName(Node& node, const std::string& name);
     void putName(Node& node, const std::string& name);

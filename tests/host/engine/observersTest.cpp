@@ -95,6 +95,24 @@ TEST_F(ObserversTest, ACheckIsAllowedUnlessSomebodyForbidsIt)
     EXPECT_FALSE(observers.allow(Happening::saveChecked, "/locked.ma"));
 }
 
+TEST_F(ObserversTest, NodesThatWereToComeBackAreDestroyedInTheOrderOfTheirMaking)
+{
+    std::vector<std::string> names;
+    Step own;
+    {
+        const Journal::Into kept(scene.journal(), &own);
+        for (int i = 0; i < 200; ++i) {
+            Node& node = *scene.createNode("time", "node" + std::to_string(i)).value;
+            names.push_back(node.name());
+            scene.observers().add({Happening::nodeDestroyed}, note(node.name()), &node);
+            ASSERT_TRUE(scene.deleteNode(node));
+        }
+    }
+    EXPECT_THAT(takeHeard(), IsEmpty());
+    scene.newScene();
+    EXPECT_EQ(takeHeard(), names);
+}
+
 TEST(Happenings, SomeHaveNamesInScripts)
 {
     EXPECT_EQ(Happening::selectionChanged, happeningNamed("SelectionChanged"));
