@@ -5,6 +5,7 @@
 #include "rendering/tvxGLScopes.h"
 
 #include <cmath>
+#include <cstdint>
 
 namespace tarvox::crowd {
 
@@ -16,7 +17,8 @@ void emitSide(float radius, float height, unsigned int segments)
     float angle = 0;
     const PrimitiveScope strip(GL_QUAD_STRIP);
     // Read as signed: counts that large would otherwise keep the drawing thread for minutes.
-    for (int pair = 0; pair <= static_cast<int>(segments); ++pair) {
+    const std::int64_t last = static_cast<int>(segments);
+    for (std::int64_t pair = 0; pair <= last; ++pair) {
         const float x = radius * std::cos(angle);
         const float z = radius * std::sin(angle);
         glVertex3f(x, 0, z);

@@ -5,6 +5,7 @@
 #include "rendering/tvxGLScopes.h"
 
 #include <cmath>
+#include <cstdint>
 
 namespace tarvox::crowd {
 
@@ -32,7 +33,7 @@ void emitVertex(const Ring& ring, float x, float y)
 void emitBand(const Ring& lower, const Ring& upper, int slices)
 {
     const PrimitiveScope strip(GL_QUAD_STRIP);
-    for (int j = 0; j <= slices; ++j) {
+    for (std::int64_t j = 0; j <= slices; ++j) {
         const float longitude = static_cast<float>(j - 1) * twoPi() / static_cast<float>(slices);
         const float x = std::cos(longitude);
         const float y = std::sin(longitude);

@@ -1,6 +1,7 @@
 // What a name means to getAttr; see attributeElements.h.
 #include "attributeElements.h"
 
+#include "listLimit.h"
 #include "pointComponents.h"
 
 #include "engine/components.h"
@@ -45,8 +46,8 @@ std::vector<Plug> elementsIn(const Plug& array, const Components& numbers)
 {
     std::vector<Plug> elements;
     for (const Components::Run& run : numbers.runs())
-        for (int i = run.first; i <= run.last; ++i)
-            elements.push_back(array.element(i));
+        for (long long i = run.first; i <= run.last; ++i)
+            elements.push_back(array.element(static_cast<int>(i)));
     return elements;
 }
 
@@ -61,6 +62,7 @@ AskedPlugs componentsAsked(const CommandContext& context, const SelectionItem& i
         const auto numbers = engine::parseComponents(shape, row.kind + item.components.substr(open));
         if (!numbers)
             break;
+        requireListable(context, numbers->count(), item.name());
         const Plug array = valueOf(context, shape.findPlug(row.attribute));
         AskedPlugs what{array, true, elementsIn(array, *numbers), {}};
         if (shape.type().isA("nurbsCurve") && !engine::hasCurveHistory(shape))
@@ -95,6 +97,7 @@ std::optional<scene::PlugTarget> rangeNamed(const CommandContext& context, const
 AskedPlugs plugsAsked(const CommandContext& context, const std::string& name)
 {
     if (const auto range = rangeNamed(context, name)) {
+        requireListable(context, range->count(), name);
         AskedPlugs what{range->plug, true, {}, {}};
         for (std::size_t i = 0; i < range->count(); ++i)
             what.elements.push_back(valueOf(context, range->nth(i)));

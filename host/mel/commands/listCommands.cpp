@@ -255,7 +255,7 @@ std::string withShortAttributes(const engine::Plug& plug, bool isLong)
     return plug.name(style);
 }
 
-std::vector<std::string> namesOf(SelectionItem item, const ParsedCommand& call)
+std::vector<std::string> namesOf(const CommandContext& context, SelectionItem item, const ParsedCommand& call)
 {
     if (call.has("uuid"))
         return {item.node->uuid()};
@@ -265,7 +265,7 @@ std::vector<std::string> namesOf(SelectionItem item, const ParsedCommand& call)
     }
     const bool isLong = call.has("long") || call.has("absoluteName");
     std::vector<std::string> names;
-    for (const SelectionItem& one : call.has("flatten") ? flattened({item}) : Members{item})
+    for (const SelectionItem& one : call.has("flatten") ? flattened(context, {item}) : Members{item})
         names.push_back(one.name(isLong));
     if (call.has("shortNames") && !item.plug.isNull())
         names = {withShortAttributes(item.plug, isLong)};
@@ -308,7 +308,7 @@ Value ls(CommandContext& context, const ParsedCommand& call)
     for (const SelectionItem& item : items) {
         if (!isListed(item, call))
             continue;
-        for (std::string& name : namesOf(item, call)) {
+        for (std::string& name : namesOf(context, item, call)) {
             list.push_back(std::move(name));
             if (call.has("showType"))
                 list.push_back(typeNameOf(*item.node));

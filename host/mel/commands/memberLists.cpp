@@ -1,6 +1,8 @@
 // Lists of members: see memberLists.h.
 #include "memberLists.h"
 
+#include "listLimit.h"
+
 #include "engine/components.h"
 #include "engine/scene.h"
 
@@ -124,7 +126,7 @@ Members without(const Members& items, const Members& others)
     return kept(items, others, false, &Components::without);
 }
 
-Members flattened(const Members& items)
+Members flattened(const CommandContext& context, const Members& items)
 {
     Members result;
     for (const SelectionItem& item : items) {
@@ -133,14 +135,25 @@ Members flattened(const Members& items)
             result.push_back(item);
             continue;
         }
+        requireListable(context, numbers->count(), item.name());
         SelectionItem one = item;
         for (const Components::Run& run : numbers->runs())
-            for (int i = run.first; i <= run.last; ++i) {
+            for (long long i = run.first; i <= run.last; ++i) {
                 one.components = numbers->kind() + '[' + std::to_string(i) + ']';
                 result.push_back(one);
             }
     }
     return result;
+}
+
+std::size_t countFlattened(const Members& items)
+{
+    std::size_t count = 0;
+    for (const SelectionItem& item : items) {
+        const std::optional<Components> numbers = numbersOf(item);
+        count += numbers ? numbers->count() : 1;
+    }
+    return count;
 }
 
 } // namespace tvxhost::mel

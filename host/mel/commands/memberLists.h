@@ -3,9 +3,12 @@
 
 #include "engine/selection.h"
 
+#include <cstddef>
 #include <vector>
 
 namespace tvxhost::mel {
+
+class CommandContext;
 
 using Members = std::vector<engine::SelectionItem>;
 
@@ -17,6 +20,9 @@ Members common(const Members& items, const Members& others);
 Members without(const Members& items, const Members& others);
 
 /// One item per component.
-Members flattened(const Members& items);
+/// Fails when there are too many of them.
+Members flattened(const CommandContext& context, const Members& items);
+/// How many items that would be.
+std::size_t countFlattened(const Members& items);
 
 } // namespace tvxhost::mel

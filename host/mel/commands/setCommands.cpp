@@ -69,7 +69,7 @@ Value query(CommandContext& context, const ParsedCommand& call)
         context.fail("'sets' in query mode needs one set");
     Node& set = setNamed(context, names.front());
     if (call.has("size"))
-        return Value(static_cast<int>(flattened(membersOf(call, set)).size()));
+        return Value(static_cast<int>(countFlattened(membersOf(call, set))));
     if (call.has("renderable"))
         return Value(set.type().isA("shadingEngine"));
     for (const ComponentSet& row : kComponentSets)

@@ -38,6 +38,19 @@ TEST_F(ArrayCommandsTest, aRangeIsToldElementByElement)
     EXPECT_EQ(failure("getAttr n.gone[0:2]"), "No object matches name: n.gone[0:2]");
 }
 
+TEST_F(ArrayCommandsTest, elementsThatNobodyCouldListAreRefused)
+{
+    run("polyCube -n cube; select cube.vtx[0:2147483647]");
+    const std::string most = ": at most 10000000 can be listed one by one";
+    for (const std::string command :
+         {"getAttr cubeShape.pt[0:2147483647]", "getAttr cubeShape.vtx[0:2147483647]"})
+        EXPECT_THAT(failure(command), testing::HasSubstr("is 2147483648 elements" + most)) << command;
+    EXPECT_THAT(failure("ls -sl -fl"), testing::HasSubstr("is 2147483648 elements" + most));
+    EXPECT_EQ(run("ls -sl"), "cube.vtx[0:2147483647]");
+    EXPECT_EQ(run("select cube.vtx[2147483646:2147483647]; ls -sl -fl"),
+              "cube.vtx[2147483646] cube.vtx[2147483647]");
+}
+
 TEST_F(ArrayCommandsTest, groupsOfNumbersAreToldOneAfterTheOther)
 {
     run("polyPlane -n \"net\" -w 2 -h 2 -sx 1 -sy 1 -ch 0; setAttr net.pnts[1] 0 3 0; setAttr net.pnts[3] 4 "
