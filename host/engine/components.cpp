@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <charconv>
+#include <iterator>
 
 namespace tvxhost::engine {
 
@@ -112,8 +113,8 @@ std::size_t Components::count() const
 void Components::add(Run run)
 {
     // Runs that touch the new one become part of it.
-    const auto begin = std::find_if(m_runs.begin(), m_runs.end(),
-                                    [&](const Run& other) { return other.last >= run.first - 1; });
+    const auto begin = std::lower_bound(m_runs.begin(), m_runs.end(), run.first - 1,
+                                        [](const Run& other, int first) { return other.last < first; });
     auto end = begin;
     for (; end != m_runs.end() && end->first - 1 <= run.last; ++end)
         run = {std::min(run.first, end->first), std::max(run.last, end->last)};
@@ -122,8 +123,11 @@ void Components::add(Run run)
 
 Components Components::joined(const Components& other) const
 {
-    Components all = *this;
-    for (const Run& run : other.m_runs)
+    std::vector<Run> runs;
+    std::merge(m_runs.begin(), m_runs.end(), other.m_runs.begin(), other.m_runs.end(),
+               std::back_inserter(runs), [](const Run& a, const Run& b) { return a.first < b.first; });
+    Components all(m_kind);
+    for (const Run& run : runs)
         all.add(run);
     return all;
 }
@@ -133,10 +137,14 @@ Components Components::common(const Components& other) const
     Components both(m_kind);
     if (m_kind != other.m_kind)
         return both;
-    for (const Run& a : m_runs)
-        for (const Run& b : other.m_runs)
-            if (const Run run{std::max(a.first, b.first), std::min(a.last, b.last)}; run.first <= run.last)
-                both.m_runs.push_back(run);
+    for (auto a = m_runs.begin(), b = other.m_runs.begin(); a != m_runs.end() && b != other.m_runs.end();) {
+        if (const Run run{std::max(a->first, b->first), std::min(a->last, b->last)}; run.first <= run.last)
+            both.m_runs.push_back(run);
+        if (a->last < b->last)
+            ++a;
+        else
+            ++b;
+    }
     return both;
 }
 
@@ -145,17 +153,21 @@ Components Components::without(const Components& other) const
     if (m_kind != other.m_kind)
         return *this;
     Components rest(m_kind);
-    for (const Run& run : m_runs) {
-        int first = run.first;
-        for (const Run& gap : other.m_runs) {
-            if (gap.last < first || gap.first > run.last)
-                continue;
-            if (gap.first > first)
-                rest.m_runs.push_back({first, gap.first - 1});
-            first = gap.last + 1;
+    auto gap = other.m_runs.begin();
+    const auto end = other.m_runs.end();
+    for (Run run : m_runs) {
+        while (gap != end && gap->last < run.first)
+            ++gap;
+        // The last gap may reach into the next run too.
+        for (; gap != end && gap->first <= run.last; ++gap) {
+            if (gap->first > run.first)
+                rest.m_runs.push_back({run.first, gap->first - 1});
+            if (gap->last >= run.last)
+                break;
+            run.first = gap->last + 1;
         }
-        if (first <= run.last)
-            rest.m_runs.push_back({first, run.last});
+        if (gap == end || gap->first > run.last)
+            rest.m_runs.push_back(run);
     }
     return rest;
 }

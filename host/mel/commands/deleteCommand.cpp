@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <string_view>
+#include <unordered_set>
 
 namespace tvxhost::mel {
 
@@ -153,17 +154,29 @@ std::vector<SelectionItem> everything(engine::Scene& scene)
     return items;
 }
 
-/// What made the shapes at and below a node, the nearest first, and then what tells their groups apart.
-void addMakers(DagNode& node, Doomed& makers)
+/// A node and what is below it, each once.
+std::vector<DagNode*> withBelow(DagNode& top)
 {
-    for (DagNode* child : node.children())
-        addMakers(*child, makers);
-    const std::vector<Node*> history = node.isShape() ? geometryHistory(node) : std::vector<Node*>();
-    makers.insert(makers.end(), history.begin(), history.end());
-    for (const Plug& plug : engine::connectedPlugs(node))
-        if (const Plug source = engine::sourceOf(plug);
-            !source.isNull() && source.node()->type().isA("groupId"))
-            makers.emplace_back(source.node());
+    std::vector<DagNode*> nodes = {&top};
+    std::unordered_set<const DagNode*> known = {&top};
+    for (std::size_t i = 0; i < nodes.size(); ++i)
+        for (DagNode* child : nodes[i]->children())
+            if (known.insert(child).second)
+                nodes.push_back(child);
+    return nodes;
+}
+
+/// What made the shapes at and below a node, the nearest first, and then what tells their groups apart.
+void addMakers(DagNode& top, Doomed& makers)
+{
+    for (DagNode* node : withBelow(top)) {
+        const std::vector<Node*> history = node->isShape() ? geometryHistory(*node) : std::vector<Node*>();
+        makers.insert(makers.end(), history.begin(), history.end());
+        for (const Plug& plug : engine::connectedPlugs(*node))
+            if (const Plug source = engine::sourceOf(plug);
+                !source.isNull() && source.node()->type().isA("groupId"))
+                makers.emplace_back(source.node());
+    }
 }
 
 /// Whether anything comes of a node; that it is known to others is no use.

@@ -57,6 +57,18 @@ TEST_F(NodeCommandsTest, renameMakesNamesUniqueAndTakesShapesAlong)
     EXPECT_EQ(run("rename \"stone\" \"a\""), "a1");
 }
 
+TEST_F(NodeCommandsTest, deleteReachesAnyDepthAndWhatStandsThereManyTimes)
+{
+    run("string $above = `createNode transform -n \"chain\"`; int $i; for ($i = 0; $i < 10000; $i++) "
+        "$above = `createNode transform -p $above -n (\"level\" + $i)`");
+    // Below each of them two transforms, both with the next one: as many paths as 2 to the power of 16.
+    run("createNode transform -n g0; for ($i = 0; $i < 16; $i++) { createNode transform -p (\"g\" + $i) -n "
+        "(\"p\" + $i); createNode transform -p (\"g\" + $i) -n (\"q\" + $i); createNode transform -p (\"p\" "
+        "+ $i) -n (\"g\" + ($i + 1)); parent -add (\"g\" + ($i + 1)) (\"q\" + $i); }");
+    run("delete chain g0");
+    EXPECT_EQ(run("ls -type transform"), "persp top front side");
+}
+
 TEST_F(NodeCommandsTest, deleteTakesWhatIsBelowAlong)
 {
     run("createNode transform -n \"a\"; createNode transform -n \"b\" -p \"a\"; delete \"a\"");
