@@ -5,8 +5,10 @@
 
 #include <Imath/ImathBox.h>
 
+#include <algorithm>
 #include <array>
 #include <functional>
+#include <iterator>
 #include <optional>
 
 namespace tvxhost::mel {
@@ -185,6 +187,56 @@ void movePoints(const CommandContext& context, const ParsedCommand& call, const 
     });
 }
 
+/// A pivot that is named by its attribute.
+struct PivotRow
+{
+    const char* attribute;
+    MVector Transformation::*pivot;
+    void (Transformation::*set)(const MVector& pivot, bool balance);
+};
+
+constexpr PivotRow kPivots[] = {
+    {"rotatePivot", &Transformation::rotatePivot, &Transformation::setRotatePivot},
+    {"scalePivot", &Transformation::scalePivot, &Transformation::setScalePivot},
+};
+
+const PivotRow* pivotNamed(const engine::SelectionItem& item)
+{
+    if (item.plug.isNull() || !item.isDag() || !item.path.node()->isTransform())
+        return nullptr;
+    const auto* row = std::find_if(std::begin(kPivots), std::end(kPivots), [&](const PivotRow& each) {
+        return item.plug.attribute()->longName == each.attribute;
+    });
+    return row == std::end(kPivots) ? nullptr : row;
+}
+
+/// The object stays where it is.
+void movePivot(const CommandContext& context, const ParsedCommand& call, const Amounts& amounts,
+               const DagPath& path, const PivotRow& row)
+{
+    changeParts(context, path, [&](Transformation& parts, const Parents& parents) {
+        const bool isInWorld = !call.has("objectSpace") && !call.has("localSpace");
+        const MMatrix space = isInWorld ? parts.matrix() * parents.matrix : MMatrix();
+        const MVector from(MPoint(parts.*row.pivot) * space);
+        const MVector to = call.has("relative") ? from + amounts.value : amounts.over(from);
+        (parts.*row.set)(MVector(MPoint(to) * space.inverse()), true);
+    });
+}
+
+/// Moves the pivots among the items, and takes them out.
+/// @return whether there were any
+bool movePivots(const CommandContext& context, const ParsedCommand& call, const Amounts& amounts,
+                std::vector<engine::SelectionItem>& items)
+{
+    const auto objectsEnd = std::stable_partition(
+        items.begin(), items.end(), [](const engine::SelectionItem& item) { return !pivotNamed(item); });
+    const bool isAny = objectsEnd != items.end();
+    for (auto item = objectsEnd; item != items.end(); ++item)
+        movePivot(context, call, amounts, item->path, *pivotNamed(*item));
+    items.erase(objectsEnd, items.end());
+    return isAny;
+}
+
 Value move(CommandContext& context, const ParsedCommand& call)
 {
     const Amounts amounts = amountsOf(context, call, ArgumentType::linear);
@@ -192,7 +244,8 @@ Value move(CommandContext& context, const ParsedCommand& call)
     const std::vector<engine::SelectionItem> components = takeComponents(items);
     for (const engine::SelectionItem& item : components)
         movePoints(context, call, amounts, item);
-    if (components.empty() || !items.empty())
+    const bool hasMoved = movePivots(context, call, amounts, items) || !components.empty();
+    if (!hasMoved || !items.empty())
         moveObjects(context, call, amounts, transformsOf(context, items));
     return {};
 }

@@ -25,6 +25,8 @@ std::vector<DagPath> transformsOf(const CommandContext& context,
     for (const engine::SelectionItem& item : items) {
         if (!item.components.empty())
             context.fail("'" + context.command() + "' of components is not implemented: " + item.name());
+        if (!item.plug.isNull())
+            context.fail("'" + context.command() + "' is of objects, not of attributes: " + item.name());
         DagPath path = item.path;
         while (path.isValid() && path.length() > 0 && !path.node()->isTransform())
             if (!path.pop())

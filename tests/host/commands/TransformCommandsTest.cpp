@@ -88,6 +88,23 @@ TEST_F(TransformCommandsTest, moveTakesTheTranslationUnlessAPivotIsAskedFor)
     expectNear("getAttr a.t", {1, -5, 3});
 }
 
+TEST_F(TransformCommandsTest, movePutsPivotsWhereTheObjectStays)
+{
+    // A quarter turn about z at x = 10: the object's (3, 0, 0) is (10, 3, 0) in the world.
+    run("setAttr a.t 10 0 0; setAttr a.r 0 0 90; move 10 3 0 a.rotatePivot a.scalePivot");
+    expectNear("getAttr a.rp", {3, 0, 0});
+    expectNear("getAttr a.sp", {3, 0, 0});
+    expectNear("xform -q -ws -rp a", {10, 3, 0});
+    expectNear("xform -q -ws -m a", {0, 1, 0, 0, -1, 0, 0, 0, 0, 0, 1, 0, 10, 0, 0, 1});
+    // A world's y is the object's x.
+    run("move -r 0 2 0 a.rotatePivot");
+    expectNear("getAttr a.rp", {5, 0, 0});
+    run("move -os -x 1 a.rotatePivot");
+    expectNear("getAttr a.rp", {1, 0, 0});
+    expectNear("xform -q -ws -m a", {0, 1, 0, 0, -1, 0, 0, 0, 0, 0, 1, 0, 10, 0, 0, 1});
+    EXPECT_EQ(failure("move 1 2 3 a.translate"), "'move' is of objects, not of attributes: a.translate");
+}
+
 TEST_F(TransformCommandsTest, moveAlongTheObjectsAxesIsScaledWithIt)
 {
     run("setAttr a.r 0 0 90; setAttr a.s 2 1 1; move -r -os 3 0 0 a");
