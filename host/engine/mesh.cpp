@@ -199,7 +199,7 @@ void changeHeld(DagNode& shape, Ref<Data> held, const Change& change)
         held = held->clone();
     auto& mesh = static_cast<MeshData&>(*held);
     change(mesh);
-    mesh.forgetNormals();
+    mesh.forgetDerived();
     hold(shape, held);
 }
 

@@ -16,68 +16,16 @@
 #include <numeric>
 
 using namespace tvxhost;
-using api::failure;
-using api::StatusText;
+using api::readMesh;
+using api::requireThere;
 using api::targetOf;
+using api::withEdge;
+using api::withFace;
+using api::withMesh;
+using api::withPlacedMesh;
 using engine::MeshData;
 
 namespace {
-
-/// Runs `use(mesh)`, which returns a status.
-template <class Use>
-MStatus withMesh(const MFnMesh& set, const Use& use)
-{
-    const api::MeshTarget target = targetOf(set);
-    const MeshData* mesh = target.mesh();
-    return mesh ? use(*mesh) : target.status();
-}
-
-/// What `read(mesh)` gives; 0 without a mesh.
-template <class Read>
-int readMesh(const MFnMesh& set, MStatus* returnStatus, const Read& read)
-{
-    int value = 0;
-    api::give(returnStatus, withMesh(set, [&](const MeshData& mesh) -> MStatus {
-                  value = static_cast<int>(read(mesh));
-                  return MS::kSuccess;
-              }));
-    return value;
-}
-
-/// Runs `use(mesh, matrix)`, which returns a status, with the matrix to a space.
-template <class Use>
-MStatus withPlacedMesh(const MFnMesh& set, MSpace::Space space, const Use& use)
-{
-    return withMesh(set, [&](const MeshData& mesh) {
-        engine::Matrix matrix;
-        const MStatus status = targetOf(set).placement(space, matrix);
-        return status ? use(mesh, matrix) : status;
-    });
-}
-
-MStatus requireThere(bool exists)
-{
-    return exists ? MStatus() : failure(StatusText::noElementAtIndex);
-}
-
-/// Runs `use(mesh, number)` for one of the mesh's items; kInvalidParameter when there is none.
-template <class Use>
-MStatus withFace(const MFnMesh& set, int face, const Use& use)
-{
-    return withMesh(set, [&](const MeshData& mesh) {
-        const MStatus status = requireThere(mesh.hasFace(face));
-        return status ? use(mesh, static_cast<std::size_t>(face)) : status;
-    });
-}
-
-template <class Use>
-MStatus withEdge(const MFnMesh& set, int edge, const Use& use)
-{
-    return withMesh(set, [&](const MeshData& mesh) {
-        const MStatus status = requireThere(mesh.hasEdge(edge));
-        return status ? use(mesh.edges[static_cast<std::size_t>(edge)]) : status;
-    });
-}
 
 template <class Array>
 MStatus readPoints(const MFnMesh& set, Array& points, MSpace::Space space)

@@ -96,7 +96,7 @@ MStatus MeshTarget::move(const engine::MovedPoints& points) const
             return failure(StatusText::noElementAtIndex);
         changed->points[static_cast<std::size_t>(i)] = point;
     }
-    changed->forgetNormals();
+    changed->forgetDerived();
     return MS::kSuccess;
 }
 
@@ -110,7 +110,7 @@ MStatus MeshTarget::smooth(int edge, bool smooth) const
     if (!changed->hasEdge(edge))
         return failure(StatusText::noElementAtIndex);
     changed->edges[static_cast<std::size_t>(edge)].smooth = smooth ? 1 : 0;
-    changed->forgetNormals();
+    changed->forgetDerived();
     return MS::kSuccess;
 }
 

@@ -3,6 +3,8 @@
 
 #include "meshNormals.h"
 #include "meshTopology.h"
+#include "meshTriangles.h"
+#include "triangleTree.h"
 
 #include <algorithm>
 
@@ -25,7 +27,7 @@ void MeshData::assign(const MeshData& other)
     edges = other.edges;
     faces = other.faces;
     m_topology.reset();
-    m_normals.reset();
+    forgetDerived();
 }
 
 const MeshTopology& MeshData::topology() const
@@ -42,9 +44,30 @@ const NormalTable& MeshData::normals() const
     return *m_normals;
 }
 
-void MeshData::forgetNormals()
+const MeshTriangles& MeshData::triangles() const
+{
+    if (!m_triangles)
+        m_triangles = std::make_unique<MeshTriangles>(*this);
+    return *m_triangles;
+}
+
+const TriangleTree& MeshData::tree() const
+{
+    if (!m_tree)
+        m_tree = std::make_unique<TriangleTree>(*this);
+    return *m_tree;
+}
+
+void MeshData::forgetDerived()
 {
     m_normals.reset();
+    m_triangles.reset();
+    m_tree.reset();
+}
+
+void MeshData::forgetTree()
+{
+    m_tree.reset();
 }
 
 bool isSound(const MeshData& mesh)

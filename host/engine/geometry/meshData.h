@@ -10,6 +10,8 @@
 namespace tvxhost::engine {
 
 class MeshTopology;
+class MeshTriangles;
+class TriangleTree;
 struct NormalTable;
 
 /// Polygons: points, edges and faces, numbered as in scene files.
@@ -44,14 +46,23 @@ public:
     /// What is next to what; made when it is first asked for and kept. Edges and faces must not change after
     /// that; points may. The mesh has to be sound.
     const MeshTopology& topology() const;
-    /// The normals at corners; made when they are first asked for and kept until they are forgotten, which
-    /// whoever changes points or the smoothness of edges has to see to.
+    /// The normals at corners, the triangles of faces and the tree to search them with: made when they are
+    /// first asked for and kept until they are forgotten, which whoever changes points or the smoothness of
+    /// edges has to see to.
     const NormalTable& normals() const;
-    void forgetNormals();
+    const MeshTriangles& triangles() const;
+    const TriangleTree& tree() const;
+    void forgetDerived();
+
+    /// The tree when it was asked for already; null otherwise.
+    const TriangleTree* treeIfMade() const { return m_tree.get(); }
+    void forgetTree();
 
 private:
     mutable std::unique_ptr<MeshTopology> m_topology;
     mutable std::unique_ptr<NormalTable> m_normals;
+    mutable std::unique_ptr<MeshTriangles> m_triangles;
+    mutable std::unique_ptr<TriangleTree> m_tree;
 };
 
 /// Whether every edge names points that exist and every face edges that exist.
