@@ -1,8 +1,8 @@
 // What the plug-in says while it is loaded and unloaded: every output whole, for every failure and every
 // filter.
+#include "../host/support/temporaryFolder.h"
 #include "CoreLogTrap.h"
 #include "PluginSession.h"
-#include "TestFolder.h"
 #include "api/support/faults.h"
 
 #include <maya/MStatus.h>
@@ -147,7 +147,7 @@ public:
         optionVars.set("tvxPrefLogLevelForCrowd_Render", filter);
         optionVars.set("tvxPrefLogToOW", 1);
         optionVars.set("tvxPrefLogToFile", 1);
-        optionVars.set("tvxPrefLogDirectory", m_folder.path());
+        optionVars.set("tvxPrefLogDirectory", m_folder.path().string());
         m_session->scene.scriptRunner = &m_scripts;
     }
 
@@ -216,7 +216,7 @@ private:
         return succeeded;
     }
 
-    test::TestFolder m_folder;
+    tvxhost::test::TemporaryFolder m_folder;
     ScriptNotes m_scripts;
     std::unique_ptr<PluginSession> m_session = std::make_unique<PluginSession>();
     Said m_said;

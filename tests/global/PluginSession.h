@@ -1,7 +1,7 @@
 // A session of the host with the plug-in in it, for one test.
 #pragma once
 
-#include "TestFolder.h"
+#include "../host/support/temporaryFolder.h"
 #include "api/plugins/pluginLoader.h"
 #include "engine/scene.h"
 
@@ -39,7 +39,7 @@ public:
     tvxhost::api::PluginLoader loader;
 
 private:
-    TestFolder m_folder;
+    tvxhost::test::TemporaryFolder m_folder;
     std::string m_library;
 };
 

@@ -2,8 +2,8 @@
 // What is said of each failure is in PluginReportsTest.cpp.
 #include "PluginSession.h"
 
+#include "../host/support/temporaryFolder.h"
 #include "CoreLogTrap.h"
-#include "TestFolder.h"
 #include "api/support/faults.h"
 
 #include <maya/MStatus.h>
@@ -123,7 +123,7 @@ TEST_F(Plugin, LogsEachLoadOnce)
 
 TEST_F(Plugin, GoesByTheNameThatMayaKnowsItBy)
 {
-    const test::TestFolder folder;
+    const tvxhost::test::TemporaryFolder folder;
     std::filesystem::copy_file(session.library(), folder.path("otherName.so"));
     test::takeTraces();
     ASSERT_TRUE(session.load(folder.path("otherName.so")));
@@ -138,9 +138,9 @@ TEST_F(Plugin, GoesByTheNameThatMayaKnowsItBy)
 // The library stays in the process: the second load meets the logger of the first one.
 TEST_F(Plugin, LoadedAgainWithinTheLifeOfItsLibraryGoesOnWithTheSameLogger)
 {
-    const test::TestFolder folder;
+    const tvxhost::test::TemporaryFolder folder;
     session.scene.optionVars().set("tvxPrefLogToFile", 1);
-    session.scene.optionVars().set("tvxPrefLogDirectory", folder.path());
+    session.scene.optionVars().set("tvxPrefLogDirectory", folder.path().string());
     void* library = dlopen(session.library().c_str(), RTLD_NOW | RTLD_LOCAL);
     ASSERT_NE(library, nullptr) << dlerror();
     ASSERT_TRUE(session.load());

@@ -1,8 +1,8 @@
 // Unbuffered streams: one system call per message, and what becomes of calls that do less than asked.
 #include "core/log/tvxDescriptorStream.h"
 
+#include "../../host/support/temporaryFolder.h"
 #include "SystemCalls.h"
-#include "TestFolder.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -18,15 +18,15 @@ namespace {
 
 using test::Outcome;
 using test::SystemCalls;
-using test::TestFolder;
 using testing::ElementsAre;
+using tvxhost::test::TemporaryFolder;
 
 class LogFileStreamTest : public testing::Test
 {
 protected:
     std::string contents() const { return folder.read("a.log"); }
 
-    TestFolder folder;
+    TemporaryFolder folder;
     const std::string path = folder.path("a.log");
     SystemCalls system;
 };

@@ -1,8 +1,8 @@
 // What the logger's tests share.
 #pragma once
 
+#include "../../host/support/temporaryFolder.h"
 #include "HostSession.h"
-#include "TestFolder.h"
 #include "core/log/tvxMayaLogger.h"
 
 #include <tvxCore/Log.h>
@@ -30,7 +30,7 @@ protected:
     static void forgetFilePath(MayaLogger& logger) { logger.m_filePath.clear(); }
 
     test::HostSession host;
-    test::TestFolder folder;
+    tvxhost::test::TemporaryFolder folder;
 };
 
 /// The library's logger, as it is when it was just made and before it is started; put back afterwards.

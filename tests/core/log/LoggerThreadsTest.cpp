@@ -1,7 +1,7 @@
 // The logger is made once, whoever asks first. A program of its own: the instance must not be there yet.
+#include "../../host/support/temporaryFolder.h"
 #include "HostSession.h"
 #include "SystemCalls.h"
-#include "TestFolder.h"
 #include "core/log/tvxMayaLogger.h"
 
 #include <gtest/gtest.h>
@@ -18,9 +18,9 @@ TEST(LoggerThreads, SixtyFourThreadsGetOneLoggerThatIsMadeOnce)
 {
     constexpr std::size_t kThreads = 64;
     test::HostSession host;
-    const test::TestFolder folder;
+    const tvxhost::test::TemporaryFolder folder;
     host.scene.optionVars().set("tvxPrefLogToFile", 1);
-    host.scene.optionVars().set("tvxPrefLogDirectory", folder.path());
+    host.scene.optionVars().set("tvxPrefLogDirectory", folder.path().string());
     const test::SystemCalls system;
     std::atomic<std::size_t> ready{0};
     std::vector<const MayaLogger*> seen(kThreads);

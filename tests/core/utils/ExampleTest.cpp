@@ -1,6 +1,6 @@
 // The example of the utility class: it runs as its users run it, and the documentation shows what it is.
 #include "../../end_to_end/program.h"
-#include "../log/TestFolder.h"
+#include "../../host/support/temporaryFolder.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -16,11 +16,11 @@ using testing::HasSubstr;
 
 TEST(UtilitiesExample, UsesEachFamily)
 {
-    const TestFolder project;
+    const TemporaryFolder project;
     const std::string script = sourceRoot() / "examples" / "utilities.mel";
     const ProgramResult result =
         runHost({"--plugin", pluginFile(), "-e",
-                 "workspace -openWorkspace \"" + project.path() + "\"; source \"" + script + "\""});
+                 "workspace -openWorkspace \"" + project.path().string() + "\"; source \"" + script + "\""});
     EXPECT_EQ(result.exitCode, 0);
     EXPECT_EQ(result.output,
               "attributes: from 2.5 to 5\n"
