@@ -1,4 +1,4 @@
-// MFnMesh: modelling, rays, tangents and the like, which the host cannot do: kNotImplemented, said once.
+// MFnMesh: modelling, tangents and the like, which the host cannot do: kNotImplemented, said once.
 #include <maya/MFnMesh.h>
 
 #include "support/apiCall.h"
@@ -127,18 +127,6 @@ MStatus MFnMesh::collapseEdges(MIntArray&)
     return notImplemented("MFnMesh::collapseEdges");
 }
 
-MStatus MFnMesh::getTriangles(MIntArray&, MIntArray&) const
-{
-    TVX_API_CALL("MFnMesh::getTriangles");
-    return notImplemented("MFnMesh::getTriangles");
-}
-
-MStatus MFnMesh::getTriangleOffsets(MIntArray&, MIntArray&) const
-{
-    TVX_API_CALL("MFnMesh::getTriangleOffsets");
-    return notImplemented("MFnMesh::getTriangleOffsets");
-}
-
 MStatus MFnMesh::booleanOp(BoolOperation, MFnMesh&, MFnMesh&)
 {
     TVX_API_CALL("MFnMesh::booleanOp");
@@ -151,109 +139,11 @@ MStatus MFnMesh::booleanOps(BoolOperation, const MObjectArray&, bool)
     return notImplemented("MFnMesh::booleanOps");
 }
 
-bool MFnMesh::closestIntersection(const MFloatPoint&, const MFloatVector&, const MIntArray*, const MIntArray*,
-                                  bool, MSpace::Space, float, bool, MMeshIsectAccelParams*, MFloatPoint&,
-                                  float*, int*, int*, float*, float*, float, MStatus* ReturnStatus)
-{
-    TVX_API_CALL_OR("MFnMesh::closestIntersection", ReturnStatus, false);
-    notImplemented("MFnMesh::closestIntersection", ReturnStatus);
-    return false;
-}
-
-bool MFnMesh::anyIntersection(const MFloatPoint&, const MFloatVector&, const MIntArray*, const MIntArray*,
-                              bool, MSpace::Space, float, bool, MMeshIsectAccelParams*, MFloatPoint&, float*,
-                              int*, int*, float*, float*, float, MStatus* ReturnStatus)
-{
-    TVX_API_CALL_OR("MFnMesh::anyIntersection", ReturnStatus, false);
-    notImplemented("MFnMesh::anyIntersection", ReturnStatus);
-    return false;
-}
-
-bool MFnMesh::allIntersections(const MFloatPoint&, const MFloatVector&, const MIntArray*, const MIntArray*,
-                               bool, MSpace::Space, float, bool, MMeshIsectAccelParams*, bool,
-                               MFloatPointArray&, MFloatArray*, MIntArray*, MIntArray*, MFloatArray*,
-                               MFloatArray*, float, MStatus* ReturnStatus)
-{
-    TVX_API_CALL_OR("MFnMesh::allIntersections", ReturnStatus, false);
-    notImplemented("MFnMesh::allIntersections", ReturnStatus);
-    return false;
-}
-
-MStatus MFnMesh::sortIntersectionFaceTriIds(MIntArray*, MIntArray*)
-{
-    TVX_API_CALL("MFnMesh::sortIntersectionFaceTriIds");
-    return notImplemented("MFnMesh::sortIntersectionFaceTriIds");
-}
-
-MStatus MFnMesh::freeCachedIntersectionAccelerator()
-{
-    TVX_API_CALL("MFnMesh::freeCachedIntersectionAccelerator");
-    return notImplemented("MFnMesh::freeCachedIntersectionAccelerator");
-}
-
-MString MFnMesh::cachedIntersectionAcceleratorInfo(MStatus* ReturnStatus)
-{
-    TVX_API_CALL_OR("MFnMesh::cachedIntersectionAcceleratorInfo", ReturnStatus, MString());
-    notImplemented("MFnMesh::cachedIntersectionAcceleratorInfo", ReturnStatus);
-    return MString();
-}
-
-MString MFnMesh::globalIntersectionAcceleratorsInfo()
-{
-    TVX_API_CALL_OR("MFnMesh::globalIntersectionAcceleratorsInfo", nullptr, MString());
-    notImplemented("MFnMesh::globalIntersectionAcceleratorsInfo", nullptr);
-    return MString();
-}
-
-void MFnMesh::clearGlobalIntersectionAcceleratorInfo()
-{
-    notImplemented("MFnMesh::clearGlobalIntersectionAcceleratorInfo", nullptr);
-}
-
-bool MFnMesh::intersect(const MPoint&, const MVector&, MPointArray&, double, MSpace::Space, MIntArray*,
-                        MStatus* ReturnStatus) const
-{
-    TVX_API_CALL_OR("MFnMesh::intersect", ReturnStatus, false);
-    notImplemented("MFnMesh::intersect", ReturnStatus);
-    return false;
-}
-
-MStatus MFnMesh::getClosestPointAndNormal(const MPoint&, MPoint&, MVector&, MSpace::Space, int*,
-                                          MMeshIsectAccelParams*) const
-{
-    TVX_API_CALL("MFnMesh::getClosestPointAndNormal");
-    return notImplemented("MFnMesh::getClosestPointAndNormal");
-}
-
-MStatus MFnMesh::getClosestPoint(const MPoint&, MPoint&, MSpace::Space, int*, MMeshIsectAccelParams*) const
-{
-    TVX_API_CALL("MFnMesh::getClosestPoint");
-    return notImplemented("MFnMesh::getClosestPoint");
-}
-
-MStatus MFnMesh::getClosestNormal(const MPoint&, MVector&, MSpace::Space, int*, MMeshIsectAccelParams*) const
-{
-    TVX_API_CALL("MFnMesh::getClosestNormal");
-    return notImplemented("MFnMesh::getClosestNormal");
-}
-
-MStatus MFnMesh::getConnectedShaders(unsigned int, MObjectArray&, MIntArray&) const
-{
-    TVX_API_CALL("MFnMesh::getConnectedShaders");
-    return notImplemented("MFnMesh::getConnectedShaders");
-}
-
 const float* MFnMesh::getRawNormals(MStatus* ReturnStatus) const
 {
     TVX_API_CALL_OR("MFnMesh::getRawNormals", ReturnStatus, nullptr);
     notImplemented("MFnMesh::getRawNormals", ReturnStatus);
     return nullptr;
-}
-
-MStatus MFnMesh::getPolygonTriangleVertices(int, int, int[3]) const
-{
-    TVX_API_CALL("MFnMesh::getPolygonTriangleVertices");
-    return notImplemented("MFnMesh::getPolygonTriangleVertices");
 }
 
 MStatus MFnMesh::setNormals(MFloatVectorArray&, MSpace::Space)
@@ -411,20 +301,6 @@ MObject MFnMesh::addPolygon(MPointArray&, double, bool, double, bool, MObject, M
     TVX_API_CALL_OR("MFnMesh::addPolygon", ReturnStatus, MObject());
     notImplemented("MFnMesh::addPolygon", ReturnStatus);
     return MObject();
-}
-
-bool MFnMesh::intersect(MPoint&, MVector&, MPointArray&, MStatus* ReturnStatus) const
-{
-    TVX_API_CALL_OR("MFnMesh::intersect", ReturnStatus, false);
-    notImplemented("MFnMesh::intersect", ReturnStatus);
-    return false;
-}
-
-bool MFnMesh::intersect(const MPoint&, const MVector&, MPointArray&, MStatus* ReturnStatus) const
-{
-    TVX_API_CALL_OR("MFnMesh::intersect", ReturnStatus, false);
-    notImplemented("MFnMesh::intersect", ReturnStatus);
-    return false;
 }
 
 const adsk::Data::Associations* MFnMesh::metadata(MStatus* ReturnStatus) const

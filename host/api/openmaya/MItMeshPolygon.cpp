@@ -420,6 +420,12 @@ bool MItMeshPolygon::isConvex(MStatus* ReturnStatus)
     return isFace(*iteration, ReturnStatus, engine::isConvex);
 }
 
+bool MItMeshPolygon::isStarlike(MStatus* ReturnStatus)
+{
+    TVX_API_CALL_OR("MItMeshPolygon::isStarlike", ReturnStatus, false);
+    return isFace(*iteration, ReturnStatus, engine::isStarlike);
+}
+
 bool MItMeshPolygon::isLamina(MStatus* ReturnStatus)
 {
     TVX_API_CALL_OR("MItMeshPolygon::isLamina", ReturnStatus, false);

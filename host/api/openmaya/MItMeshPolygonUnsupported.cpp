@@ -138,31 +138,6 @@ MStatus MItMeshPolygon::getColorIndices(MIntArray&, const MString*)
     return notImplemented("MItMeshPolygon::getColorIndices");
 }
 
-bool MItMeshPolygon::hasValidTriangulation(MStatus* ReturnStatus) const
-{
-    TVX_API_CALL_OR("MItMeshPolygon::hasValidTriangulation", ReturnStatus, false);
-    notImplemented("MItMeshPolygon::hasValidTriangulation", ReturnStatus);
-    return false;
-}
-
-MStatus MItMeshPolygon::numTriangles(int&) const
-{
-    TVX_API_CALL("MItMeshPolygon::numTriangles");
-    return notImplemented("MItMeshPolygon::numTriangles");
-}
-
-MStatus MItMeshPolygon::getTriangle(int, MPointArray&, MIntArray&, MSpace::Space) const
-{
-    TVX_API_CALL("MItMeshPolygon::getTriangle");
-    return notImplemented("MItMeshPolygon::getTriangle");
-}
-
-MStatus MItMeshPolygon::getTriangles(MPointArray&, MIntArray&, MSpace::Space) const
-{
-    TVX_API_CALL("MItMeshPolygon::getTriangles");
-    return notImplemented("MItMeshPolygon::getTriangles");
-}
-
 MStatus MItMeshPolygon::getUVArea(double&, const MString*)
 {
     TVX_API_CALL("MItMeshPolygon::getUVArea");
@@ -180,13 +155,6 @@ bool MItMeshPolygon::zeroUVArea(const MString&, MStatus* ReturnStatus)
 {
     TVX_API_CALL_OR("MItMeshPolygon::zeroUVArea", ReturnStatus, false);
     notImplemented("MItMeshPolygon::zeroUVArea", ReturnStatus);
-    return false;
-}
-
-bool MItMeshPolygon::isStarlike(MStatus* ReturnStatus)
-{
-    TVX_API_CALL_OR("MItMeshPolygon::isStarlike", ReturnStatus, false);
-    notImplemented("MItMeshPolygon::isStarlike", ReturnStatus);
     return false;
 }
 

@@ -58,16 +58,35 @@ const TriangleTree& MeshData::tree() const
     return *m_tree;
 }
 
+const TriangleTree& MeshData::tree(const Matrix& matrix) const
+{
+    if (matrix == Matrix())
+        return tree();
+    if (!m_placedTree || m_placedTree->matrix() != matrix)
+        m_placedTree = std::make_unique<TriangleTree>(*this, matrix);
+    return *m_placedTree;
+}
+
 void MeshData::forgetDerived()
 {
     m_normals.reset();
     m_triangles.reset();
-    m_tree.reset();
+    forgetTrees();
 }
 
-void MeshData::forgetTree()
+std::vector<const TriangleTree*> MeshData::keptTrees() const
+{
+    std::vector<const TriangleTree*> kept;
+    for (const auto* tree : {&m_tree, &m_placedTree})
+        if (*tree)
+            kept.push_back(tree->get());
+    return kept;
+}
+
+void MeshData::forgetTrees()
 {
     m_tree.reset();
+    m_placedTree.reset();
 }
 
 bool isSound(const MeshData& mesh)

@@ -52,17 +52,20 @@ public:
     const NormalTable& normals() const;
     const MeshTriangles& triangles() const;
     const TriangleTree& tree() const;
+    /// The tree of the points as a matrix moves them; kept until one of another matrix is asked for.
+    const TriangleTree& tree(const Matrix& matrix) const;
     void forgetDerived();
 
-    /// The tree when it was asked for already; null otherwise.
-    const TriangleTree* treeIfMade() const { return m_tree.get(); }
-    void forgetTree();
+    /// The trees that are kept now.
+    std::vector<const TriangleTree*> keptTrees() const;
+    void forgetTrees();
 
 private:
     mutable std::unique_ptr<MeshTopology> m_topology;
     mutable std::unique_ptr<NormalTable> m_normals;
     mutable std::unique_ptr<MeshTriangles> m_triangles;
     mutable std::unique_ptr<TriangleTree> m_tree;
+    mutable std::unique_ptr<TriangleTree> m_placedTree;
 };
 
 /// Whether every edge names points that exist and every face edges that exist.

@@ -98,6 +98,21 @@ bool isConvex(const MeshData& mesh, std::size_t face)
     return true;
 }
 
+bool isStarlike(const MeshData& mesh, std::size_t face)
+{
+    if (mesh.faces.loopCount(face) != 1)
+        return false;
+    const std::vector<Vec3d> points = cornerPoints(mesh, face);
+    const Vec3d normal = faceNormal(mesh, face), center = centerOf(mesh, face);
+    const double slack = kFlat * extentOf(points) * extentOf(points);
+    for (std::size_t i = 0; i < points.size(); ++i) {
+        const Vec3d& to = points[(i + 1) % points.size()];
+        if ((to - points[i]).cross(center - points[i]).dot(normal) < -slack)
+            return false;
+    }
+    return true;
+}
+
 bool isPlanar(const MeshData& mesh, std::size_t face)
 {
     const std::vector<Vec3d> points = cornerPoints(mesh, face);

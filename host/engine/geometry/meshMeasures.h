@@ -21,6 +21,8 @@ Vec3d faceNormal(const MeshData& mesh, std::size_t face);
 
 /// Whether the outline bends one way only, seen along the normal, and there are no holes.
 bool isConvex(const MeshData& mesh, std::size_t face);
+/// Whether the middle of the corners sees the whole outline, seen along the normal, and there are no holes.
+bool isStarlike(const MeshData& mesh, std::size_t face);
 /// Whether no corner is further from the plane through the middle than a millionth of the face's size.
 bool isPlanar(const MeshData& mesh, std::size_t face);
 /// Whether another face has the same edges.

@@ -63,7 +63,7 @@ std::tuple<std::int32_t, std::int32_t> number(const SurfacePoint& place)
 
 } // namespace
 
-TriangleTree::TriangleTree(const MeshData& mesh, const Matrix& matrix)
+TriangleTree::TriangleTree(const MeshData& mesh, const Matrix& matrix) : m_matrix(matrix)
 {
     const auto start = std::chrono::steady_clock::now();
     m_points.reserve(mesh.points.size());

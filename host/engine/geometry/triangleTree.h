@@ -57,6 +57,8 @@ public:
     /// Empty for a mesh without triangles. Of several triangles that are as near the first one counts.
     std::optional<SurfacePoint> nearestTo(const Vec3d& point) const;
 
+    const Matrix& matrix() const { return m_matrix; }
+    /// Number of triangles.
     std::size_t size() const { return m_triangles.size(); }
     /// How much memory it takes.
     std::size_t bytes() const;
@@ -98,6 +100,7 @@ private:
     void forEachHit(const RayQuery& query, const Use& use) const;
     bool isSamePlace(const RayHit& a, const RayHit& b, const Ray& ray) const;
 
+    Matrix m_matrix;
     std::vector<Vec3d> m_points;
     std::vector<Item> m_triangles;
     std::vector<Box> m_boxes; ///< the first one holds all

@@ -42,8 +42,8 @@ class MVectorArray;
 /// be moved on any mesh: by tweaks where it has history, for good where it has none; everything else that
 /// changes a mesh needs one without history.
 ///
-/// Texture coordinates, colours, tangents, creases, blind data, intersections and the operations of modelling
-/// are not done: kNotImplemented, said once.
+/// Texture coordinates, colours, tangents, creases, blind data and the operations of modelling are not done:
+/// kNotImplemented, said once.
 class OPENMAYA_EXPORT MFnMesh : public MFnDagNode
 {
 public:
@@ -254,10 +254,15 @@ public:
     MUintArray getInvisibleFaces(MStatus* ReturnStatus = nullptr) const;
     MStatus setInvisibleFaces(const MUintArray& faceIds, bool makeVisible = false);
 
-    /// Triangles.
+    /// Triangles: a face is split into as many as it has corners, and two more for each hole, less two, and
+    /// they run as the face does; that is so in Maya. Convex faces, quads among them, are fans around their
+    /// first corner (0 1 2, 0 2 3, …); ears are cut off others. Maya may choose other diagonals. How many
+    /// triangles each face has and, three for each triangle, the vertices; or the places of the corners in the
+    /// list of getVertices. kInvalidParameter for a triangle that there is not.
     MStatus getTriangles(MIntArray& triangleCounts, MIntArray& triangleVertices) const;
     MStatus getTriangleOffsets(MIntArray& triangleCounts, MIntArray& triangleIndices) const;
     MStatus getPolygonTriangleVertices(int polygonId, int triangleId, int triangleVertices[3]) const;
+    /// Not done: kNotImplemented.
     static MStatus polyTriangulate(const float* pointsAndHoles, unsigned int pointsCount,
                                    unsigned int outerPointsCount, unsigned int holesCount,
                                    bool considerNormal, const float* normals, unsigned short* triangles,
@@ -266,7 +271,17 @@ public:
                                    unsigned int outerPointsCount, const MFloatVectorArray& normals,
                                    MIntArray& triangles);
 
-    /// Rays and closest points.
+    /// Where a ray, the points raySource + t * rayDirection in a space, meets the triangles of the mesh, from
+    /// either side. Hits with t from 0 to maxParam count, from -maxParam with testBothDirections. Only the
+    /// faces of `faceIds` are looked at, if there is such an array, and with `triIds`, which then is as long,
+    /// only these triangles of them (numbers among those of the face); they need not be sorted. `tolerance` is
+    /// how far beyond its edges a triangle is met, as a part of its size. The closest hit has t nearest to 0,
+    /// and any hit is that one, too. Told are, unless null: t, the face, the triangle among those of the face,
+    /// and the weights of the triangle's first two corners (that of the third is what lacks to 1). All hits
+    /// come by ascending t, or unsorted by ascending face; one through an edge is a hit of the faces on both
+    /// sides. Returns whether there is a hit; without one nothing is told, and arrays are empty. Accelerators
+    /// make no difference: a mesh always keeps a tree of its triangles. kInvalidParameter for a direction of
+    /// length 0 and for triangles without faces.
     bool closestIntersection(const MFloatPoint& raySource, const MFloatVector& rayDirection,
                              const MIntArray* faceIds, const MIntArray* triIds, bool idsSorted,
                              MSpace::Space space, float maxParam, bool testBothDirections,
@@ -286,11 +301,17 @@ public:
                           MFloatArray* hitRayParams, MIntArray* hitFaces, MIntArray* hitTriangles,
                           MFloatArray* hitBary1, MFloatArray* hitBary2, float tolerance = 1e-6F,
                           MStatus* ReturnStatus = nullptr);
+    /// Sorts faces, and with them triangles, by ascending number; the triangles may be null.
     MStatus sortIntersectionFaceTriIds(MIntArray* faceIds, MIntArray* triIds);
+    /// What is kept to find hits and nearest points faster: frees it, or describes it ("tree of 12 triangles,
+    /// (build time 0.000s), (memory footprint 1.9KB)"; empty when there is nothing), of this mesh or of all.
+    /// The last one begins to count anew.
     MStatus freeCachedIntersectionAccelerator();
     MString cachedIntersectionAcceleratorInfo(MStatus* ReturnStatus = nullptr);
     static MString globalIntersectionAcceleratorsInfo();
     static void clearGlobalIntersectionAcceleratorInfo();
+    /// All hits of a ray in one direction, from near to far, with their faces; those without a space in object
+    /// space.
     bool intersect(const MPoint& raySource, const MVector& rayDirection, MPointArray& points,
                    double tolerance = kMFnMeshPointTolerance, MSpace::Space space = MSpace::kObject,
                    MIntArray* polygonIds = nullptr, MStatus* ReturnStatus = nullptr) const;
@@ -298,6 +319,9 @@ public:
                    MStatus* ReturnStatus = nullptr) const;
     bool intersect(const MPoint& raySource, const MVector& rayDirection, MPointArray& points,
                    MStatus* ReturnStatus = nullptr) const;
+    /// The point of the mesh that is nearest to a point in a space, the normal there, and the face, unless it
+    /// is null. The normal is the mean of those at the corners of the triangle, by how near they are. kFailure
+    /// for a mesh without faces.
     MStatus getClosestPointAndNormal(const MPoint& toThisPoint, MPoint& theClosestPoint, MVector& theNormal,
                                      MSpace::Space space = MSpace::kObject, int* closestPolygon = nullptr,
                                      MMeshIsectAccelParams* accelParams = nullptr) const;
@@ -308,7 +332,8 @@ public:
                              MSpace::Space space = MSpace::kObject, int* closestPolygon = nullptr,
                              MMeshIsectAccelParams* accelerator = nullptr) const;
 
-    /// Shaders of faces.
+    /// The shading groups of an instance, and for each face which of them it is in; -1 for none. A mesh that is
+    /// data has none: kInvalidParameter.
     MStatus getConnectedShaders(unsigned int instanceNumber, MObjectArray& shaders, MIntArray& indices) const;
 
     /// Tangents.

@@ -21,8 +21,8 @@ class MVectorArray;
 
 /// Goes through the faces of a mesh by ascending number, or through those of a component. What is said of
 /// objects, paths and spaces in MItMeshEdge holds here too. The corners of a face are counted from 0: those
-/// of its outline, then those of its holes. Texture coordinates, colours, tangents and triangles are not
-/// done: kNotImplemented.
+/// of its outline, then those of its holes. Texture coordinates, colours and tangents are not done:
+/// kNotImplemented.
 class OPENMAYA_EXPORT MItMeshPolygon
 {
 public:
@@ -117,7 +117,9 @@ public:
     MStatus getColorIndex(int vertexIndex, int& colorIndex, const MString* colorSetName = nullptr);
     MStatus getColorIndices(MIntArray& colorIndex, const MString* colorSetName = nullptr);
 
-    /// Triangles.
+    /// The triangles of the face (see MFnMesh::getTriangles): whether together they are the face, which they
+    /// are not when it has no area in places or crosses itself; how many there are; the vertices of one or of
+    /// all, three each, and where these are. kInvalidParameter for a triangle that there is not.
     bool hasValidTriangulation(MStatus* ReturnStatus = nullptr) const;
     MStatus numTriangles(int& count) const;
     MStatus getTriangle(int localTriIndex, MPointArray& points, MIntArray& vertexList,
@@ -154,8 +156,8 @@ public:
     MStatus getArea(double& area, MSpace::Space space = MSpace::kObject);
     bool zeroArea(MStatus* ReturnStatus = nullptr);
 
-    /// What shape the face has: convex, all corners seen from one point, with a twin on the same edges, with
-    /// holes, flat. Star shapes are not done: kNotImplemented.
+    /// What shape the face has: convex, its outline seen from the mean of its corners, with a twin on the same
+    /// edges, with holes, flat. One with holes is neither of the first two.
     bool isConvex(MStatus* ReturnStatus = nullptr);
     bool isStarlike(MStatus* ReturnStatus = nullptr);
     bool isLamina(MStatus* ReturnStatus = nullptr);

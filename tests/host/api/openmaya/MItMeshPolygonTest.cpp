@@ -167,9 +167,31 @@ TEST_F(MItMeshPolygonTest, AFaceIsConvexFlatOrHoled)
     EXPECT_EQ(faces.getArea(area), MS::kSuccess);
     EXPECT_DOUBLE_EQ(area, 77);
     EXPECT_FALSE(faces.isLamina());
-    MStatus status;
-    EXPECT_FALSE(faces.isStarlike(&status));
-    EXPECT_EQ(status, MS::kNotImplemented);
+}
+
+TEST_F(MItMeshPolygonTest, AFaceIsStarlikeWhenItsMiddleSeesTheOutline)
+{
+    const auto isStarlike = [this](const std::string& name, const std::vector<std::pair<int, int>>& places) {
+        const engine::Ref<engine::MeshData> mesh(new engine::MeshData);
+        engine::MeshFace face;
+        const auto count = static_cast<int>(places.size());
+        for (int i = 0; i < count; ++i) {
+            const auto& [x, z] = places[static_cast<std::size_t>(i)];
+            mesh->points.emplace_back(static_cast<float>(x), 0.0F, static_cast<float>(z));
+            mesh->edges.push_back({i, (i + 1) % count, 1});
+            face.edges.push_back(i);
+        }
+        mesh->faces.add(face);
+        addMesh(name, mesh);
+        MItMeshPolygon faces(path(name + "Shape"));
+        MStatus status;
+        const bool answer = faces.isStarlike(&status);
+        EXPECT_EQ(status, MS::kSuccess);
+        return answer;
+    };
+    EXPECT_TRUE(isStarlike("square", {{0, 0}, {2, 0}, {2, 2}, {0, 2}}));
+    EXPECT_TRUE(isStarlike("dent", {{0, 0}, {4, 0}, {4, 4}, {2, 3}, {0, 4}}));
+    EXPECT_FALSE(isStarlike("dart", {{0, 0}, {2, 1}, {0, 2}, {1, 1}})) << "the middle is at 0.75, 1";
 }
 
 TEST_F(MItMeshPolygonTest, TwoFacesOnTheSameEdgesAreLaminae)
