@@ -2,7 +2,8 @@
 #include "mesh.h"
 
 #include "cell.h"
-#include "geometry/faceText.h"
+#include "geometry/meshMaps.h"
+#include "meshSets.h"
 #include "scene.h"
 #include "values.h"
 
@@ -66,10 +67,13 @@ void readFaces(DagNode& shape, MeshData& mesh)
             mesh.faces.addFace();
         const Ref<Data> data = storedData(faces.element(i));
         MeshFace face;
+        FaceMaps maps;
         if (data && data->type() == DataType::plugin)
-            (void)readFace(static_cast<const KeptData&>(*data).text, face);
+            (void)readFace(static_cast<const KeptData&>(*data).text, face, &maps);
         mesh.faces.add(face);
+        giveMaps(mesh, mesh.faces.size() - 1, maps);
     }
+    dropUnknownValues(mesh);
 }
 
 /// What the attributes say, without tweaks.
@@ -79,6 +83,7 @@ Ref<Data> assemble(DagNode& shape)
     auto& mesh = static_cast<MeshData&>(*result);
     readPoints(shape, mesh);
     readEdges(shape, mesh);
+    readSets(shape, mesh);
     readFaces(shape, mesh);
     if (mesh.points.empty())
         return {};
@@ -148,6 +153,22 @@ std::vector<double> numbersOf(const std::vector<MeshData::Edge>& edges)
     return numbers;
 }
 
+std::string wordsOf(const MeshData& mesh, std::size_t face)
+{
+    return faceText(mesh.faces, face, mapsOf(mesh, face));
+}
+
+Outcome writeFace(const Plug& faces, const MeshData& mesh, std::size_t face)
+{
+    return writeData(faces.element(static_cast<int>(face)), KeptData("polyFaces", wordsOf(mesh, face)));
+}
+
+/// Whether there are no values in any set, and no colours at all: nothing that has to be kept.
+bool hasOnlyNames(const MeshData& mesh)
+{
+    return mesh.uvSets.size() == 1 && mesh.uvSets.front().values.empty() && mesh.colorSets.empty();
+}
+
 void writeAttributes(DagNode& shape, const MeshData& mesh)
 {
     for (const char* name : {"vrts", "edge", "face"})
@@ -158,7 +179,26 @@ void writeAttributes(DagNode& shape, const MeshData& mesh)
     (void)writeElements(plugOf(shape, "edge"), 0, edges.data(), edges.size());
     const Plug faces = plugOf(shape, "face");
     for (std::size_t i = 0; i < mesh.faces.size(); ++i)
-        (void)writeData(faces.element(static_cast<int>(i)), KeptData("polyFaces", faceText(mesh.faces, i)));
+        (void)writeFace(faces, mesh, i);
+    MeshData former;
+    readSets(shape, former);
+    if (!hasOnlyNames(mesh) || !hasOnlyNames(former))
+        (void)writeSets(shape, former, mesh);
+}
+
+/// Changes sets where attributes hold the mesh: those that differ, and the faces that have something else.
+Outcome editSetsInAttributes(DagNode& shape, const SetEdit& edit)
+{
+    const Ref<Data> before = assemble(shape), after = before->clone();
+    auto& changed = static_cast<MeshData&>(*after);
+    const auto& former = static_cast<const MeshData&>(*before);
+    edit(changed);
+    const Plug faces = plugOf(shape, "face");
+    for (std::size_t i = 0; i < changed.faces.size(); ++i)
+        if (wordsOf(changed, i) != wordsOf(former, i))
+            if (const Outcome written = writeFace(faces, changed, i); !written)
+                return written;
+    return writeSets(shape, former, changed);
 }
 
 /// The tweaks that bring the points of history to where they are wanted.
@@ -279,6 +319,46 @@ Outcome smoothEdge(DagNode& shape, std::int32_t edge, bool smooth)
     changeHeld(shape, held,
                [&](MeshData& changed) { changed.edges[static_cast<std::size_t>(edge)].smooth = value; });
     return {};
+}
+
+Outcome editSets(DagNode& shape, const SetEdit& edit)
+{
+    if (!meshOf(shape))
+        return {Reason::noData, "'" + shape.name() + "' has no geometry"};
+    if (hasHistory(shape))
+        return {Reason::notWritable,
+                "the texture coordinates and colours of '" + shape.name() + "' are made by its history"};
+    const Ref<Data> held = incomingMesh(shape);
+    if (!held)
+        return editSetsInAttributes(shape, edit);
+    changeHeld(shape, held, edit);
+    return {};
+}
+
+namespace {
+
+/// The set that an attribute of the shape names, else the first one; empty when there is none.
+template <class Set>
+std::string currentSet(DagNode& shape, const char* attribute, const std::vector<Set>& sets)
+{
+    const std::string named = readString(plugOf(shape, attribute)).value;
+    if (findSet(sets, named))
+        return named;
+    return sets.empty() ? std::string() : sets.front().name;
+}
+
+} // namespace
+
+std::string currentUvSet(DagNode& shape)
+{
+    const MeshData* mesh = meshOf(shape);
+    return mesh ? currentSet(shape, kCurrentUvSet, mesh->uvSets) : std::string();
+}
+
+std::string currentColorSet(DagNode& shape)
+{
+    const MeshData* mesh = meshOf(shape);
+    return mesh ? currentSet(shape, kCurrentColorSet, mesh->colorSets) : std::string();
 }
 
 void settleMesh(DagNode& shape)

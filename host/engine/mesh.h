@@ -4,6 +4,8 @@
 #include "geometry/meshData.h"
 #include "node.h"
 
+#include <functional>
+#include <string>
 #include <utility>
 
 namespace tvxhost::engine {
@@ -37,6 +39,20 @@ Outcome movePoints(DagNode& shape, const MovedPoints& moved);
 /// Makes an edge smooth or hard. badIndex when there is no such edge, noData when there is no mesh, and
 /// notWritable where the edges are those of history.
 Outcome smoothEdge(DagNode& shape, std::int32_t edge, bool smooth);
+
+/// Changes the sets of texture coordinates and colours of a mesh, and which of their values its faces use;
+/// nothing else of it.
+using SetEdit = std::function<void(MeshData& mesh)>;
+/// Changes them for good. noData when there is no mesh, notWritable where history makes them.
+Outcome editSets(DagNode& shape, const SetEdit& edit);
+
+/// The sets that are meant when none is named: those that the shape's `cuvs` and `ccls` say, else the first
+/// ones. Empty for a mesh without colours, and when there is no mesh.
+std::string currentUvSet(DagNode& shape);
+std::string currentColorSet(DagNode& shape);
+/// The attributes that say so, by long name.
+inline constexpr const char* kCurrentUvSet = "currentUVSet";
+inline constexpr const char* kCurrentColorSet = "currentColorSet";
 
 /// Writes geometry that only `inMesh` holds to `vt`, `ed` and `fc`, as a file needs it.
 void settleMesh(DagNode& shape);

@@ -61,52 +61,88 @@ private:
     std::string_view m_rest;
 };
 
-/// Parts of a face beside its loops: faces by vertices, texture coordinates and colours.
-constexpr std::string_view kOtherParts[] = {"mf", "mh", "mu", "mc", "fc"};
-
-bool isOtherPart(std::string_view word)
+/// Parts of a face beside its loops. Those about sets belong to the loop before them and begin with the
+/// number of their set; the others are from before there were sets.
+struct Part
 {
-    for (const std::string_view part : kOtherParts)
-        if (word == part)
-            return true;
-    return false;
+    std::string_view word;
+    std::vector<LoopMap> FaceMaps::*maps; ///< null: skipped
+};
+
+constexpr Part kParts[] = {
+    {"mu", &FaceMaps::uvs}, {"mc", &FaceMaps::colors}, {"mf", nullptr}, {"mh", nullptr}, {"fc", nullptr}};
+
+const Part* findPart(std::string_view word)
+{
+    for (const Part& part : kParts)
+        if (part.word == word)
+            return &part;
+    return nullptr;
 }
 
-/// Some parts give the number of a set before their list.
-bool hasSet(std::string_view part)
+bool readPart(FaceWords& words, const Part& part, std::size_t firstCorner, FaceMaps* maps)
 {
-    return part == "mu" || part == "mc";
+    const std::optional<int> slot = part.maps ? words.number() : 0;
+    LoopMap map{firstCorner, slot.value_or(0), {}};
+    if (!slot || !words.numbers(map.used))
+        return false;
+    if (maps && part.maps)
+        (maps->*part.maps).push_back(std::move(map));
+    return true;
+}
+
+std::string listText(const std::vector<std::int32_t>& numbers)
+{
+    std::string text = std::to_string(numbers.size());
+    for (const std::int32_t number : numbers)
+        text += ' ' + std::to_string(number);
+    return text;
+}
+
+/// What a loop has in sets of one kind.
+std::string mapLines(const char* word, const std::vector<LoopMap>& maps, std::size_t firstCorner)
+{
+    std::string text;
+    for (const LoopMap& map : maps)
+        if (map.firstCorner == firstCorner)
+            text += "\n\t\t" + std::string(word) + ' ' + std::to_string(map.slot) + ' ' + listText(map.used);
+    return text;
 }
 
 } // namespace
 
-bool readFace(std::string_view text, MeshFace& face)
+bool readFace(std::string_view text, MeshFace& face, FaceMaps* maps)
 {
     FaceWords words(text);
     if (words.word() != "f" || !words.numbers(face.edges))
         return false;
+    std::size_t firstCorner = 0, corners = face.edges.size();
     for (std::string_view word = words.word(); !word.empty(); word = words.word()) {
-        std::vector<std::int32_t> values;
-        if (hasSet(word) && !words.number())
+        if (word == "h") {
+            if (!words.numbers(face.holes.emplace_back()))
+                return false;
+            firstCorner = corners;
+            corners += face.holes.back().size();
+            continue;
+        }
+        const Part* part = findPart(word);
+        if (!part || !readPart(words, *part, firstCorner, maps))
             return false;
-        if ((word != "h" && !isOtherPart(word)) || !words.numbers(values))
-            return false;
-        if (word == "h")
-            face.holes.push_back(std::move(values));
     }
     return true;
 }
 
-std::string faceText(const FaceTable& faces, std::size_t face)
+std::string faceText(const FaceTable& faces, std::size_t face, const FaceMaps& maps)
 {
     if (faces.loopCount(face) == 0)
         return "f 0";
     std::string text;
+    std::size_t firstCorner = 0;
     for (std::size_t i = 0; i < faces.loopCount(face); ++i) {
         const IndexSpan loop = faces.loop(face, i);
-        text += (i == 0 ? "f " : "\n\t\th ") + std::to_string(loop.size());
-        for (const std::int32_t corner : loop)
-            text += ' ' + std::to_string(corner);
+        text += (i == 0 ? "f " : "\n\t\th ") + listText({loop.begin(), loop.end()}) +
+                mapLines("mu", maps.uvs, firstCorner) + mapLines("mc", maps.colors, firstCorner);
+        firstCorner += loop.size();
     }
     return text;
 }

@@ -5,6 +5,8 @@
 #include "../values.h"
 #include "meshData.h"
 
+#include <algorithm>
+
 namespace tvxhost::engine {
 
 namespace {
@@ -37,6 +39,31 @@ void tweakPoints(Node& node, MeshData& mesh)
     }
 }
 
+/// Moves texture coordinates of the set that the node names; without a name, of the first one.
+void tweakUvs(Node& node, MeshData& mesh)
+{
+    const std::string name = readString(plugOf(node, "uvSetName")).value;
+    const auto set = std::find_if(mesh.uvSets.begin(), mesh.uvSets.end(),
+                                  [&](const UvSet& uvs) { return name.empty() || uvs.name == name; });
+    if (set == mesh.uvSets.end())
+        return;
+    const Plug tweaks = plugOf(node, "uvTweak");
+    for (const int i : existingElements(tweaks)) {
+        const std::vector<double> offset = readNumbers(tweaks.element(i)).value;
+        if (set->hasValue(i) && offset.size() == 2)
+            set->values[static_cast<std::size_t>(i)] += Vec2f(Imath::V2d(offset[0], offset[1]));
+    }
+}
+
+/// Cutting renumbers texture coordinates in a way that is not known: none are better than wrong ones.
+void forgetUvs(Node& /*node*/, MeshData& mesh)
+{
+    for (UvSet& set : mesh.uvSets) {
+        set.values.clear();
+        set.used.clear();
+    }
+}
+
 struct HistoryRow
 {
     const char* type;
@@ -49,8 +76,8 @@ constexpr HistoryRow kRows[] = {
     {"groupParts", "inputGeometry", "outputGeometry", nullptr},
     {"transformGeometry", "inputGeometry", "outputGeometry", transformPoints},
     {"polyTweak", "inputPolymesh", "output", tweakPoints},
-    {"polyTweakUV", "inputPolymesh", "output", nullptr},
-    {"polyMapCut", "inputPolymesh", "output", nullptr},
+    {"polyTweakUV", "inputPolymesh", "output", tweakUvs},
+    {"polyMapCut", "inputPolymesh", "output", forgetUvs},
 };
 
 Computed computeHistory(Node& node, const Plug& plug, const HistoryRow& row)

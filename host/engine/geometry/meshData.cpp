@@ -10,7 +10,10 @@
 
 namespace tvxhost::engine {
 
-MeshData::MeshData() : Data(DataType::mesh) {}
+MeshData::MeshData() : Data(DataType::mesh), uvSets(1)
+{
+    uvSets.front().name = kFirstUvSetName;
+}
 
 MeshData::~MeshData() = default;
 
@@ -26,6 +29,10 @@ void MeshData::assign(const MeshData& other)
     points = other.points;
     edges = other.edges;
     faces = other.faces;
+    uvSets = other.uvSets;
+    colorSets = other.colorSets;
+    currentUvSet = other.currentUvSet;
+    currentColorSet = other.currentColorSet;
     m_topology.reset();
     forgetDerived();
 }

@@ -3,6 +3,7 @@
 
 #include "../data.h"
 #include "faceTable.h"
+#include "mapSets.h"
 
 #include <memory>
 #include <vector>
@@ -32,6 +33,11 @@ public:
     std::vector<Vec3f> points; ///< centimetres, object space
     std::vector<Edge> edges;
     FaceTable faces;
+    std::vector<UvSet> uvSets; ///< at least one
+    std::vector<ColorSet> colorSets;
+    /// The names of the sets that are meant when none is named, where no shape says it; none of them: the
+    /// first one.
+    std::string currentUvSet, currentColorSet;
 
     /// The vertex where a corner of a face begins.
     std::int32_t startOf(std::int32_t corner) const

@@ -3,7 +3,7 @@
 
 #include "../scene.h"
 #include "../values.h"
-#include "primitives.h"
+#include "primitiveUvs.h"
 
 #include <algorithm>
 
@@ -24,23 +24,52 @@ int count(Node& node, const char* name)
     return static_cast<int>(readNumber(Plug(node, *node.findAttribute(name))).value.asWhole());
 }
 
+/// The values of `createUVs` whose layout is known. With others there are no texture coordinates, nor on
+/// cylinders, cones and tori.
+enum TextureLayout
+{
+    kPlaneProportions = 2,
+    kCubeProportions = 4,
+    kSphereSawtooth = 2
+};
+
+bool isMapped(Node& node, TextureLayout layout)
+{
+    return count(node, "createUVs") == layout;
+}
+
 Ref<MeshData> makePlaneOf(Node& node)
 {
-    return makePlane({number(node, "width"), number(node, "height"), count(node, "subdivisionsWidth"),
-                      count(node, "subdivisionsHeight")});
+    const PlaneShape shape{number(node, "width"), number(node, "height"), count(node, "subdivisionsWidth"),
+                           count(node, "subdivisionsHeight")};
+    const Ref<MeshData> mesh = makePlane(shape);
+    if (isMapped(node, kPlaneProportions))
+        mapPlane(*mesh, shape);
+    return mesh;
 }
 
 Ref<MeshData> makeCubeOf(Node& node)
 {
-    return makeCube({number(node, "width"), number(node, "height"), number(node, "depth"),
-                     count(node, "subdivisionsWidth"), count(node, "subdivisionsHeight"),
-                     count(node, "subdivisionsDepth")});
+    const CubeShape shape{number(node, "width"),
+                          number(node, "height"),
+                          number(node, "depth"),
+                          count(node, "subdivisionsWidth"),
+                          count(node, "subdivisionsHeight"),
+                          count(node, "subdivisionsDepth")};
+    const Ref<MeshData> mesh = makeCube(shape);
+    if (isMapped(node, kCubeProportions))
+        mapCube(*mesh, shape);
+    return mesh;
 }
 
 Ref<MeshData> makeSphereOf(Node& node)
 {
-    return makeSphere(
-        {number(node, "radius"), count(node, "subdivisionsAxis"), count(node, "subdivisionsHeight")});
+    const SphereShape shape{number(node, "radius"), count(node, "subdivisionsAxis"),
+                            count(node, "subdivisionsHeight")};
+    const Ref<MeshData> mesh = makeSphere(shape);
+    if (isMapped(node, kSphereSawtooth))
+        mapSphere(*mesh, shape);
+    return mesh;
 }
 
 Ref<MeshData> makeCylinderOf(Node& node)

@@ -13,8 +13,6 @@ namespace tvxhost::engine {
 namespace {
 
 constexpr double kPi = 3.14159265358979323846;
-constexpr int kLeastSides = 3;
-constexpr int kLeastSphereRows = 3;
 
 /// A grid of vertices; each has an edge to the next one of its row, then one to the next row.
 class Plane

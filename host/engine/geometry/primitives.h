@@ -5,8 +5,12 @@
 
 namespace tvxhost::engine {
 
+/// The least that makes a body.
+inline constexpr int kLeastSides = 3;
+inline constexpr int kLeastSphereRows = 3;
+
 // All stand around the origin with the y axis as theirs; lengths in centimetres. Numbers of subdivisions are
-// raised to the least that makes a body.
+// raised to these.
 
 /// In the ground plane, facing up; vertices row by row from the front (+z).
 struct PlaneShape

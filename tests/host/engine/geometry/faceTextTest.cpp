@@ -27,6 +27,33 @@ TEST(FaceTextTest, FacesByVerticesAndColoursAreSkipped)
     EXPECT_THAT(face.holes, IsEmpty());
 }
 
+TEST(FaceTextTest, WhatCornersHaveInSetsBelongsToTheLoopBeforeIt)
+{
+    MeshFace face;
+    FaceMaps maps;
+    ASSERT_TRUE(readFace(
+        "f 4 0 1 2 3 mu 0 4 9 8 7 6 mu 2 4 0 1 2 3 mc 1 4 -1 5 -1 6 h 3 -5 -6 -7 mu 0 3 5 4 3", face, &maps));
+    ASSERT_EQ(maps.uvs.size(), 3u);
+    EXPECT_EQ(maps.uvs[0].firstCorner, 0u);
+    EXPECT_EQ(maps.uvs[0].slot, 0);
+    EXPECT_THAT(maps.uvs[0].used, ElementsAre(9, 8, 7, 6));
+    EXPECT_EQ(maps.uvs[1].slot, 2);
+    EXPECT_EQ(maps.uvs[2].firstCorner, 4u);
+    EXPECT_THAT(maps.uvs[2].used, ElementsAre(5, 4, 3));
+    ASSERT_EQ(maps.colors.size(), 1u);
+    EXPECT_EQ(maps.colors[0].slot, 1);
+    EXPECT_THAT(maps.colors[0].used, ElementsAre(-1, 5, -1, 6));
+}
+
+TEST(FaceTextTest, EachLoopIsWrittenBeforeWhatItHasInSets)
+{
+    FaceTable faces;
+    faces.add({{1, 2, 3}, {{-5, -6, -7}}});
+    const FaceMaps maps{{{0, 0, {4, 5, 6}}, {0, 1, {0, 1, 2}}, {3, 0, {7, 8, 9}}}, {{0, 0, {-1, 1, 2}}}};
+    EXPECT_EQ(faceText(faces, 0, maps), "f 3 1 2 3\n\t\tmu 0 3 4 5 6\n\t\tmu 1 3 0 1 2\n\t\tmc 0 3 -1 1 "
+                                        "2\n\t\th 3 -5 -6 -7\n\t\tmu 0 3 7 8 9");
+}
+
 TEST(FaceTextTest, OtherWordsAreNoFace)
 {
     for (const char* words :
