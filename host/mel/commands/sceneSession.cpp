@@ -113,9 +113,10 @@ Outcome SceneSession::savePreferences(bool onlyChanged)
     return variables ? std::move(places) : std::move(variables);
 }
 
-scene::ReadOptions SceneSession::readOptions(Interpreter& interpreter)
+scene::ReadOptions SceneSession::readOptions(Interpreter& interpreter, scene::ReferenceDepth depth)
 {
     scene::ReadOptions options;
+    options.references = depth;
     options.loadPlugin = [this](const std::string& name) -> engine::Outcome {
         if (m_plugins && m_plugins->findLoaded(name))
             return {};
@@ -133,47 +134,46 @@ scene::ReadOptions SceneSession::readOptions(Interpreter& interpreter)
     return options;
 }
 
+/// A way to read a file, and what observers are told of it.
+struct SceneSession::Reading
+{
+    decltype(scene::openScene)* read;
+    Happening check;
+    Happening begun;
+    Happening done;
+};
+
 scene::ReadResult SceneSession::open(Interpreter& interpreter, const std::filesystem::path& file,
                                      scene::ReferenceDepth depth)
 {
-    scene::ReadResult result;
-    result.outcome = mayDo(m_scene, Happening::openChecked, file);
-    if (!result.outcome)
-        return result;
-    scene::ReadOptions options = readOptions(interpreter);
-    options.references = depth;
-    options.begins = [&] {
-        tell(m_scene, Happening::openBegun, file);
-        tell(m_scene, Happening::readBegun, file);
-    };
-    result = scene::openScene(m_scene, file, options);
-    lastSummary = result.summary;
-    if (!result.outcome)
-        return result;
-    tell(m_scene, Happening::readDone, file);
-    tell(m_scene, Happening::openDone, file);
-    return result;
+    return read({scene::openScene, Happening::openChecked, Happening::openBegun, Happening::openDone}, file,
+                readOptions(interpreter, depth));
 }
 
 scene::ReadResult SceneSession::import(Interpreter& interpreter, const std::filesystem::path& file,
                                        scene::ReferenceDepth depth)
 {
+    return read({scene::importScene, Happening::importChecked, Happening::importBegun, Happening::importDone},
+                file, readOptions(interpreter, depth));
+}
+
+scene::ReadResult SceneSession::read(const Reading& reading, const std::filesystem::path& file,
+                                     scene::ReadOptions options)
+{
     scene::ReadResult result;
-    result.outcome = mayDo(m_scene, Happening::importChecked, file);
+    result.outcome = mayDo(m_scene, reading.check, file);
     if (!result.outcome)
         return result;
-    scene::ReadOptions options = readOptions(interpreter);
-    options.references = depth;
     options.begins = [&] {
-        tell(m_scene, Happening::importBegun, file);
+        tell(m_scene, reading.begun, file);
         tell(m_scene, Happening::readBegun, file);
     };
-    result = scene::importScene(m_scene, file, options);
+    result = reading.read(m_scene, file, options);
     lastSummary = result.summary;
     if (!result.outcome)
         return result;
     tell(m_scene, Happening::readDone, file);
-    tell(m_scene, Happening::importDone, file);
+    tell(m_scene, reading.done, file);
     return result;
 }
 
@@ -190,9 +190,7 @@ engine::Outcome SceneSession::setNestedLoaded(Interpreter& interpreter, engine::
                                               bool isLoaded, scene::ReferenceDepth depth)
 {
     scene::SceneSummary summary;
-    scene::ReadOptions options = readOptions(interpreter);
-    options.references = depth;
-    return scene::setNestedLoaded(m_scene, reference, isLoaded, options, summary);
+    return scene::setNestedLoaded(m_scene, reference, isLoaded, readOptions(interpreter, depth), summary);
 }
 
 engine::Outcome SceneSession::replaceNested(Interpreter& interpreter, engine::Reference& reference,
@@ -200,9 +198,7 @@ engine::Outcome SceneSession::replaceNested(Interpreter& interpreter, engine::Re
                                             scene::ReferenceDepth depth)
 {
     scene::SceneSummary summary;
-    scene::ReadOptions options = readOptions(interpreter);
-    options.references = depth;
-    return scene::replaceNested(m_scene, reference, file, isLoaded, options, summary);
+    return scene::replaceNested(m_scene, reference, file, isLoaded, readOptions(interpreter, depth), summary);
 }
 
 engine::Outcome SceneSession::importReference(Interpreter& interpreter, engine::Reference& reference)

@@ -108,7 +108,11 @@ private:
     engine::Outcome write(const std::filesystem::path& file, engine::Happening check, engine::Happening begun,
                           engine::Happening done);
 
-    scene::ReadOptions readOptions(Interpreter& interpreter);
+    struct Reading;
+    scene::ReadResult read(const Reading& reading, const std::filesystem::path& file,
+                           scene::ReadOptions options);
+    scene::ReadOptions readOptions(Interpreter& interpreter,
+                                   scene::ReferenceDepth depth = scene::ReferenceDepth::asSaved);
 
     engine::Scene& m_scene;
     api::PluginLoader* m_plugins;
