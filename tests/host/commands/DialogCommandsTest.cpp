@@ -1,30 +1,22 @@
 // fileDialog2, fileDialog: answered in advance.
-#include "../support/temporaryFolder.h"
-#include "CommandFixture.h"
-
-#include <filesystem>
-#include <fstream>
+#include "projectFixture.h"
 
 namespace tvxhost::mel {
 
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-class DialogCommandsTest : public CommandFixture
+class DialogCommandsTest : public ProjectFixture
 {
 protected:
     DialogCommandsTest()
     {
-        session.workspace.open(m_folder.path());
-        std::ofstream(path("a.ma")) << "a";
-        std::ofstream(path("b.ma")) << "b";
+        folder.write("a.ma", "a");
+        folder.write("b.ma", "b");
         std::filesystem::create_directory(path("scenes"));
     }
 
-    std::string path(const std::string& name) const { return (m_folder.path() / name).string(); }
     void answer(std::deque<std::string> answers) { session.dialogAnswers = std::move(answers); }
-
-    test::TemporaryFolder m_folder;
 };
 
 TEST_F(DialogCommandsTest, aDialogThatNobodyAnswersIsCancelled)

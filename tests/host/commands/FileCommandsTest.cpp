@@ -1,32 +1,12 @@
 // file, fileInfo, sysFile.
-#include "CommandFixture.h"
-
-#include <filesystem>
-#include <fstream>
-#include <iterator>
-
-#include <unistd.h>
+#include "projectFixture.h"
 
 namespace tvxhost::mel {
 
 using testing::ElementsAre;
 using testing::HasSubstr;
 
-class FileCommandsTest : public CommandFixture
-{
-protected:
-    void SetUp() override
-    {
-        m_folder = std::filesystem::temp_directory_path() / ("tvxFile." + std::to_string(::getpid()));
-        std::filesystem::create_directories(m_folder);
-        session.workspace.open(m_folder);
-    }
-    void TearDown() override { std::filesystem::remove_all(m_folder); }
-
-    std::string path(const std::string& name) const { return (m_folder / name).string(); }
-
-    std::filesystem::path m_folder;
-};
+using FileCommandsTest = ProjectFixture;
 
 TEST_F(FileCommandsTest, savesUnderTheNameAndOpensAgain)
 {
@@ -53,7 +33,7 @@ TEST_F(FileCommandsTest, filesThatAreNoScenesAreErrorsAndChangeNothing)
 {
     run("createNode transform -n \"a\"");
     EXPECT_EQ(failure("file -f -o \"none.ma\""), "File not found: \"" + path("none.ma") + "\"");
-    std::ofstream(path("note.ma")) << "hello\n";
+    folder.write("note.ma", "hello\n");
     EXPECT_THAT(failure("file -f -o \"note.ma\""), HasSubstr("is not a Maya ASCII scene"));
     EXPECT_EQ(run("objExists a"), "1");
 }
@@ -72,9 +52,8 @@ TEST_F(FileCommandsTest, anUntitledSceneIsNotSaved)
 
 TEST_F(FileCommandsTest, scenesMayHoldStatementsOfTheLanguage)
 {
-    std::ofstream(path("script.ma")) << "//Maya ASCII 2016 scene\n"
-                                        "createNode transform -n \"a\";\n"
-                                        "for ($i = 0; $i < 3; $i++) currentTime $i;\n";
+    writeScene("script.ma", "createNode transform -n \"a\";\n"
+                            "for ($i = 0; $i < 3; $i++) currentTime $i;\n");
     run("file -f -o \"script.ma\"");
     EXPECT_EQ(session.lastSummary.errors, 0u);
     EXPECT_EQ(run("currentTime -q"), "2");
@@ -109,7 +88,7 @@ TEST_F(FileCommandsTest, sysFileMakesMovesAndDeletes)
     EXPECT_EQ(run("sysFile -makeDir \"" + path("a/b/c") + "\""), "1");
     EXPECT_TRUE(std::filesystem::is_directory(path("a/b/c")));
     EXPECT_EQ(run("sysFile -makeDir \"" + path("a/b/c") + "\""), "1");
-    std::ofstream(path("x.txt")) << "x";
+    folder.write("x.txt", "x");
     EXPECT_EQ(run("sysFile -copy \"" + path("y.txt") + "\" \"" + path("x.txt") + "\""), "1");
     EXPECT_EQ(run("sysFile -rename \"" + path("z.txt") + "\" \"" + path("y.txt") + "\""), "1");
     EXPECT_TRUE(std::filesystem::exists(path("z.txt")));

@@ -1,10 +1,7 @@
 // What the scene's observers are told of files and of undo.
-#include "../support/temporaryFolder.h"
-#include "CommandFixture.h"
+#include "projectFixture.h"
 
 #include "engine/observers.h"
-
-#include <filesystem>
 
 namespace tvxhost::mel {
 namespace {
@@ -14,24 +11,22 @@ using engine::Happening;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-class FileEventsTest : public CommandFixture
+class FileEventsTest : public ProjectFixture
 {
 protected:
     void hear(Happening what, const std::string& name)
     {
         scene.observers().add({what}, [this, name](const Event& event) {
-            heard.push_back(name + (event.text == file.string() ? " file" : event.text));
+            heard.push_back(name + (event.text == path("shot.ma") ? " file" : event.text));
         });
     }
     void forbid(Happening check)
     {
         scene.observers().add({check}, [](const Event& event) { *event.isAllowed = false; });
     }
-    std::string save() { return "file -rename \"" + file.string() + "\"; file -save -type mayaAscii"; }
+    void save() { run("file -rename \"shot.ma\"; file -save -type mayaAscii"); }
     std::vector<std::string> takeHeard() { return std::exchange(heard, {}); }
 
-    const test::TemporaryFolder folder;
-    const std::filesystem::path file = folder / "fileEvents.ma";
     std::vector<std::string> heard;
 };
 
@@ -41,7 +36,7 @@ TEST_F(FileEventsTest, OfAFileThatIsNoSceneNothingBegins)
     hear(Happening::importBegun, "import");
     hear(Happening::readBegun, "read");
     for (const char* const command : {"file -f -o", "file -i"})
-        EXPECT_NE(failure(std::string(command) + " \"" + (folder / "missing.ma").string() + "\""), "");
+        EXPECT_NE(failure(std::string(command) + " \"missing.ma\""), "");
     EXPECT_THAT(takeHeard(), ElementsAre());
 }
 
@@ -59,18 +54,18 @@ TEST_F(FileEventsTest, EachStepIsToldInOrder)
     hear(Happening::importDone, "imported");
     run("file -force -new");
     EXPECT_THAT(takeHeard(), ElementsAre("new", "made"));
-    run(save());
+    save();
     EXPECT_THAT(takeHeard(), ElementsAre("save file", "saved file"));
-    run("file -force -open \"" + file.string() + "\"");
+    run("file -force -open \"shot.ma\"");
     EXPECT_THAT(takeHeard(), ElementsAre("open file", "read file", "was read file", "opened file"));
-    run("file -import \"" + file.string() + "\"");
+    run("file -import \"shot.ma\"");
     EXPECT_THAT(takeHeard(), ElementsAre("import file", "read file", "was read file", "imported file"));
 }
 
 TEST_F(FileEventsTest, WhatSomebodyForbidsIsNotDone)
 {
     run("createNode transform -n kept");
-    run(save());
+    save();
     for (const Happening check :
          {Happening::newChecked, Happening::openChecked, Happening::importChecked, Happening::saveChecked})
         forbid(check);
@@ -79,8 +74,8 @@ TEST_F(FileEventsTest, WhatSomebodyForbidsIsNotDone)
     hear(Happening::saveBegun, "save");
     const std::string refusal = "File operation cancelled by user supplied callback.";
     EXPECT_EQ(refusal, failure("file -force -new"));
-    EXPECT_EQ(refusal, failure("file -force -open \"" + file.string() + "\""));
-    EXPECT_EQ(refusal, failure("file -import \"" + file.string() + "\""));
+    EXPECT_EQ(refusal, failure("file -force -open \"shot.ma\""));
+    EXPECT_EQ(refusal, failure("file -import \"shot.ma\""));
     EXPECT_EQ(refusal, failure("file -save"));
     EXPECT_THAT(takeHeard(), IsEmpty());
     EXPECT_EQ("1", run("objExists kept"));

@@ -2,9 +2,6 @@
 #include "../support/temporaryFolder.h"
 #include "CommandFixture.h"
 
-#include <fstream>
-#include <iterator>
-
 namespace tvxhost::mel {
 
 using testing::Contains;
@@ -112,28 +109,26 @@ TEST_F(ParticleCommandsTest, thePresentStateIsNotWrittenButTheInitialOneIs)
 TEST_F(ParticleCommandsTest, scenesHoldTheInitialState)
 {
     const test::TemporaryFolder folder;
-    const std::string file = (folder / "dust.ma").string();
-    std::ofstream(file) << "//Maya ASCII 2016 scene\n"
-                           "requires maya \"2016\";\n"
-                           "createNode transform -n \"dust\";\n"
-                           "createNode particle -n \"dustShape\" -p \"dust\";\n"
-                           "\taddAttr -ci true -sn \"lifespanPP\" -ln \"lifespanPP\" -dt \"doubleArray\";\n"
-                           "\taddAttr -ci true -h true -sn \"lifespanPP0\" -ln \"lifespanPP0\" -dt "
-                           "\"doubleArray\";\n"
-                           "\tsetAttr \".pos0\" -type \"vectorArray\" 2 1 2 3 4 5 6 ;\n"
-                           "\tsetAttr \".mas0\" -type \"doubleArray\" 2 1 7 ;\n"
-                           "\tsetAttr \".nid\" 2;\n"
-                           "\tsetAttr \".lifespanPP0\" -type \"doubleArray\" 2 0.5 1.5 ;\n"
-                           "connectAttr \":time1.o\" \"dustShape.cti\";\n";
-    run("file -f -o \"" + file + "\"");
+    folder.write("dust.ma", "//Maya ASCII 2016 scene\n"
+                            "requires maya \"2016\";\n"
+                            "createNode transform -n \"dust\";\n"
+                            "createNode particle -n \"dustShape\" -p \"dust\";\n"
+                            "\taddAttr -ci true -sn \"lifespanPP\" -ln \"lifespanPP\" -dt \"doubleArray\";\n"
+                            "\taddAttr -ci true -h true -sn \"lifespanPP0\" -ln \"lifespanPP0\" -dt "
+                            "\"doubleArray\";\n"
+                            "\tsetAttr \".pos0\" -type \"vectorArray\" 2 1 2 3 4 5 6 ;\n"
+                            "\tsetAttr \".mas0\" -type \"doubleArray\" 2 1 7 ;\n"
+                            "\tsetAttr \".nid\" 2;\n"
+                            "\tsetAttr \".lifespanPP0\" -type \"doubleArray\" 2 0.5 1.5 ;\n"
+                            "connectAttr \":time1.o\" \"dustShape.cti\";\n");
+    run("file -f -o \"" + folder.path("dust.ma") + "\"");
     EXPECT_EQ(run("particle -q -ct dust"), "2");
     EXPECT_THAT(numbers("particle -q -at position -or 1 dust"), ElementsAre(4, 5, 6));
     EXPECT_THAT(numbers("particle -q -at mass -or 1 dust"), ElementsAre(7));
     EXPECT_THAT(numbers("particle -q -at lifespanPP -or 0 dust"), ElementsAre(0.5));
-    run("particle -e -at mass -or 0 -fv 3 dust; file -rename \"" + (folder / "saved.ma").string() +
+    run("particle -e -at mass -or 0 -fv 3 dust; file -rename \"" + folder.path("saved.ma") +
         "\"; file -save");
-    std::ifstream stream(folder / "saved.ma");
-    const std::string saved((std::istreambuf_iterator<char>(stream)), {});
+    const std::string saved = folder.read("saved.ma");
     EXPECT_THAT(saved, testing::HasSubstr("setAttr \".mas0\" -type \"doubleArray\" 2 1 7"));
     EXPECT_THAT(saved, testing::HasSubstr("setAttr \".lifespanPP0\" -type \"doubleArray\" 2 0.5 1.5"));
     EXPECT_THAT(saved, Not(testing::HasSubstr("setAttr \".mas\"")));

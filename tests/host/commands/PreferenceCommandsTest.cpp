@@ -1,18 +1,14 @@
 // optionVar, savePrefs, about, help.
+#include "../support/temporaryFolder.h"
 #include "CommandFixture.h"
 
-#include <filesystem>
 #include <set>
-
-#include <unistd.h>
 
 namespace tvxhost::mel {
 
 using testing::ElementsAre;
 
-class PreferenceCommandsTest : public CommandFixture
-{
-};
+using PreferenceCommandsTest = CommandFixture;
 
 TEST_F(PreferenceCommandsTest, variablesHaveTheTypeOfTheirLastValue)
 {
@@ -62,13 +58,12 @@ TEST_F(PreferenceCommandsTest, variablesGoBeforeOthersAreSet)
 
 TEST_F(PreferenceCommandsTest, savePrefsWritesTheFolderOfTheSession)
 {
-    session.preferencesFolder =
-        std::filesystem::temp_directory_path() / ("tvxPrefs." + std::to_string(::getpid()));
+    const test::TemporaryFolder folder;
+    session.preferencesFolder = folder.path();
     run("optionVar -iv \"n\" 3; savePrefs");
     engine::OptionVars read;
-    EXPECT_TRUE(read.load(session.preferencesFolder));
+    EXPECT_TRUE(read.load(folder.path()));
     EXPECT_EQ(read.asInt("n"), 3);
-    std::filesystem::remove_all(session.preferencesFolder);
 }
 
 TEST_F(PreferenceCommandsTest, aboutTellsTheVersion)

@@ -1,28 +1,22 @@
 // file -reference and its kin, referenceQuery.
-#include "CommandFixture.h"
-
-#include "../support/temporaryFolder.h"
-
-#include <fstream>
+#include "projectFixture.h"
 
 namespace tvxhost::mel {
 
 using testing::ElementsAre;
 using testing::HasSubstr;
 
-class ReferenceCommandsTest : public CommandFixture
+class ReferenceCommandsTest : public ProjectFixture
 {
 protected:
-    void SetUp() override
+    ReferenceCommandsTest() { writeChain("rig.ma", "body", "head"); }
+
+    /// Writes a scene of two transforms, one below the other.
+    void writeChain(const std::string& file, const std::string& top, const std::string& below) const
     {
-        session.workspace.open(m_folder.path());
-        std::ofstream(m_folder / "rig.ma") << "//Maya ASCII 2016 scene\ncreateNode transform -n \"body\";\n"
-                                              "createNode transform -n \"head\" -p \"body\";\n";
+        writeScene(file, "createNode transform -n \"" + top + "\";\ncreateNode transform -n \"" + below +
+                             "\" -p \"" + top + "\";\n");
     }
-
-    std::string path(const std::string& name) const { return (m_folder / name).string(); }
-
-    test::TemporaryFolder m_folder;
 };
 
 TEST_F(ReferenceCommandsTest, aFileIsReferencedUnderItsNameOrANamespace)
@@ -48,7 +42,7 @@ TEST_F(ReferenceCommandsTest, aMissingFileIsAnErrorAndChangesNothing)
 
 TEST_F(ReferenceCommandsTest, aFileThatIsNoSceneIsAnErrorAndChangesNothing)
 {
-    std::ofstream(m_folder / "empty.ma") << "";
+    folder.write("empty.ma", "");
     EXPECT_EQ(failure("file -reference \"empty.ma\""),
               "The file \"" + path("empty.ma") + "\" could not be referenced");
     EXPECT_EQ(failure("file -reference \".\""), "File not found: \"" + path(".") + "\"");
@@ -58,7 +52,7 @@ TEST_F(ReferenceCommandsTest, aFileThatIsNoSceneIsAnErrorAndChangesNothing)
 
 TEST_F(ReferenceCommandsTest, nothingIsTakenBackBehindNodesThatWentAlsoWhenNoneCameInstead)
 {
-    std::ofstream(m_folder / "empty.ma") << "";
+    folder.write("empty.ma", "");
     run("file -reference \"rig.ma\"; createNode transform -n \"own\"");
     run("undoInfo -state on");
     run("connectAttr own.tx rig:body.tx");
@@ -126,8 +120,7 @@ TEST_F(ReferenceCommandsTest, referenceQueryTellsAboutNodesFilesAndReferenceNode
 
 TEST_F(ReferenceCommandsTest, aReferenceIsReplacedByAnotherFileWithItsEdits)
 {
-    std::ofstream(m_folder / "rig two.ma") << "//Maya ASCII 2016 scene\ncreateNode transform -n \"body\";\n"
-                                              "createNode transform -n \"tail\" -p \"body\";\n";
+    writeChain("rig two.ma", "body", "tail");
     run("file -r -ns \"r\" \"rig.ma\"; setAttr \"r:body.v\" 0; setAttr \"r:head.v\" 0");
     EXPECT_EQ(failure("file -loadReference \"rRN\" \"none.ma\""),
               "File not found: \"" + path("none.ma") + "\"");
@@ -144,9 +137,8 @@ TEST_F(ReferenceCommandsTest, aReferenceIsReplacedByAnotherFileWithItsEdits)
 class ReferenceEditsTest : public ReferenceCommandsTest
 {
 protected:
-    void SetUp() override
+    ReferenceEditsTest()
     {
-        ReferenceCommandsTest::SetUp();
         run("file -r -ns \"r\" \"rig.ma\"; setAttr \"r:body.v\" 0; createNode transform -n \"own\"; "
             "connectAttr own.tx \"r:head.tx\"; connectAttr \"r:head.ty\" own.ty; "
             "parent -r \"r:head\" own");
@@ -215,8 +207,7 @@ TEST_F(ReferenceEditsTest, areAllRemovedFromAReferenceThatIsCleaned)
 
 TEST_F(ReferenceEditsTest, thatFailAreAimedElsewhereAndApplied)
 {
-    std::ofstream(m_folder / "rig.ma") << "//Maya ASCII 2016 scene\ncreateNode transform -n \"torso\";\n"
-                                          "createNode transform -n \"head\" -p \"torso\";\n";
+    writeChain("rig.ma", "torso", "head");
     run("file -loadReference \"rRN\"");
     EXPECT_THAT(strings("referenceQuery -es -fld 1 -scs 0 -ec setAttr \"rRN\""),
                 ElementsAre("setAttr |r:body.visibility 0"));
@@ -240,9 +231,8 @@ TEST_F(ReferenceEditsTest, stayWithTheNodesOfAReferenceThatIsImported)
 
 TEST_F(ReferenceCommandsTest, aReferenceWithinAnotherOneIsUnloadedAndLoadedAlone)
 {
-    std::ofstream(m_folder / "pair.ma") << "//Maya ASCII 2016 scene\n"
-                                           "file -r -ns \"one\" -rfn \"oneRN\" \"rig.ma\";\n"
-                                           "createNode reference -n \"oneRN\";\n";
+    writeScene("pair.ma", "file -r -ns \"one\" -rfn \"oneRN\" \"rig.ma\";\n"
+                          "createNode reference -n \"oneRN\";\n");
     run("file -r -ns \"p\" \"pair.ma\"; setAttr \"p:one:body.v\" 0");
     EXPECT_EQ(run("file -unloadReference \"p:oneRN\""), path("rig.ma"));
     EXPECT_EQ(run("objExists \"p:one:body\""), "0");
@@ -254,12 +244,10 @@ TEST_F(ReferenceCommandsTest, aReferenceWithinAnotherOneIsUnloadedAndLoadedAlone
 
 TEST_F(ReferenceCommandsTest, aReferenceWithinAnotherOneIsReplacedByAnEditOfThat)
 {
-    std::ofstream(m_folder / "pair.ma") << "//Maya ASCII 2016 scene\n"
-                                           "file -rdi 1 -ns \"one\" -rfn \"oneRN\" \"rig.ma\";\n"
-                                           "file -r -ns \"one\" -dr 1 -rfn \"oneRN\" \"rig.ma\";\n"
-                                           "createNode reference -n \"oneRN\";\n";
-    std::ofstream(m_folder / "two.ma") << "//Maya ASCII 2016 scene\ncreateNode transform -n \"body\";\n"
-                                          "createNode transform -n \"tail\" -p \"body\";\n";
+    writeScene("pair.ma", "file -rdi 1 -ns \"one\" -rfn \"oneRN\" \"rig.ma\";\n"
+                          "file -r -ns \"one\" -dr 1 -rfn \"oneRN\" \"rig.ma\";\n"
+                          "createNode reference -n \"oneRN\";\n");
+    writeChain("two.ma", "body", "tail");
     run("file -r -ns \"p\" \"pair.ma\"; setAttr \"p:one:body.v\" 0");
     EXPECT_EQ(failure("file -loadReference \"p:oneRN\" \"none.ma\""),
               "File not found: \"" + path("none.ma") + "\"");
@@ -282,18 +270,17 @@ TEST_F(ReferenceCommandsTest, aReferenceWithinAnotherOneIsReplacedByAnEditOfThat
 class ReferenceDepthTest : public ReferenceCommandsTest
 {
 protected:
-    void SetUp() override
+    ReferenceDepthTest()
     {
-        ReferenceCommandsTest::SetUp();
-        writeScene("pair.ma", "oneRN", "one", "rig.ma");
-        writeScene("shot.ma", "pRN", "p", "pair.ma");
+        writeReferrer("pair.ma", "oneRN", "one", "rig.ma");
+        writeReferrer("shot.ma", "pRN", "p", "pair.ma");
     }
-    void writeScene(const std::string& name, const std::string& node, const std::string& space,
-                    const std::string& file)
+    void writeReferrer(const std::string& name, const std::string& node, const std::string& space,
+                       const std::string& file) const
     {
         const std::string rest = " -ns \"" + space + "\" -dr 1 -rfn \"" + node + "\" \"" + file + "\";\n";
-        std::ofstream(m_folder / name) << "//Maya ASCII 2016 scene\nfile -rdi 1" << rest << "file -r" << rest
-                                       << "createNode reference -n \"" << node << "\";\n";
+        writeScene(name,
+                   "file -rdi 1" + rest + "file -r" + rest + "createNode reference -n \"" + node + "\";\n");
     }
     /// Whether the outer and the inner reference are loaded.
     std::string loaded()
@@ -340,7 +327,7 @@ TEST_F(ReferenceDepthTest, countsFromTheReferenceThatIsLoaded)
 
 TEST_F(ReferenceDepthTest, noneReplacesAFileWithoutLoadingIt)
 {
-    std::ofstream(m_folder / "two.ma") << "//Maya ASCII 2016 scene\ncreateNode transform -n \"tail\";\n";
+    writeScene("two.ma", "createNode transform -n \"tail\";\n");
     run("file -f -o -lrd \"all\" \"shot.ma\"");
     EXPECT_EQ(run("file -lrd \"none\" -loadReference \"p:oneRN\" \"two.ma\""), path("two.ma"));
     EXPECT_EQ(loaded(), "10");

@@ -1,6 +1,5 @@
 // What plug-ins hear of files, references and connections when commands work on them.
-#include "../support/temporaryFolder.h"
-#include "CommandFixture.h"
+#include "projectFixture.h"
 
 #include <maya/MDistance.h>
 #include <maya/MEventMessage.h>
@@ -11,9 +10,6 @@
 #include <maya/MSceneMessage.h>
 #include <maya/MString.h>
 #include <maya/MTime.h>
-
-#include <filesystem>
-#include <fstream>
 
 namespace tvxhost::mel {
 namespace {
@@ -49,10 +45,14 @@ void forbidReference(bool* isAllowed, const MObject&, MFileObject&, void*)
     *isAllowed = false;
 }
 
-class SceneMessageTest : public CommandFixture
+class SceneMessageTest : public ProjectFixture
 {
 protected:
-    SceneMessageTest() { engine::Scene::makeCurrent(&scene); }
+    SceneMessageTest()
+    {
+        engine::Scene::makeCurrent(&scene);
+        writeScene("tree.ma", "createNode transform -n \"trunk\";\n");
+    }
     ~SceneMessageTest() override { engine::Scene::makeCurrent(nullptr); }
 
     void listen(MSceneMessage::Message message, const std::string& text)
@@ -72,16 +72,9 @@ protected:
         m_words.push_back(std::make_unique<Word>(Word{&heard, text}));
         return m_words.back().get();
     }
-    /// A scene of one transform, to be referenced.
-    std::filesystem::path writeTree()
-    {
-        std::ofstream(folder / "tree.ma") << "//Maya ASCII 2016 scene\ncreateNode transform -n \"trunk\";\n";
-        return folder / "tree.ma";
-    }
-    std::string reference() { return "file -reference -namespace \"tree\" \"" + writeTree().string() + "\""; }
     Heard takeHeard() { return std::exchange(heard, {}); }
 
-    const test::TemporaryFolder folder;
+    static constexpr const char* kReference = "file -reference -namespace \"tree\" \"tree.ma\"";
     Heard heard;
 
 private:
@@ -98,7 +91,7 @@ TEST_F(SceneMessageTest, AReferenceIsToldFromItsMakingToItsRemoval)
     listenToReference(MSceneMessage::kAfterUnloadReference, "unloaded");
     listenToReference(MSceneMessage::kBeforeRemoveReference, "remove");
     listenToReference(MSceneMessage::kAfterRemoveReference, "removed");
-    run(reference());
+    run(kReference);
     EXPECT_THAT(takeHeard(), ElementsAre("create none tree.ma", "load treeRN tree.ma",
                                          "loaded treeRN tree.ma", "created treeRN tree.ma"));
     run("file -unloadReference treeRN");
@@ -115,18 +108,18 @@ TEST_F(SceneMessageTest, ADeferredReferenceIsMadeButNotLoaded)
     listen(MSceneMessage::kBeforeReference, "reference");
     listen(MSceneMessage::kAfterReference, "referenced");
     listen(MSceneMessage::kBeforeLoadReference, "load");
-    run("file -reference -deferReference true -namespace \"tree\" \"" + writeTree().string() + "\"");
+    run("file -reference -deferReference true -namespace \"tree\" \"tree.ma\"");
     EXPECT_THAT(takeHeard(), ElementsAre("reference", "referenced"));
 }
 
 TEST_F(SceneMessageTest, OpeningASceneLoadsItsReferences)
 {
-    run(reference());
-    run("file -rename \"" + (folder / "forest.ma").string() + "\"; file -save -type mayaAscii");
+    run(kReference);
+    run("file -rename \"forest.ma\"; file -save -type mayaAscii");
     listenToReference(MSceneMessage::kBeforeLoadReference, "load");
     listenToReference(MSceneMessage::kAfterLoadReference, "loaded");
     listen(MSceneMessage::kAfterOpen, "opened");
-    run("file -force -open \"" + (folder / "forest.ma").string() + "\"");
+    run("file -force -open \"forest.ma\"");
     // The head of the file comes before its nodes, so the reference node is not there yet.
     const Heard all = takeHeard();
     ASSERT_EQ(3u, all.size());
@@ -139,14 +132,14 @@ TEST_F(SceneMessageTest, AReferenceThatSomebodyForbidsIsNotMade)
 {
     listen(MSceneMessage::kBeforeCreateReference, "create");
     MSceneMessage::addCheckReferenceCallback(MSceneMessage::kBeforeCreateReferenceCheck, forbidReference);
-    EXPECT_EQ("File operation cancelled by user supplied callback.", failure(reference()));
+    EXPECT_EQ("File operation cancelled by user supplied callback.", failure(kReference));
     EXPECT_THAT(takeHeard(), IsEmpty());
     EXPECT_EQ("0", run("objExists treeRN"));
 }
 
 TEST_F(SceneMessageTest, AReferenceThatSomebodyForbidsToLoadStaysUnloaded)
 {
-    run(reference());
+    run(kReference);
     run("file -unloadReference treeRN");
     listen(MSceneMessage::kBeforeLoadReference, "load");
     MSceneMessage::addCheckReferenceCallback(MSceneMessage::kBeforeLoadReferenceCheck, forbidReference);
@@ -157,30 +150,29 @@ TEST_F(SceneMessageTest, AReferenceThatSomebodyForbidsToLoadStaysUnloaded)
 
 TEST_F(SceneMessageTest, AnExportIsNoSave)
 {
-    run("createNode transform -n trunk; file -rename \"" + (folder / "own.ma").string() + "\"");
+    run("createNode transform -n trunk; file -rename \"own.ma\"");
     listen(MSceneMessage::kBeforeSave, "save");
     listen(MSceneMessage::kAfterSave, "saved");
     listen(MSceneMessage::kBeforeExport, "export");
     listen(MSceneMessage::kExportStarted, "started");
     listen(MSceneMessage::kAfterExport, "exported");
-    run("file -exportAll -type mayaAscii \"" + (folder / "copy.ma").string() + "\"");
+    run("file -exportAll -type mayaAscii \"copy.ma\"");
     EXPECT_THAT(takeHeard(), ElementsAre("export", "started", "exported"));
-    EXPECT_EQ((folder / "own.ma").string(), run("file -query -sceneName"));
-    EXPECT_TRUE(std::filesystem::exists(folder / "copy.ma"));
+    EXPECT_EQ(path("own.ma"), run("file -query -sceneName"));
+    EXPECT_TRUE(std::filesystem::exists(path("copy.ma")));
     MSceneMessage::addCheckCallback(MSceneMessage::kBeforeExportCheck,
                                     [](bool* isAllowed, void*) { *isAllowed = false; });
     EXPECT_EQ("File operation cancelled by user supplied callback.",
-              failure("file -exportAll -type mayaAscii \"" + (folder / "no.ma").string() + "\""));
-    EXPECT_FALSE(std::filesystem::exists(folder / "no.ma"));
+              failure("file -exportAll -type mayaAscii \"no.ma\""));
+    EXPECT_FALSE(std::filesystem::exists(path("no.ma")));
 }
 
 TEST_F(SceneMessageTest, ConnectionsThatAFileCannotMakeAreTold)
 {
-    std::ofstream(folder / "broken.ma") << "//Maya ASCII 2016 scene\n"
-                                           "createNode transform -n \"a\";\n"
-                                           "createNode transform -n \"b\";\n"
-                                           "connectAttr \"a.gone\" \"b.tx\";\n"
-                                           "connectAttr \"a.ty\" \"b.ty\";\n";
+    writeScene("broken.ma", "createNode transform -n \"a\";\n"
+                            "createNode transform -n \"b\";\n"
+                            "connectAttr \"a.gone\" \"b.tx\";\n"
+                            "connectAttr \"a.ty\" \"b.ty\";\n");
     const auto hearFailure = [](MPlug& source, MPlug& destination, const MString& sourceName,
                                 const MString& destinationName, void* clientData) {
         const Word& word = *static_cast<Word*>(clientData);
@@ -189,17 +181,16 @@ TEST_F(SceneMessageTest, ConnectionsThatAFileCannotMakeAreTold)
         word.heard->push_back(ends + ", " + sourceName.asChar() + " " + destinationName.asChar());
     };
     MSceneMessage::addConnectionFailedCallback(hearFailure, word(""));
-    run("file -force -open \"" + (folder / "broken.ma").string() + "\"");
+    run("file -force -open \"broken.ma\"");
     EXPECT_THAT(takeHeard(), ElementsAre("none b.translateX, a.gone b.tx"));
 }
 
 TEST_F(SceneMessageTest, TheSceneIsUpdatedByAllThatBringsOrTakesNodes)
 {
-    writeTree();
     listen(MSceneMessage::kSceneUpdate, "update");
     run("file -force -new");
-    run("file -import \"" + (folder / "tree.ma").string() + "\"");
-    run(reference());
+    run("file -import \"tree.ma\"");
+    run(kReference);
     run("file -removeReference -referenceNode treeRN");
     EXPECT_THAT(takeHeard(), ElementsAre("update", "update", "update", "update"));
 }

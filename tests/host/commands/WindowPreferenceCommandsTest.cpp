@@ -3,8 +3,6 @@
 #include "CommandFixture.h"
 
 #include <filesystem>
-#include <fstream>
-#include <iterator>
 
 namespace tvxhost::mel {
 
@@ -16,12 +14,8 @@ class WindowPreferenceCommandsTest : public CommandFixture
 protected:
     WindowPreferenceCommandsTest() { session.preferencesFolder = m_folder.path(); }
 
-    std::filesystem::path file() const { return m_folder.path() / "windowPrefs.mel"; }
-    std::string text() const
-    {
-        std::ifstream stream(file());
-        return {std::istreambuf_iterator<char>(stream), {}};
-    }
+    std::filesystem::path file() const { return m_folder / "windowPrefs.mel"; }
+    std::string text() const { return m_folder.read("windowPrefs.mel"); }
     Value::Integers integers(const std::string& script) { return value(script).integers(); }
 
     test::TemporaryFolder m_folder;
@@ -100,12 +94,12 @@ TEST_F(WindowPreferenceCommandsTest, onlyWhatHasChangedIsWritten)
     run("windowPref w");
     EXPECT_TRUE(session.savePreferences(true));
     EXPECT_TRUE(std::filesystem::exists(file()));
-    EXPECT_FALSE(std::filesystem::exists(m_folder.path() / "userPrefs.mel"));
+    EXPECT_FALSE(std::filesystem::exists(m_folder / "userPrefs.mel"));
 }
 
 TEST_F(WindowPreferenceCommandsTest, aFileThatIsNotUnderstoodIsSetAside)
 {
-    std::ofstream(file()) << "windowPref -tlc 1 2 w;\nwindowPref -te (;\n";
+    m_folder.write("windowPrefs.mel", "windowPref -tlc 1 2 w;\nwindowPref -te (;\n");
     const engine::Outcome loaded = session.loadPreferences(interpreter);
     EXPECT_EQ(loaded.text, "'" + file().string() + "' cannot be understood in line 2; it was set aside as '" +
                                file().string() + ".broken'");

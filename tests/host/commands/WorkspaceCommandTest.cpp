@@ -1,39 +1,32 @@
 // workspace: the project.
-#include "../support/temporaryFolder.h"
-#include "CommandFixture.h"
+#include "projectFixture.h"
 
 #include <cstdlib>
-#include <filesystem>
-#include <fstream>
 
 namespace tvxhost::mel {
 
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-class WorkspaceCommandTest : public CommandFixture
+class WorkspaceCommandTest : public ProjectFixture
 {
 protected:
-    WorkspaceCommandTest() { session.workspace.open(m_folder.path()); }
-
-    std::string path(const std::string& name) const { return (m_folder.path() / name).string(); }
-
-    test::TemporaryFolder m_folder;
+    const std::string project = folder.path().string();
 };
 
 TEST_F(WorkspaceCommandTest, tellsTheProjectWithoutASlash)
 {
-    EXPECT_EQ(run("workspace -q -fn"), m_folder.path().string());
-    EXPECT_EQ(run("workspace -q -rd"), m_folder.path().string() + "/");
-    EXPECT_EQ(run("workspace -q -sn"), m_folder.path().filename().string());
-    EXPECT_EQ(run("workspace -q -dir"), m_folder.path().string());
+    EXPECT_EQ(run("workspace -q -fn"), project);
+    EXPECT_EQ(run("workspace -q -rd"), project + "/");
+    EXPECT_EQ(run("workspace -q -sn"), folder.path().filename().string());
+    EXPECT_EQ(run("workspace -q -dir"), project);
 }
 
 TEST_F(WorkspaceCommandTest, opensFoldersThatAreThere)
 {
     EXPECT_EQ(failure("workspace -o \"" + path("none") + "\""),
               "workspace: there is no folder \"" + path("none") + "\"");
-    EXPECT_EQ(run("workspace -q -fn"), m_folder.path().string());
+    EXPECT_EQ(run("workspace -q -fn"), project);
     run("workspace -cr \"shots\"; workspace -o \"shots\"");
     EXPECT_EQ(run("workspace -q -fn"), path("shots"));
     EXPECT_EQ(run("workspace -q -openWorkspace"), path("shots"));
@@ -58,7 +51,7 @@ TEST_F(WorkspaceCommandTest, aSavedProjectHasItsRulesWhenItIsOpened)
     run("workspace -fr \"scene\" \"my scenes\" -v \"show\" \"crowd\"; workspace -s");
     run("workspace -cr \"other\"; workspace -newWorkspace \"other\"");
     EXPECT_THAT(strings("workspace -q -frl"), IsEmpty());
-    run("workspace -o \"" + m_folder.path().string() + "\"");
+    run("workspace -o \"" + project + "\"");
     EXPECT_EQ(run("workspace -q -fre \"scene\""), "my scenes");
     EXPECT_EQ(run("workspace -q -ve \"show\""), "crowd");
 }
@@ -66,8 +59,8 @@ TEST_F(WorkspaceCommandTest, aSavedProjectHasItsRulesWhenItIsOpened)
 TEST_F(WorkspaceCommandTest, aNewProjectIsNothingButAPlaceUntilItIsSaved)
 {
     run("workspace -fr \"scene\" \"scenes\"; workspace -s");
-    EXPECT_EQ(failure("workspace -n \"" + m_folder.path().string() + "\""),
-              "workspace: there is a project in \"" + m_folder.path().string() + "\" already");
+    EXPECT_EQ(failure("workspace -n \"" + project + "\""),
+              "workspace: there is a project in \"" + project + "\" already");
     run("workspace -n \"nowhere\"");
     EXPECT_FALSE(std::filesystem::exists(path("nowhere")));
     EXPECT_EQ(run("workspace -q -rd"), "/") << "as the reference has it";
@@ -79,7 +72,7 @@ TEST_F(WorkspaceCommandTest, whatIsAskedNeedsNoQueryFlag)
     EXPECT_EQ(run("workspace -fre \"scene\""), "scenes");
     EXPECT_THAT(strings("workspace -frl"), ElementsAre("scene"));
     EXPECT_EQ(run("workspace -en \"scenes/a.ma\""), path("scenes/a.ma"));
-    EXPECT_EQ(run("workspace -fn"), m_folder.path().string());
+    EXPECT_EQ(run("workspace -fn"), project);
 }
 
 TEST_F(WorkspaceCommandTest, theOlderNamesOfRulesAreTheSameRules)
@@ -107,7 +100,7 @@ TEST_F(WorkspaceCommandTest, variablesAndTheHomeFolderAreReplacedInNames)
         {"~root", "/root"},
         {"100%", path("100%")},
         {"/whole/", "/whole/"},
-        {"", m_folder.path().string() + "/"},
+        {"", project + "/"},
     };
     for (const auto& [name, expected] : rows)
         EXPECT_EQ(run(std::string("workspace -expandName \"") + name + "\""), expected) << name;
@@ -128,9 +121,8 @@ TEST_F(WorkspaceCommandTest, projectsAreKnownByName)
     EXPECT_EQ(failure("workspace -o \"plain\""),
               "workspace: there is no folder \"" + path("two/plain") + "\"");
     EXPECT_THAT(strings("workspace -listWorkspaces"),
-                ElementsAre(m_folder.path().filename().string(), "one", "two"));
-    EXPECT_THAT(strings("workspace -q -lfw"),
-                ElementsAre(m_folder.path().string(), path("one"), path("two")));
+                ElementsAre(folder.path().filename().string(), "one", "two"));
+    EXPECT_THAT(strings("workspace -q -lfw"), ElementsAre(project, path("one"), path("two")));
     run("workspace -o \"one\"");
     EXPECT_EQ(run("workspace -fre \"scene\""), "first");
 }
@@ -138,9 +130,9 @@ TEST_F(WorkspaceCommandTest, projectsAreKnownByName)
 TEST_F(WorkspaceCommandTest, projectsInTheCurrentFolderAreFound)
 {
     run("workspace -cr \"one\"; workspace -cr \"plain\"");
-    std::ofstream(path("one/workspace.mel")) << "workspace -fr \"scene\" \"first\";\n";
+    folder.write("one/workspace.mel", "workspace -fr \"scene\" \"first\";\n");
     run("workspace -update");
-    EXPECT_THAT(strings("workspace -lw"), ElementsAre(m_folder.path().filename().string(), "one"));
+    EXPECT_THAT(strings("workspace -lw"), ElementsAre(folder.path().filename().string(), "one"));
     EXPECT_THAT(strings("workspace -list"), ElementsAre("one", "plain"));
     EXPECT_THAT(strings("workspace -q -l \"one\""), ElementsAre("workspace.mel"));
 }
@@ -163,9 +155,9 @@ TEST_F(WorkspaceCommandTest, aProjectTakesFromItsBaseWhatItHasNotItself)
 TEST_F(WorkspaceCommandTest, aBaseThatCannotBeReadLeavesTheProjectAsItWas)
 {
     run("workspace -cr \"base\"; workspace -fr \"scene\" \"mine\"");
-    std::ofstream(path("base/workspace.mel")) << "workspace -fr \"scene\" \"theirs\";\nerror \"broken\";\n";
+    folder.write("base/workspace.mel", "workspace -fr \"scene\" \"theirs\";\nerror \"broken\";\n");
     EXPECT_THAT(failure("workspace -bw \"base\""), testing::HasSubstr("broken"));
-    EXPECT_EQ(run("workspace -q -fn"), m_folder.path().string());
+    EXPECT_EQ(run("workspace -q -fn"), project);
     EXPECT_EQ(run("workspace -q -bw"), "default");
     EXPECT_THAT(strings("workspace -q -fr"), ElementsAre("scene", "mine"));
 }
@@ -206,7 +198,7 @@ TEST_F(WorkspaceCommandTest, makesFoldersAndKeepsTheCurrentOne)
     run("workspace -cr \"scenes/old\"; workspace -dir \"scenes\"");
     EXPECT_TRUE(std::filesystem::is_directory(path("scenes/old")));
     EXPECT_EQ(run("workspace -q -dir"), path("scenes"));
-    EXPECT_EQ(run("workspace -q -fn"), m_folder.path().string());
+    EXPECT_EQ(run("workspace -q -fn"), project);
     EXPECT_EQ(failure("workspace -q"), "workspace: nothing was asked");
 }
 

@@ -1,19 +1,18 @@
 // The interpreter as a program uses it.
 #include "mel/interpreter.h"
 
+#include "../support/temporaryFolder.h"
+
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <filesystem>
-#include <fstream>
+#include <cstdlib>
 #include <sstream>
-#include <unistd.h>
 
 namespace tvxhost::mel {
 namespace {
 
 using testing::ElementsAre;
-namespace fs = std::filesystem;
 
 struct Counter : Session
 {
@@ -159,18 +158,16 @@ TEST_F(InterpreterTest, FilesThatCannotBeReadAreErrors)
 
 TEST_F(InterpreterTest, AnErrorInAFileOnThePathNamesTheFile)
 {
-    const fs::path folder = fs::temp_directory_path() / ("tvxMelPath." + std::to_string(::getpid()));
-    fs::create_directories(folder);
-    std::ofstream(folder / "broken.mel") << "\n\nglobal proc broken( {}\n";
-    m_interpreter.scriptPath().append(folder);
+    const test::TemporaryFolder folder;
+    folder.write("broken.mel", "\n\nglobal proc broken( {}\n");
+    m_interpreter.scriptPath().append(folder.path());
     try {
         m_interpreter.execute("broken;");
         FAIL();
     } catch (const ScriptError& error) {
-        EXPECT_EQ(error.place().file, (folder / "broken.mel").string());
+        EXPECT_EQ(error.place().file, folder.path("broken.mel"));
         EXPECT_EQ(error.place().line, 3);
     }
-    fs::remove_all(folder);
 }
 
 TEST_F(InterpreterTest, ScriptPathOfTheEnvironment)

@@ -1,5 +1,6 @@
 // Every script under scripts/ prints exactly what the file of the same name beside it says, errors included.
 #include "../support/scriptFolder.h"
+#include "../support/temporaryFolder.h"
 #include "mel/interpreter.h"
 
 #include <gmock/gmock.h>
@@ -9,7 +10,6 @@
 #include <filesystem>
 #include <sstream>
 #include <string>
-#include <unistd.h>
 #include <vector>
 
 namespace {
@@ -27,16 +27,10 @@ std::vector<std::string> scriptNames()
 class Script : public testing::TestWithParam<std::string>
 {
 protected:
-    void SetUp() override
-    {
-        m_folder = fs::temp_directory_path() / ("tvxMelScript." + std::to_string(::getpid()));
-        fs::create_directories(m_folder);
-        ::setenv("TVX_TEST_FOLDER", m_folder.c_str(), 1);
-    }
-    void TearDown() override { fs::remove_all(m_folder); }
+    void SetUp() override { ::setenv("TVX_TEST_FOLDER", m_folder.path().c_str(), 1); }
 
 private:
-    fs::path m_folder;
+    test::TemporaryFolder m_folder;
 };
 
 TEST_P(Script, PrintsWhatIsExpected)

@@ -1,32 +1,25 @@
 // Files that are no scenes: one clear error, and the scene stays as it was.
 #include "SceneFixture.h"
 
-#include <filesystem>
-#include <fstream>
+#include "../support/temporaryFolder.h"
 
-#include <unistd.h>
+#include <filesystem>
 
 namespace tvxhost::scene {
 
 class BadInputTest : public SceneFixture
 {
 protected:
-    void SetUp() override
-    {
-        m_folder = std::filesystem::temp_directory_path() / ("tvxScene." + std::to_string(::getpid()));
-        std::filesystem::create_directories(m_folder);
-        ASSERT_TRUE(scene.createNode("transform", "mine"));
-    }
+    void SetUp() override { ASSERT_TRUE(scene.createNode("transform", "mine")); }
     void TearDown() override
     {
         EXPECT_TRUE(scene.findNode("mine")) << "the scene was changed";
         EXPECT_TRUE(messages().empty());
-        std::filesystem::remove_all(m_folder);
     }
 
     std::filesystem::path file(const std::string& name, const std::string& content)
     {
-        std::ofstream(m_folder / name, std::ios::binary) << content;
+        m_folder.write(name, content);
         return m_folder / name;
     }
 
@@ -40,7 +33,7 @@ protected:
         EXPECT_FALSE(result.isClean());
     }
 
-    std::filesystem::path m_folder;
+    test::TemporaryFolder m_folder;
 };
 
 TEST_F(BadInputTest, aMissingFile)
@@ -51,7 +44,8 @@ TEST_F(BadInputTest, aMissingFile)
 
 TEST_F(BadInputTest, aFolder)
 {
-    expectRefused(m_folder, "Cannot read file \"" + m_folder.string() + "\": Is a directory", 0);
+    expectRefused(m_folder.path(), "Cannot read file \"" + m_folder.path().string() + "\": Is a directory",
+                  0);
 }
 
 TEST_F(BadInputTest, anEmptyFile)

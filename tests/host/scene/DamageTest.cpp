@@ -213,7 +213,7 @@ protected:
 
     std::filesystem::path write(const std::string& value)
     {
-        const auto file = m_folder->path() / "huge.ma";
+        const auto file = *m_folder / "huge.ma";
         std::ofstream(file) << kHeader << "createNode script -n \"s\";\n\tsetAttr \".b\" -type \"string\" "
                             << value << ";\n";
         return file;
@@ -269,9 +269,9 @@ TEST_F(HugeStringTest, inManyPiecesIsRead)
 TEST(ReadFileTest, tellsOfAFileThatAnotherProcessTruncatesMeanwhile)
 {
     const test::TemporaryFolder folder;
-    const auto file = folder.path() / "changing.ma";
+    const auto file = folder / "changing.ma";
     const std::string whole(8'000'000, 'x');
-    std::ofstream(file) << whole;
+    folder.write("changing.ma", whole);
     std::atomic<bool> isDone{false};
     std::thread other([&] {
         while (!isDone) {
@@ -296,18 +296,17 @@ TEST(ReadFileTest, tellsOfAFileThatAnotherProcessTruncatesMeanwhile)
 TEST(DiskTest, aFileMayHaveTheLongestNameThereIs)
 {
     const test::TemporaryFolder folder;
-    const auto file = folder.path() / (std::string(252, 'n') + ".ma");
+    const std::string name = std::string(252, 'n') + ".ma";
     engine::Scene scene;
-    EXPECT_EQ(saveScene(scene, file).text, "");
-    EXPECT_TRUE(std::filesystem::exists(file));
-    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(folder.path()), {}), 1);
+    EXPECT_EQ(saveScene(scene, folder / name).text, "");
+    EXPECT_EQ(folder.names(), std::vector<std::string>{name});
 }
 
 TEST(DiskTest, withoutRoomIsAnErrorAndTheFileStaysAsItWas)
 {
     const test::TemporaryFolder folder;
-    const auto file = folder.path() / "shot.ma";
-    std::ofstream(file) << "before";
+    const auto file = folder / "shot.ma";
+    folder.write("shot.ma", "before");
     const int code = inOwnProcess([&] {
         engine::Scene scene;
         const rlimit little = {100, 100};
@@ -317,10 +316,8 @@ TEST(DiskTest, withoutRoomIsAnErrorAndTheFileStaysAsItWas)
         return saved.text == "cannot write '" + file.string() + "': File too large" ? 0 : 1;
     });
     EXPECT_EQ(code, 0);
-    std::string content;
-    std::getline(std::ifstream(file), content);
-    EXPECT_EQ(content, "before");
-    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(folder.path()), {}), 1);
+    EXPECT_EQ(folder.read("shot.ma"), "before");
+    EXPECT_EQ(folder.names(), std::vector<std::string>{"shot.ma"});
 }
 
 } // namespace tvxhost::scene

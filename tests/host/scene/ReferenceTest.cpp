@@ -8,7 +8,6 @@
 #include <gmock/gmock.h>
 
 #include <cstdlib>
-#include <fstream>
 
 namespace tvxhost::scene {
 
@@ -38,8 +37,8 @@ protected:
 
     std::string file(const std::string& name, const std::string& content)
     {
-        std::ofstream(m_folder / name) << content;
-        return (m_folder / name).string();
+        m_folder.write(name, content);
+        return m_folder.path(name);
     }
     ReadResult open(const std::string& body)
     {
@@ -96,7 +95,7 @@ TEST_F(ReferenceTest, isFoundThroughVariablesAndInTheProject)
     EXPECT_TRUE(scene.findNode("r:body"));
 
     const test::TemporaryFolder elsewhere;
-    std::ofstream(elsewhere / "shot.ma") << kHeader << "file -r -ns \"r\" \"C:/projects//rig.ma\";\n";
+    elsewhere.write("shot.ma", std::string(kHeader) + "file -r -ns \"r\" \"C:/projects//rig.ma\";\n");
     ReadOptions options;
     options.projectFolders = {m_folder.path()};
     EXPECT_TRUE(openScene(scene, elsewhere / "shot.ma", options).isClean());
@@ -393,8 +392,8 @@ TEST_F(NestedReferenceTest, becomesTheScenesOwnWhenTheOneAroundItIsImported)
     EXPECT_TRUE(node("p:one:body").isReferenced);
     expectAllEdits();
     const std::string text = savedTwice();
-    EXPECT_THAT(text, HasSubstr("file -r -ns \"p:one\" -dr 1 -rfn \"p:oneRN\" \"" +
-                                (m_folder / "rig.ma").string() + "\";\n"));
+    EXPECT_THAT(text, HasSubstr("file -r -ns \"p:one\" -dr 1 -rfn \"p:oneRN\" \"" + m_folder.path("rig.ma") +
+                                "\";\n"));
     EXPECT_THAT(text, HasSubstr("createNode transform -n \"p:hub\";\n"));
     EXPECT_THAT(text, HasSubstr("2 \"p:one:flip\" \"input\" \" -type \\\"float3\\\" 0.25 0 0\""));
     expectAllEdits();
@@ -461,7 +460,7 @@ TEST_F(ReferenceTest, whoseFileIsDamagedIsAnErrorThere)
     file("rig.ma", std::string(kHeader) + "createNode transform -n \"body\";\n\tsetAttr \".tx\" 1");
     EXPECT_EQ(open("file -r -ns \"r\" \"rig.ma\";\n").summary.errors, 1u);
     EXPECT_THAT(messages().front(),
-                HasSubstr((m_folder / "rig.ma").string() + " line 3: The file ends within this statement"));
+                HasSubstr(m_folder.path("rig.ma") + " line 3: The file ends within this statement"));
 }
 
 TEST_F(ReferenceTest, keepsItsLightLinksBesideTheEditsThatItApplies)

@@ -7,10 +7,7 @@
 
 #include <gmock/gmock.h>
 
-#include <algorithm>
 #include <csignal>
-#include <fstream>
-#include <sstream>
 
 #include <fcntl.h>
 #include <sys/file.h>
@@ -30,25 +27,6 @@ class SaveTest : public SceneFixture
 {
 protected:
     SaveTest() { fs::permissions(m_folder.path(), fs::perms::all); }
-
-    static std::string contentOf(const fs::path& file)
-    {
-        std::ostringstream text;
-        text << std::ifstream(file, std::ios::binary).rdbuf();
-        return text.str();
-    }
-    void write(const std::string& name, const std::string& content) const
-    {
-        std::ofstream(m_folder / name, std::ios::binary) << content;
-    }
-    std::vector<std::string> names() const
-    {
-        std::vector<std::string> all;
-        for (const fs::directory_entry& entry : fs::directory_iterator(m_folder.path()))
-            all.push_back(entry.path().filename().string());
-        std::sort(all.begin(), all.end());
-        return all;
-    }
 
     /// Starts a process that does something and ends with 0.
     template <class Work>
@@ -93,7 +71,7 @@ protected:
 
 TEST_F(SaveTest, thatIsCutOffLeavesTheOldSceneAndWhatItLeavesGoesWithTheNext)
 {
-    write("shot.ma", "before");
+    m_folder.write("shot.ma", "before");
     for (int times = 0; times < 2; ++times) {
         const int status = statusOf(start([&] {
             const rlimit nothing = {0, 0};
@@ -105,11 +83,11 @@ TEST_F(SaveTest, thatIsCutOffLeavesTheOldSceneAndWhatItLeavesGoesWithTheNext)
             (void)saveScene(scene, m_folder / "shot.ma");
         }));
         ASSERT_TRUE(WIFSIGNALED(status));
-        EXPECT_EQ(contentOf(m_folder / "shot.ma"), "before");
-        EXPECT_THAT(names(), ElementsAre("shot.ma", StartsWith("shot.ma.")));
+        EXPECT_EQ(m_folder.read("shot.ma"), "before");
+        EXPECT_THAT(m_folder.names(), ElementsAre("shot.ma", StartsWith("shot.ma.")));
     }
     EXPECT_EQ(saveScene(scene, m_folder / "shot.ma").text, "");
-    EXPECT_THAT(names(), ElementsAre("shot.ma"));
+    EXPECT_THAT(m_folder.names(), ElementsAre("shot.ma"));
 }
 
 TEST_F(SaveTest, thatIsKilledAtAnyTimeLeavesTheOldSceneOrTheNewOne)
@@ -117,17 +95,17 @@ TEST_F(SaveTest, thatIsKilledAtAnyTimeLeavesTheOldSceneOrTheNewOne)
     const std::string before(1000, 'a');
     const std::string after(20'000'000, 'b');
     for (const int signal : {SIGTERM, SIGKILL, SIGINT}) {
-        write("shot.ma", before);
+        m_folder.write("shot.ma", before);
         const pid_t process = start([&] { (void)writeFileAtomically(m_folder / "shot.ma", after); });
         int status = 0;
-        while (names().size() == 1 && ::waitpid(process, &status, WNOHANG) == 0)
+        while (m_folder.names().size() == 1 && ::waitpid(process, &status, WNOHANG) == 0)
             ;
         ::kill(process, signal);
         (void)statusOf(process);
-        const std::string content = contentOf(m_folder / "shot.ma");
+        const std::string content = m_folder.read("shot.ma");
         EXPECT_TRUE(content == before || content == after) << content.size();
         EXPECT_TRUE(writeFileAtomically(m_folder / "shot.ma", "next"));
-        EXPECT_THAT(names(), ElementsAre("shot.ma"));
+        EXPECT_THAT(m_folder.names(), ElementsAre("shot.ma"));
     }
 }
 
@@ -135,11 +113,11 @@ TEST_F(SaveTest, leavesTheFilesOfOthersAlone)
 {
     for (const char* name :
          {"shot.ma.7.tmp", "shot.ma.8.tmp", "shot.ma.notes.tmp", "other.ma.7.tmp", "7.tmp"})
-        write(name, "x");
+        m_folder.write(name, "x");
     const int writing = ::open((m_folder / "shot.ma.8.tmp").c_str(), O_RDONLY | O_CLOEXEC);
     ASSERT_EQ(::flock(writing, LOCK_EX), 0);
     EXPECT_EQ(saveScene(scene, m_folder / "shot.ma").text, "");
-    EXPECT_THAT(names(),
+    EXPECT_THAT(m_folder.names(),
                 ElementsAre("7.tmp", "other.ma.7.tmp", "shot.ma", "shot.ma.8.tmp", "shot.ma.notes.tmp"));
     ::close(writing);
 }
@@ -147,17 +125,17 @@ TEST_F(SaveTest, leavesTheFilesOfOthersAlone)
 TEST_F(SaveTest, writesThroughSymbolicLinks)
 {
     fs::create_directory(m_folder / "store");
-    write("store/shot.ma", "before");
+    m_folder.write("store/shot.ma", "before");
     fs::create_symlink("store/shot.ma", m_folder / "relative.ma");
     fs::create_symlink(m_folder / "relative.ma", m_folder / "link to link.ma");
     EXPECT_TRUE(writeFileAtomically(m_folder / "link to link.ma", "after"));
-    EXPECT_EQ(contentOf(m_folder / "store/shot.ma"), "after");
+    EXPECT_EQ(m_folder.read("store/shot.ma"), "after");
     EXPECT_TRUE(fs::is_symlink(m_folder / "relative.ma"));
     EXPECT_TRUE(fs::is_symlink(m_folder / "link to link.ma"));
 
     fs::create_symlink("store/new.ma", m_folder / "to nothing.ma");
     EXPECT_TRUE(writeFileAtomically(m_folder / "to nothing.ma", "new"));
-    EXPECT_EQ(contentOf(m_folder / "store/new.ma"), "new");
+    EXPECT_EQ(m_folder.read("store/new.ma"), "new");
     EXPECT_TRUE(fs::is_symlink(m_folder / "to nothing.ma"));
 }
 
@@ -166,20 +144,20 @@ TEST_F(SaveTest, namesTheLinkThatLeadsNowhere)
     fs::create_symlink("circle.ma", m_folder / "circle.ma");
     fs::create_symlink("none/shot.ma", m_folder / "far.ma");
     EXPECT_EQ(saveScene(scene, m_folder / "circle.ma").text,
-              "cannot write '" + (m_folder / "circle.ma").string() + "': Too many levels of symbolic links");
+              "cannot write '" + m_folder.path("circle.ma") + "': Too many levels of symbolic links");
     EXPECT_EQ(saveScene(scene, m_folder / "far.ma").text,
-              "cannot write '" + (m_folder / "far.ma").string() + "': No such file or directory");
-    EXPECT_THAT(names(), ElementsAre("circle.ma", "far.ma"));
+              "cannot write '" + m_folder.path("far.ma") + "': No such file or directory");
+    EXPECT_THAT(m_folder.names(), ElementsAre("circle.ma", "far.ma"));
 }
 
 TEST_F(SaveTest, doesNotReplaceAFileThatMayNotBeWrittenTo)
 {
-    write("shot.ma", "before");
+    m_folder.write("shot.ma", "before");
     fs::permissions(m_folder / "shot.ma", fs::perms::owner_read | fs::perms::others_read);
     EXPECT_EQ(failureForOthers(m_folder / "shot.ma"),
-              "cannot write '" + (m_folder / "shot.ma").string() + "': Permission denied");
-    EXPECT_EQ(contentOf(m_folder / "shot.ma"), "before");
-    EXPECT_THAT(names(), ElementsAre("shot.ma"));
+              "cannot write '" + m_folder.path("shot.ma") + "': Permission denied");
+    EXPECT_EQ(m_folder.read("shot.ma"), "before");
+    EXPECT_THAT(m_folder.names(), ElementsAre("shot.ma"));
 }
 
 TEST_F(SaveTest, doesNotWriteToAFolderThatMayNotBeWrittenTo)
@@ -188,21 +166,21 @@ TEST_F(SaveTest, doesNotWriteToAFolderThatMayNotBeWrittenTo)
         fs::perms::owner_read | fs::perms::owner_exec | fs::perms::others_read | fs::perms::others_exec;
     fs::permissions(m_folder.path(), kReadOnly);
     EXPECT_EQ(failureForOthers(m_folder / "shot.ma"),
-              "cannot write '" + (m_folder / "shot.ma").string() + "': Permission denied");
-    EXPECT_THAT(names(), IsEmpty());
+              "cannot write '" + m_folder.path("shot.ma") + "': Permission denied");
+    EXPECT_THAT(m_folder.names(), IsEmpty());
 }
 
 TEST_F(SaveTest, namesAFileWhoseNameIsTooLong)
 {
     const fs::path file = m_folder / (std::string(253, 'n') + ".ma");
     EXPECT_EQ(saveScene(scene, file).text, "cannot write '" + file.string() + "': File name too long");
-    EXPECT_THAT(names(), IsEmpty());
+    EXPECT_THAT(m_folder.names(), IsEmpty());
 }
 
 TEST_F(SaveTest, keepsThePermissionsOfTheOldFile)
 {
     constexpr fs::perms kPrivate = fs::perms::owner_read | fs::perms::owner_write;
-    write("shot.ma", "before");
+    m_folder.write("shot.ma", "before");
     fs::permissions(m_folder / "shot.ma", kPrivate);
     EXPECT_EQ(saveScene(scene, m_folder / "shot.ma").text, "");
     EXPECT_EQ(fs::status(m_folder / "shot.ma").permissions(), kPrivate);

@@ -1,17 +1,15 @@
 // Writing scenes: the order of the file, its lines, and saving whole or not at all.
 #include "SceneFixture.h"
 
+#include "../support/temporaryFolder.h"
+
 #include <gmock/gmock.h>
 
 #include <cstdlib>
-#include <filesystem>
-#include <fstream>
-#include <sstream>
-
-#include <unistd.h>
 
 namespace tvxhost::scene {
 
+using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::Not;
 
@@ -277,29 +275,15 @@ TEST_F(WriterTest, givesTheSameBytesAfterReadingThemBack)
 class SavingTest : public WriterTest
 {
 protected:
-    void SetUp() override
-    {
-        m_folder = std::filesystem::temp_directory_path() / ("tvxSaving." + std::to_string(::getpid()));
-        std::filesystem::create_directories(m_folder);
-    }
-    void TearDown() override { std::filesystem::remove_all(m_folder); }
-
-    static std::string content(const std::filesystem::path& file)
-    {
-        std::ostringstream text;
-        text << std::ifstream(file, std::ios::binary).rdbuf();
-        return text.str();
-    }
-
-    std::filesystem::path m_folder;
+    test::TemporaryFolder m_folder;
 };
 
 TEST_F(SavingTest, writesTheFileAndRemembersItsName)
 {
     scene.isModified = true;
     ASSERT_TRUE(saveScene(scene, m_folder / "shot.ma"));
-    EXPECT_THAT(content(m_folder / "shot.ma"), testing::EndsWith("// End of shot.ma\n"));
-    EXPECT_EQ(scene.fileName, (m_folder / "shot.ma").string());
+    EXPECT_THAT(m_folder.read("shot.ma"), testing::EndsWith("// End of shot.ma\n"));
+    EXPECT_EQ(scene.fileName, m_folder.path("shot.ma"));
     EXPECT_FALSE(scene.isModified);
 }
 
@@ -307,15 +291,15 @@ TEST_F(SavingTest, leavesNothingBesideTheFile)
 {
     ASSERT_TRUE(saveScene(scene, m_folder / "shot.ma"));
     ASSERT_TRUE(saveScene(scene, m_folder / "shot.ma"));
-    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(m_folder), {}), 1);
+    EXPECT_THAT(m_folder.names(), ElementsAre("shot.ma"));
 }
 
 TEST_F(SavingTest, failsWithOneErrorWhereThereIsNoFolder)
 {
     scene.isModified = true;
-    const engine::Outcome saved = saveScene(scene, m_folder / "none" / "shot.ma");
+    const engine::Outcome saved = saveScene(scene, m_folder / "none/shot.ma");
     EXPECT_FALSE(saved);
-    EXPECT_THAT(saved.text, HasSubstr((m_folder / "none" / "shot.ma").string()));
+    EXPECT_THAT(saved.text, HasSubstr(m_folder.path("none/shot.ma")));
     EXPECT_THAT(saved.text, HasSubstr("No such file or directory"));
     EXPECT_TRUE(scene.isModified);
     EXPECT_EQ(scene.fileName, "");
