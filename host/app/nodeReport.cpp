@@ -3,6 +3,7 @@
 
 #include "engine/dagPath.h"
 #include "engine/plug.h"
+#include "engine/typeName.h"
 #include "mel/arguments.h"
 
 #include <cstdio>
@@ -16,11 +17,6 @@ using engine::NodeType;
 using engine::Plug;
 
 namespace {
-
-std::string typeNameOf(const Node& node)
-{
-    return node.unknownType.empty() ? node.type().name : node.unknownType;
-}
 
 std::string nameOf(Node& node)
 {

@@ -16,6 +16,7 @@
 
 #include "engine/data.h"
 #include "engine/mesh.h"
+#include "engine/typeName.h"
 
 #include <algorithm>
 #include <array>
@@ -75,7 +76,7 @@ bool tellsWhenSet(const Plug& plug)
 
 void NodeWriter::writeNode(engine::Node& node)
 {
-    const std::string& type = node.unknownType.empty() ? node.type().name : node.unknownType;
+    const std::string& type = engine::typeNameOf(node);
     std::string text =
         "createNode " + type + (node.isShared ? " -s" : "") + " -n " + mel::quoted(node.name());
     LineBreaker words(text);
