@@ -4,7 +4,7 @@
 #include "engine/geometry/meshBuilder.h"
 #include "engine/scene.h"
 #include "support/fnMesh.h"
-#include "support/notImplemented.h"
+#include "support/meshSets.h"
 
 #include <maya/MFloatArray.h>
 #include <maya/MFloatPointArray.h>
@@ -96,13 +96,21 @@ MObject place(MFnMesh& set, const Expected<Ref<MeshData>>& mesh, const MObject& 
     return MObject();
 }
 
-/// A mesh with texture coordinates is more than the host does.
-bool refuseTextures(const MFloatArray& u, const MFloatArray& v, MStatus* returnStatus)
+/// The same with texture coordinates, which no corner has yet.
+template <class Array>
+MObject createMesh(MFnMesh& set, int numVertices, int numPolygons, const Array& vertexArray,
+                   const MIntArray& polygonCounts, const MIntArray& polygonConnects, const MFloatArray& u,
+                   const MFloatArray& v, const MObject& parent, MStatus* returnStatus)
 {
-    if (u.length() == 0 && v.length() == 0)
-        return false;
-    api::notImplemented("MFnMesh::create with texture coordinates", returnStatus);
-    return true;
+    TVX_API_CALL_OR("MFnMesh::create", returnStatus, MObject());
+    if (u.length() != v.length()) {
+        api::give(returnStatus, failure(StatusText::noElementAtIndex));
+        return MObject();
+    }
+    const auto mesh = build(numVertices, numPolygons, vertexArray, polygonCounts, polygonConnects);
+    if (mesh)
+        mesh.value->uvSets.front().values = api::uvPairs(u, v);
+    return place(set, mesh, parent, returnStatus);
 }
 
 template <class Array>
@@ -177,10 +185,8 @@ MObject MFnMesh::create(int numVertices, int numPolygons, const MFloatPointArray
                         const MFloatArray& uArray, const MFloatArray& vArray, MObject parentOrOwner,
                         MStatus* ReturnStatus)
 {
-    return refuseTextures(uArray, vArray, ReturnStatus)
-               ? MObject()
-               : createMesh(*this, numVertices, numPolygons, vertexArray, polygonCounts, polygonConnects,
-                            parentOrOwner, ReturnStatus);
+    return createMesh(*this, numVertices, numPolygons, vertexArray, polygonCounts, polygonConnects, uArray,
+                      vArray, parentOrOwner, ReturnStatus);
 }
 
 MObject MFnMesh::create(int numVertices, int numPolygons, const MPointArray& vertexArray,
@@ -188,10 +194,8 @@ MObject MFnMesh::create(int numVertices, int numPolygons, const MPointArray& ver
                         const MFloatArray& uArray, const MFloatArray& vArray, MObject parentOrOwner,
                         MStatus* ReturnStatus)
 {
-    return refuseTextures(uArray, vArray, ReturnStatus)
-               ? MObject()
-               : createMesh(*this, numVertices, numPolygons, vertexArray, polygonCounts, polygonConnects,
-                            parentOrOwner, ReturnStatus);
+    return createMesh(*this, numVertices, numPolygons, vertexArray, polygonCounts, polygonConnects, uArray,
+                      vArray, parentOrOwner, ReturnStatus);
 }
 
 MStatus MFnMesh::createInPlace(int numVertices, int numPolygons, const MFloatPointArray& vertexArray,

@@ -8,20 +8,6 @@
 
 using tvxhost::api::notImplemented;
 
-int MFnMesh::numUVs(MStatus* ReturnStatus) const
-{
-    TVX_API_CALL_OR("MFnMesh::numUVs", ReturnStatus, 0);
-    notImplemented("MFnMesh::numUVs", ReturnStatus);
-    return 0;
-}
-
-int MFnMesh::numUVs(const MString&, MStatus* ReturnStatus) const
-{
-    TVX_API_CALL_OR("MFnMesh::numUVs", ReturnStatus, 0);
-    notImplemented("MFnMesh::numUVs", ReturnStatus);
-    return 0;
-}
-
 int MFnMesh::numColors(MStatus* ReturnStatus) const
 {
     TVX_API_CALL_OR("MFnMesh::numColors", ReturnStatus, 0);
@@ -70,130 +56,10 @@ MStatus MFnMesh::setIsColorClamped(const MString&, bool)
     return notImplemented("MFnMesh::setIsColorClamped");
 }
 
-int MFnMesh::numUVSets(MStatus* ReturnStatus) const
-{
-    TVX_API_CALL_OR("MFnMesh::numUVSets", ReturnStatus, 0);
-    notImplemented("MFnMesh::numUVSets", ReturnStatus);
-    return 0;
-}
-
-MString MFnMesh::createUVSetWithName(const MString&, MDGModifier*, MStatus* ReturnStatus, const MUintArray*)
-{
-    TVX_API_CALL_OR("MFnMesh::createUVSetWithName", ReturnStatus, MString());
-    notImplemented("MFnMesh::createUVSetWithName", ReturnStatus);
-    return MString();
-}
-
-MString MFnMesh::createUVSetDataMeshWithName(const MString&, MStatus* ReturnStatus)
-{
-    TVX_API_CALL_OR("MFnMesh::createUVSetDataMeshWithName", ReturnStatus, MString());
-    notImplemented("MFnMesh::createUVSetDataMeshWithName", ReturnStatus);
-    return MString();
-}
-
-MString MFnMesh::copyUVSetWithName(const MString&, const MString&, MDGModifier*, MStatus* ReturnStatus)
-{
-    TVX_API_CALL_OR("MFnMesh::copyUVSetWithName", ReturnStatus, MString());
-    notImplemented("MFnMesh::copyUVSetWithName", ReturnStatus);
-    return MString();
-}
-
-MStatus MFnMesh::renameUVSet(const MString&, const MString&, MDGModifier*)
-{
-    TVX_API_CALL("MFnMesh::renameUVSet");
-    return notImplemented("MFnMesh::renameUVSet");
-}
-
-MStatus MFnMesh::deleteUVSet(const MString&, MDGModifier*, MSelectionList*)
-{
-    TVX_API_CALL("MFnMesh::deleteUVSet");
-    return notImplemented("MFnMesh::deleteUVSet");
-}
-
-MStatus MFnMesh::setCurrentUVSetName(const MString&, MDGModifier*, MSelectionList*)
-{
-    TVX_API_CALL("MFnMesh::setCurrentUVSetName");
-    return notImplemented("MFnMesh::setCurrentUVSetName");
-}
-
-MString MFnMesh::currentUVSetName(MStatus* ReturnStatus, int) const
-{
-    TVX_API_CALL_OR("MFnMesh::currentUVSetName", ReturnStatus, MString());
-    notImplemented("MFnMesh::currentUVSetName", ReturnStatus);
-    return MString();
-}
-
-MStatus MFnMesh::getUVSetNames(MStringArray&) const
-{
-    TVX_API_CALL("MFnMesh::getUVSetNames");
-    return notImplemented("MFnMesh::getUVSetNames");
-}
-
-MStatus MFnMesh::getUVSetFamilyNames(MStringArray&) const
-{
-    TVX_API_CALL("MFnMesh::getUVSetFamilyNames");
-    return notImplemented("MFnMesh::getUVSetFamilyNames");
-}
-
-MStatus MFnMesh::getUVSetsInFamily(const MString&, MStringArray&) const
-{
-    TVX_API_CALL("MFnMesh::getUVSetsInFamily");
-    return notImplemented("MFnMesh::getUVSetsInFamily");
-}
-
-bool MFnMesh::isUVSetPerInstance(const MString&, MStatus* ReturnStatus) const
-{
-    TVX_API_CALL_OR("MFnMesh::isUVSetPerInstance", ReturnStatus, false);
-    notImplemented("MFnMesh::isUVSetPerInstance", ReturnStatus);
-    return false;
-}
-
-MStatus MFnMesh::getFaceUVSetNames(int, MStringArray&) const
-{
-    TVX_API_CALL("MFnMesh::getFaceUVSetNames");
-    return notImplemented("MFnMesh::getFaceUVSetNames");
-}
-
 MStatus MFnMesh::getAssociatedUVSetTextures(const MString, MObjectArray&) const
 {
     TVX_API_CALL("MFnMesh::getAssociatedUVSetTextures");
     return notImplemented("MFnMesh::getAssociatedUVSetTextures");
-}
-
-MStatus MFnMesh::getAssociatedUVSetInstances(const MString&, MIntArray&) const
-{
-    TVX_API_CALL("MFnMesh::getAssociatedUVSetInstances");
-    return notImplemented("MFnMesh::getAssociatedUVSetInstances");
-}
-
-MStatus MFnMesh::setUVs(const MFloatArray&, const MFloatArray&, const MString*)
-{
-    TVX_API_CALL("MFnMesh::setUVs");
-    return notImplemented("MFnMesh::setUVs");
-}
-
-MStatus MFnMesh::setSomeUVs(const MIntArray&, const MFloatArray&, const MFloatArray&, const MString*)
-{
-    TVX_API_CALL("MFnMesh::setSomeUVs");
-    return notImplemented("MFnMesh::setSomeUVs");
-}
-
-MStatus MFnMesh::getUVs(MFloatArray&, MFloatArray&, const MString*) const
-{
-    TVX_API_CALL("MFnMesh::getUVs");
-    return notImplemented("MFnMesh::getUVs");
-}
-
-MStatus MFnMesh::setUV(int, float, float, const MString*)
-{
-    TVX_API_CALL("MFnMesh::setUV");
-    return notImplemented("MFnMesh::setUV");
-}
-
-MStatus MFnMesh::getUV(int, float&, float&, const MString*) const
-{
-    TVX_API_CALL("MFnMesh::getUV");
-    return notImplemented("MFnMesh::getUV");
 }
 
 MStatus MFnMesh::getPointAtUV(int, MPoint&, float2&, MSpace::Space, const MString*, float)
@@ -212,48 +78,6 @@ MStatus MFnMesh::getAxisAtPoint(MPoint&, MVector&, MVector&, MVector&, MSpace::S
 {
     TVX_API_CALL("MFnMesh::getAxisAtPoint");
     return notImplemented("MFnMesh::getAxisAtPoint");
-}
-
-MStatus MFnMesh::getPolygonUV(int, int, float&, float&, const MString*) const
-{
-    TVX_API_CALL("MFnMesh::getPolygonUV");
-    return notImplemented("MFnMesh::getPolygonUV");
-}
-
-MStatus MFnMesh::getPolygonUVid(int, int, int&, const MString*) const
-{
-    TVX_API_CALL("MFnMesh::getPolygonUVid");
-    return notImplemented("MFnMesh::getPolygonUVid");
-}
-
-MStatus MFnMesh::assignUV(int, int, int, const MString*)
-{
-    TVX_API_CALL("MFnMesh::assignUV");
-    return notImplemented("MFnMesh::assignUV");
-}
-
-MStatus MFnMesh::assignUVs(const MIntArray&, const MIntArray&, const MString*)
-{
-    TVX_API_CALL("MFnMesh::assignUVs");
-    return notImplemented("MFnMesh::assignUVs");
-}
-
-MStatus MFnMesh::clearUVs(const MString*)
-{
-    TVX_API_CALL("MFnMesh::clearUVs");
-    return notImplemented("MFnMesh::clearUVs");
-}
-
-MStatus MFnMesh::getAssignedUVs(MIntArray&, MIntArray&, const MString*) const
-{
-    TVX_API_CALL("MFnMesh::getAssignedUVs");
-    return notImplemented("MFnMesh::getAssignedUVs");
-}
-
-MStatus MFnMesh::getUvShellsIds(MIntArray&, unsigned int&, const MString*) const
-{
-    TVX_API_CALL("MFnMesh::getUvShellsIds");
-    return notImplemented("MFnMesh::getUvShellsIds");
 }
 
 MStatus MFnMesh::getPinUVs(MUintArray&, MDoubleArray&, const MString*) const
@@ -552,30 +376,6 @@ MString MFnMesh::currentColorSetName(MStatus* ReturnStatus) const
     return MString();
 }
 
-MStatus MFnMesh::createUVSet(MString&, MDGModifier*, const MUintArray*)
-{
-    TVX_API_CALL("MFnMesh::createUVSet");
-    return notImplemented("MFnMesh::createUVSet");
-}
-
-MStatus MFnMesh::createUVSetDataMesh(MString&)
-{
-    TVX_API_CALL("MFnMesh::createUVSetDataMesh");
-    return notImplemented("MFnMesh::createUVSetDataMesh");
-}
-
-MStatus MFnMesh::copyUVSet(const MString&, MString&, MDGModifier*)
-{
-    TVX_API_CALL("MFnMesh::copyUVSet");
-    return notImplemented("MFnMesh::copyUVSet");
-}
-
-MStatus MFnMesh::getCurrentUVSetName(MString&, int) const
-{
-    TVX_API_CALL("MFnMesh::getCurrentUVSetName");
-    return notImplemented("MFnMesh::getCurrentUVSetName");
-}
-
 MStatus MFnMesh::createColorSet(MString&, MDGModifier*, const MUintArray*)
 {
     TVX_API_CALL("MFnMesh::createColorSet");
@@ -606,12 +406,6 @@ MString MFnMesh::createColorSetWithNameDataMesh(const MString&, bool, MColorRepr
     TVX_API_CALL_OR("MFnMesh::createColorSetWithNameDataMesh", ReturnStatus, MString());
     notImplemented("MFnMesh::createColorSetWithNameDataMesh", ReturnStatus);
     return MString();
-}
-
-bool MFnMesh::getUVSetIndex(const MString*, int&) const
-{
-    notImplemented("MFnMesh::getUVSetIndex");
-    return false;
 }
 
 bool MFnMesh::getColorSetIndex(const MString*, int&) const

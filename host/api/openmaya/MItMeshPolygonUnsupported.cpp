@@ -13,44 +13,6 @@ unsigned int MItMeshPolygon::tangentIndex(int, MStatus* ReturnStatus) const
     return 0;
 }
 
-bool MItMeshPolygon::hasUVs(MStatus* ReturnStatus) const
-{
-    TVX_API_CALL_OR("MItMeshPolygon::hasUVs", ReturnStatus, false);
-    notImplemented("MItMeshPolygon::hasUVs", ReturnStatus);
-    return false;
-}
-
-bool MItMeshPolygon::hasUVs(const MString&, MStatus* ReturnStatus) const
-{
-    TVX_API_CALL_OR("MItMeshPolygon::hasUVs", ReturnStatus, false);
-    notImplemented("MItMeshPolygon::hasUVs", ReturnStatus);
-    return false;
-}
-
-MStatus MItMeshPolygon::setUV(int, float2&, const MString*)
-{
-    TVX_API_CALL("MItMeshPolygon::setUV");
-    return notImplemented("MItMeshPolygon::setUV");
-}
-
-MStatus MItMeshPolygon::getUV(int, float2&, const MString*) const
-{
-    TVX_API_CALL("MItMeshPolygon::getUV");
-    return notImplemented("MItMeshPolygon::getUV");
-}
-
-MStatus MItMeshPolygon::setUVs(MFloatArray&, MFloatArray&, const MString*)
-{
-    TVX_API_CALL("MItMeshPolygon::setUVs");
-    return notImplemented("MItMeshPolygon::setUVs");
-}
-
-MStatus MItMeshPolygon::getUVs(MFloatArray&, MFloatArray&, const MString*) const
-{
-    TVX_API_CALL("MItMeshPolygon::getUVs");
-    return notImplemented("MItMeshPolygon::getUVs");
-}
-
 MStatus MItMeshPolygon::getPointAtUV(MPoint&, float2&, MSpace::Space, const MString*, float)
 {
     TVX_API_CALL("MItMeshPolygon::getPointAtUV");
@@ -68,24 +30,6 @@ MStatus MItMeshPolygon::getUVAtPoint(MPoint&, float2&, MSpace::Space, const MStr
 {
     TVX_API_CALL("MItMeshPolygon::getUVAtPoint");
     return notImplemented("MItMeshPolygon::getUVAtPoint");
-}
-
-MStatus MItMeshPolygon::getUVIndex(int, int&, const MString*)
-{
-    TVX_API_CALL("MItMeshPolygon::getUVIndex");
-    return notImplemented("MItMeshPolygon::getUVIndex");
-}
-
-MStatus MItMeshPolygon::getUVIndex(int, int&, float&, float&, const MString*)
-{
-    TVX_API_CALL("MItMeshPolygon::getUVIndex");
-    return notImplemented("MItMeshPolygon::getUVIndex");
-}
-
-MStatus MItMeshPolygon::getUVSetNames(MStringArray&) const
-{
-    TVX_API_CALL("MItMeshPolygon::getUVSetNames");
-    return notImplemented("MItMeshPolygon::getUVSetNames");
 }
 
 bool MItMeshPolygon::hasColor(MStatus* ReturnStatus) const
@@ -136,32 +80,6 @@ MStatus MItMeshPolygon::getColorIndices(MIntArray&, const MString*)
 {
     TVX_API_CALL("MItMeshPolygon::getColorIndices");
     return notImplemented("MItMeshPolygon::getColorIndices");
-}
-
-MStatus MItMeshPolygon::getUVArea(double&, const MString*)
-{
-    TVX_API_CALL("MItMeshPolygon::getUVArea");
-    return notImplemented("MItMeshPolygon::getUVArea");
-}
-
-bool MItMeshPolygon::zeroUVArea(MStatus* ReturnStatus)
-{
-    TVX_API_CALL_OR("MItMeshPolygon::zeroUVArea", ReturnStatus, false);
-    notImplemented("MItMeshPolygon::zeroUVArea", ReturnStatus);
-    return false;
-}
-
-bool MItMeshPolygon::zeroUVArea(const MString&, MStatus* ReturnStatus)
-{
-    TVX_API_CALL_OR("MItMeshPolygon::zeroUVArea", ReturnStatus, false);
-    notImplemented("MItMeshPolygon::zeroUVArea", ReturnStatus);
-    return false;
-}
-
-bool MItMeshPolygon::getUVSetIndex(const MString*, int&) const
-{
-    notImplemented("MItMeshPolygon::getUVSetIndex");
-    return false;
 }
 
 bool MItMeshPolygon::updateColorSet(const MString*, int&)

@@ -6,54 +6,6 @@
 
 using tvxhost::api::notImplemented;
 
-MStatus MItMeshVertex::numUVs(int&, const MString*)
-{
-    TVX_API_CALL("MItMeshVertex::numUVs");
-    return notImplemented("MItMeshVertex::numUVs");
-}
-
-MStatus MItMeshVertex::setUV(float2&, const MString*)
-{
-    TVX_API_CALL("MItMeshVertex::setUV");
-    return notImplemented("MItMeshVertex::setUV");
-}
-
-MStatus MItMeshVertex::getUV(float2&, const MString*)
-{
-    TVX_API_CALL("MItMeshVertex::getUV");
-    return notImplemented("MItMeshVertex::getUV");
-}
-
-MStatus MItMeshVertex::setUV(int, float2&, const MString*)
-{
-    TVX_API_CALL("MItMeshVertex::setUV");
-    return notImplemented("MItMeshVertex::setUV");
-}
-
-MStatus MItMeshVertex::getUV(int, float2&, const MString*) const
-{
-    TVX_API_CALL("MItMeshVertex::getUV");
-    return notImplemented("MItMeshVertex::getUV");
-}
-
-MStatus MItMeshVertex::setUVs(MFloatArray&, MFloatArray&, MIntArray&, const MString*)
-{
-    TVX_API_CALL("MItMeshVertex::setUVs");
-    return notImplemented("MItMeshVertex::setUVs");
-}
-
-MStatus MItMeshVertex::getUVs(MFloatArray&, MFloatArray&, MIntArray&, const MString*) const
-{
-    TVX_API_CALL("MItMeshVertex::getUVs");
-    return notImplemented("MItMeshVertex::getUVs");
-}
-
-MStatus MItMeshVertex::getUVIndices(MIntArray&, const MString*) const
-{
-    TVX_API_CALL("MItMeshVertex::getUVIndices");
-    return notImplemented("MItMeshVertex::getUVIndices");
-}
-
 bool MItMeshVertex::hasColor(MStatus* ReturnStatus) const
 {
     TVX_API_CALL_OR("MItMeshVertex::hasColor", ReturnStatus, false);
@@ -90,12 +42,6 @@ MStatus MItMeshVertex::getColorIndices(MIntArray&, const MString*) const
 {
     TVX_API_CALL("MItMeshVertex::getColorIndices");
     return notImplemented("MItMeshVertex::getColorIndices");
-}
-
-bool MItMeshVertex::getUVSetIndex(const MString*, int&) const
-{
-    notImplemented("MItMeshVertex::getUVSetIndex");
-    return false;
 }
 
 bool MItMeshVertex::updateColorSet(const MString*, int&) const

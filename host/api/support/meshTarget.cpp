@@ -67,8 +67,12 @@ engine::MeshData* MeshTarget::mesh() const
 {
     if (m_data)
         return static_cast<engine::MeshData*>(m_data.get());
-    engine::DagNode* shape = m_shape && m_shape->isAlive() ? m_shape->asDag() : nullptr;
-    return shape ? const_cast<engine::MeshData*>(engine::meshOf(*shape)) : nullptr;
+    return shape() ? const_cast<engine::MeshData*>(engine::meshOf(*shape())) : nullptr;
+}
+
+engine::DagNode* MeshTarget::shape() const
+{
+    return m_shape && m_shape->isAlive() ? m_shape->asDag() : nullptr;
 }
 
 MStatus MeshTarget::placement(MSpace::Space space, engine::Matrix& matrix) const
@@ -111,6 +115,17 @@ MStatus MeshTarget::smooth(int edge, bool smooth) const
         return failure(StatusText::noElementAtIndex);
     changed->edges[static_cast<std::size_t>(edge)].smooth = smooth ? 1 : 0;
     changed->forgetDerived();
+    return MS::kSuccess;
+}
+
+MStatus MeshTarget::editSets(const engine::SetEdit& edit) const
+{
+    engine::MeshData* changed = mesh();
+    if (!changed)
+        return status();
+    if (m_shape)
+        return toStatus(engine::editSets(*m_shape->asDag(), edit));
+    edit(*changed);
     return MS::kSuccess;
 }
 

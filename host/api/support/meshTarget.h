@@ -40,6 +40,11 @@ public:
     /// Moves points that are given in object space; see engine::movePoints.
     MStatus move(const engine::MovedPoints& points) const;
     MStatus smooth(int edge, bool smooth) const;
+    /// Changes texture coordinates and colours; see engine::editSets.
+    MStatus editSets(const engine::SetEdit& edit) const;
+
+    /// The shape while it lives; null for data.
+    engine::DagNode* shape() const;
 
 private:
     engine::Ref<engine::Node> m_shape;

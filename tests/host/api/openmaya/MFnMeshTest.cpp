@@ -1,7 +1,6 @@
 // MFnMesh: meshes as a whole, and making them.
 #include "../meshFixture.h"
 
-#include <maya/MFloatArray.h>
 #include <maya/MFloatPointArray.h>
 #include <maya/MFloatVectorArray.h>
 #include <maya/MFnMesh.h>
@@ -340,22 +339,6 @@ TEST_F(MFnMeshTest, NumbersThatDoNotFitAreRefused)
     EXPECT_FALSE(refuse(4, 1, {3}, {0, 1, 1}));
     set.setCheckSamePointTwice(true);
     EXPECT_TRUE(set.getCheckSamePointTwice());
-}
-
-TEST_F(MFnMeshTest, TextureCoordinatesAreNotDone)
-{
-    MFnMesh set;
-    MFloatArray none, some(4, 0.0F);
-    MStatus status;
-    set.create(4, 2, fourPoints(), ints({3, 3}), ints({0, 2, 1, 0, 3, 2}), none, none, MObject::kNullObj,
-               &status);
-    EXPECT_EQ(status, MS::kSuccess);
-    EXPECT_TRUE(set.create(4, 2, fourPoints(), ints({3, 3}), ints({0, 2, 1, 0, 3, 2}), some, some,
-                           MObject::kNullObj, &status)
-                    .isNull());
-    EXPECT_EQ(status, MS::kNotImplemented);
-    EXPECT_EQ(set.numUVs(&status), 0);
-    EXPECT_EQ(status, MS::kNotImplemented);
 }
 
 TEST_F(MFnMeshTest, AMeshCanBeReplacedAndCopied)

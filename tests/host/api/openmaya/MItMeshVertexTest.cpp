@@ -140,13 +140,12 @@ TEST_F(MItMeshVertexTest, WhatIsNotDoneSaysSoOnce)
 {
     addQuad();
     MItMeshVertex vertices(path("quadShape"));
-    int count = 0;
-    EXPECT_EQ(vertices.numUVs(count), MS::kNotImplemented);
-    EXPECT_EQ(vertices.numUVs(count), MS::kNotImplemented);
     MStatus status;
-    EXPECT_FALSE(vertices.hasColor(&status));
-    EXPECT_EQ(status, MS::kNotImplemented);
-    EXPECT_EQ(messages(engine::MessageKind::error).size(), 2u);
+    for (int round = 0; round < 2; ++round) {
+        EXPECT_FALSE(vertices.hasColor(&status));
+        EXPECT_EQ(status, MS::kNotImplemented);
+    }
+    EXPECT_EQ(messages(engine::MessageKind::error).size(), 1u);
 }
 
 } // namespace
