@@ -3,6 +3,8 @@
 
 #include "flagScanner.h"
 
+#include "engine/typeName.h"
+
 namespace tvxhost::scene {
 
 using engine::DagNode;
@@ -33,11 +35,6 @@ CreateRequest parseCreate(const mel::ArgumentList& arguments)
             request.type = flags.text();
     }
     return request;
-}
-
-const std::string& typeNameOf(const Node& node)
-{
-    return node.unknownType.empty() ? node.type().name : node.unknownType;
 }
 
 /// What a new shape says of its visibility, a file says itself.

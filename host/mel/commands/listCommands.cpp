@@ -4,6 +4,7 @@
 #include "sceneCommands.h"
 
 #include "engine/glob.h"
+#include "engine/typeName.h"
 
 #include <algorithm>
 
@@ -203,11 +204,6 @@ std::vector<SelectionItem> candidates(CommandContext& context, const ParsedComma
         }
     }
     return items;
-}
-
-const std::string& typeNameOf(const Node& node)
-{
-    return node.unknownType.empty() ? node.type().name : node.unknownType;
 }
 
 bool isOfTypes(const Node& node, const ParsedCommand& call)
