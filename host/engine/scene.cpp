@@ -4,6 +4,7 @@
 #include "animCurve.h"
 #include "cell.h"
 #include "defaultNodes.h"
+#include "deletion.h"
 #include "dirtySpread.h"
 #include "glob.h"
 #include "nameTable.h"
@@ -335,10 +336,8 @@ Outcome Scene::deleteNode(Node& node)
 {
     if (!node.isAlive())
         return {Reason::doesNotExist, "the node was deleted"};
-    if (node.isLockedNode || node.isReferenced)
-        return {Reason::readOnly, "'" + node.name() + "' is locked or referenced and cannot be deleted"};
-    if (node.isDefaultNode)
-        return {Reason::readOnly, "'" + node.name() + "' is a default node and cannot be deleted"};
+    if (Outcome allowed = checkDeletion(node); !allowed)
+        return allowed;
 
     const Ref<Node> keptAlive(&node);
     m_observers->tell({Happening::nodeAboutToBeDeleted, &node});

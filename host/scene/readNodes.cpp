@@ -3,6 +3,7 @@
 
 #include "flagScanner.h"
 
+#include "engine/deletion.h"
 #include "engine/typeName.h"
 
 namespace tvxhost::scene {
@@ -107,9 +108,11 @@ Node* SceneReader::existingNode(const std::string& type, const std::string& name
         return isShared ? &node : nullptr;
     if (!node.isDefaultNode && !node.isShared)
         return nullptr;
-    if (!node.isDefaultNode && !m_reference && m_scene.deleteNode(node))
-        return nullptr;
-    return &node;
+    if (node.isDefaultNode || m_reference)
+        return &node;
+    if (engine::isStartupCamera(node))
+        engine::setStartupCamera(*node.asDag(), false);
+    return m_scene.deleteNode(node) ? nullptr : &node;
 }
 
 DagNode* SceneReader::parentNamed(const std::string& name, int line)

@@ -1,7 +1,10 @@
-// camera and lookThru: cameras, and which of them the view shows.
+// camera, listCameras and lookThru: cameras, and which of them the view shows.
 #include "attributeFlags.h"
 #include "sceneCommands.h"
 
+#include "engine/deletion.h"
+
+#include <algorithm>
 #include <cmath>
 
 namespace tvxhost::mel {
@@ -156,6 +159,8 @@ DagNode& transformAbove(Node& camera)
 
 void setCamera(const CommandContext& context, const ParsedCommand& call, Node& camera)
 {
+    if (call.has("startupCamera"))
+        engine::setStartupCamera(*camera.asDag(), call.boolean("startupCamera"));
     setAttributes(context, call, cameraFlags(), camera);
     setAttributes(context, call, placeFlags(), transformAbove(camera));
     setShape(context, call, camera);
@@ -172,6 +177,8 @@ Node& cameraOf(const CommandContext& context, const engine::SelectionItem& item)
 
 Value query(const CommandContext& context, const ParsedCommand& call, Node& camera)
 {
+    if (call.has("startupCamera"))
+        return Value(engine::isStartupCamera(camera));
     for (const std::optional<Value>& value :
          {queriedAttribute(context, call, cameraFlags(), camera),
           queriedAttribute(context, call, placeFlags(), transformAbove(camera)),
@@ -215,6 +222,7 @@ CommandSpec cameraCommand()
         valueFlag("ar", "aspectRatio", A::number, "width of the film to its height", kAllModes),
         valueFlag("cp", "clippingPlanes", A::boolean, "clips at the planes that are set", kAllModes),
         valueFlag("n", "name", A::string, "the transform's name"),
+        valueFlag("sc", "startupCamera", A::boolean, "is of every scene and cannot be deleted", kAllModes),
         refusedFlag("ffd", "farFocusDistance", noStage),
         refusedFlag("nfd", "nearFocusDistance", noStage),
         refusedFlag("mb", "motionBlur", noStage),
@@ -223,7 +231,6 @@ CommandSpec cameraCommand()
         refusedFlag("jc", "journalCommand", "nobody moves cameras with a mouse here"),
         refusedFlag("lt", "lockTransform", "nobody moves cameras with a mouse here"),
         refusedFlag("vl", "verticalLock", "nobody moves cameras with a mouse here"),
-        refusedFlag("sc", "startupCamera", "the cameras of a new scene are fixed"),
         refusedFlag("wci", "worldCenterOfInterest", "use -rotation and -centerOfInterest"),
         refusedFlag("wup", "worldUp", "use -rotation"),
     };
@@ -255,12 +262,43 @@ Value lookThru(CommandContext& context, const ParsedCommand& call)
     return Value(interface.viewCamera);
 }
 
+/// A camera goes by the name of its transform where that has no other one.
+std::string listedName(const engine::DagPath& shape)
+{
+    engine::DagPath transform = shape;
+    if (!transform.pop())
+        return shape.partialName();
+    const auto& children = transform.node()->children();
+    const auto cameras = std::count_if(children.begin(), children.end(),
+                                       [](const DagNode* child) { return child->type().isA("camera"); });
+    return cameras == 1 ? transform.partialName() : shape.partialName();
+}
+
+Value listCameras(CommandContext& context, const ParsedCommand& call)
+{
+    const bool listsAll = call.has("orthographic") == call.has("perspective");
+    Value::Strings cameras;
+    for (Node* node : sceneOf(context).nodes()) {
+        if (!node->type().isA("camera"))
+            continue;
+        const bool isOrthographic = numberOf(context, *node, "orthographic") != 0.0;
+        if (listsAll || isOrthographic == call.has("orthographic"))
+            cameras.push_back(listedName(engine::DagPath::firstTo(*node->asDag())));
+    }
+    std::sort(cameras.begin(), cameras.end());
+    return Value(std::move(cameras));
+}
+
 } // namespace
 
 void registerCameraCommands(CommandTable& table)
 {
     table.add({
         cameraCommand(),
+        makeCommand("listCameras", "Lists the cameras by name",
+                    {switchFlag("o", "orthographic", "those without perspective"),
+                     switchFlag("p", "perspective", "those with perspective")},
+                    noArguments(), listCameras),
         makeCommand("lookThru", "Has the view, which may be named first, show what a camera sees",
                     {valueFlag("nc", "nearClip", A::linear, "the camera's near clipping plane"),
                      valueFlag("fc", "farClip", A::linear, "the camera's far clipping plane")},

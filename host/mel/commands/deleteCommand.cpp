@@ -3,6 +3,7 @@
 #include "history.h"
 #include "sceneCommands.h"
 
+#include "engine/deletion.h"
 #include "engine/mesh.h"
 #include "engine/objectGroups.h"
 
@@ -146,7 +147,7 @@ std::vector<SelectionItem> everything(engine::Scene& scene)
 {
     std::vector<SelectionItem> items;
     for (Node* node : scene.nodes())
-        if (!node->isDefaultNode && !node->isShared && !node->isLockedNode && node != &scene.world()) {
+        if (!engine::isUndeletable(*node)) {
             SelectionItem item;
             item.node = node;
             items.push_back(item);
@@ -191,24 +192,33 @@ bool isUsed(const Node& node)
 
 bool canGo(const Node& node)
 {
-    return node.isAlive() && !node.isDefaultNode && !node.isShared && !node.isLockedNode &&
-           !node.isReferenced;
+    return node.isAlive() && engine::checkDeletion(node);
 }
 
-/// Deletes objects, and what made them unless it makes something else as well.
-void deleteObjects(const CommandContext& context, const Doomed& objects)
+/// Deletes those of the objects that can go, and what made them unless it makes something else as well.
+/// @return why the first of the others stays
+engine::Outcome deleteObjects(const CommandContext& context, const Doomed& objects)
 {
     engine::Scene& scene = sceneOf(context);
+    engine::Outcome refusal;
+    Doomed leaving;
     Doomed makers;
-    for (const engine::Ref<Node>& object : objects)
+    for (const engine::Ref<Node>& object : objects) {
+        if (engine::Outcome allowed = engine::checkDeletion(*object); !allowed) {
+            refusal = refusal ? allowed : refusal;
+            continue;
+        }
+        leaving.push_back(object);
         if (DagNode* dag = object->asDag())
             addMakers(*dag, makers);
-    for (const engine::Ref<Node>& object : objects)
+    }
+    for (const engine::Ref<Node>& object : leaving)
         if (object->isAlive())
             require(context, scene.deleteNode(*object));
     for (const engine::Ref<Node>& maker : makers)
         if (canGo(*maker) && !isUsed(*maker))
             require(context, scene.deleteNode(*maker));
+    return refusal;
 }
 
 Value deleteNodes(CommandContext& context, const ParsedCommand& call)
@@ -230,7 +240,9 @@ Value deleteNodes(CommandContext& context, const ParsedCommand& call)
     Doomed objects;
     for (const SelectionItem& item : items)
         objects.push_back(item.node);
-    deleteObjects(context, objects);
+    const engine::Outcome refusal = deleteObjects(context, objects);
+    if (!call.has("all") && !refusal)
+        context.fail(refusal.text + ".");
     return {};
 }
 

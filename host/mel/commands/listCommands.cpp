@@ -3,6 +3,7 @@
 #include "memberLists.h"
 #include "sceneCommands.h"
 
+#include "engine/deletion.h"
 #include "engine/glob.h"
 #include "engine/typeName.h"
 
@@ -85,7 +86,7 @@ constexpr StateFlag kStateFlags[] = {
      [](const SelectionItem& item) { return item.node->isDefaultNode; }},
     {"ud", "undeletable", "nodes that cannot be deleted",
      [](const SelectionItem& item) {
-         return item.node->isDefaultNode || item.node->isShared || item.node->isLockedNode;
+         return engine::isUndeletable(*item.node) || item.node->isLockedNode;
      }},
     {"rn", "referencedNodes", "nodes of referenced files",
      [](const SelectionItem& item) { return item.node->isReferenced; }},

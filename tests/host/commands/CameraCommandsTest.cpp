@@ -62,8 +62,40 @@ TEST_F(CameraCommandsTest, mistakesAreNamed)
     EXPECT_EQ(failure("camera -e -filmFit diagonal camera1"),
               "'diagonal' is no value of cameraShape1.filmFit");
     EXPECT_EQ(failure("camera -q camera1"), "camera: nothing was asked");
-    EXPECT_EQ(failure("camera -startupCamera true"),
-              "Flag '-startupCamera' of camera is refused: the cameras of a new scene are fixed");
+    EXPECT_EQ(failure("camera -motionBlur true"),
+              "Flag '-motionBlur' of camera is refused: the host draws no such thing");
+}
+
+TEST_F(CameraCommandsTest, startupCamerasCannotBeDeleted)
+{
+    EXPECT_EQ(run("camera -q -startupCamera top"), "1");
+    run("camera -n shot; camera -e -startupCamera true shot; camera -e -startupCamera false top");
+    EXPECT_EQ(run("camera -q -sc shotShape"), "1");
+    EXPECT_THAT(strings("ls -undeletable -type camera"),
+                ElementsAre("perspShape", "frontShape", "sideShape", "shotShape"));
+    EXPECT_EQ(failure("delete shot"), "Non-deletable object 'shot' (or its descendents) cannot be deleted.");
+    run("delete top");
+    EXPECT_EQ(run("objExists topShape"), "0");
+}
+
+TEST_F(CameraCommandsTest, beingAStartupCameraIsTakenBack)
+{
+    run("undoInfo -state on");
+    run("camera -e -startupCamera false top");
+    run("delete top");
+    run("undo; undo");
+    EXPECT_EQ(run("camera -q -startupCamera top"), "1");
+}
+
+TEST_F(CameraCommandsTest, camerasAreListedByName)
+{
+    run("camera -n shot; camera -n plan -o true");
+    EXPECT_THAT(strings("listCameras"), ElementsAre("front", "persp", "plan", "shot", "side", "top"));
+    EXPECT_THAT(strings("listCameras -perspective"), ElementsAre("persp", "shot"));
+    EXPECT_THAT(strings("listCameras -o"), ElementsAre("front", "plan", "side", "top"));
+    // A transform with two cameras names neither.
+    run("createNode camera -n second -p shot");
+    EXPECT_THAT(strings("listCameras -p"), ElementsAre("persp", "second", "shotShape"));
 }
 
 TEST_F(CameraCommandsTest, theViewShowsACamera)

@@ -79,8 +79,44 @@ TEST_F(NodeCommandsTest, deleteTakesWhatIsBelowAlong)
 TEST_F(NodeCommandsTest, lockedAndDefaultNodesStay)
 {
     run("createNode transform -n \"a\"; lockNode -l 1 \"a\"");
-    EXPECT_THAT(failure("delete \"a\""), testing::HasSubstr("cannot be deleted"));
-    EXPECT_THAT(failure("delete \":time1\""), testing::HasSubstr("cannot be deleted"));
+    EXPECT_EQ(failure("delete \"a\""), "Cannot delete locked node 'a'.");
+    EXPECT_EQ(failure("delete \":time1\""),
+              "Non-deletable object 'time1' (or its descendents) cannot be deleted.");
+}
+
+TEST_F(NodeCommandsTest, camerasOfEverySceneStayAndTheRestGoes)
+{
+    run("polyCube; createNode transform -n last");
+    EXPECT_EQ(failure("delete persp pCube1 topShape last"),
+              "Non-deletable object 'persp' (or its descendents) cannot be deleted.");
+    EXPECT_EQ(run("ls -type transform -type polyCube"), "persp top front side");
+    EXPECT_EQ(failure("delete topShape"),
+              "Non-deletable object 'topShape' (or its descendents) cannot be deleted.");
+    EXPECT_THAT(strings("ls -type camera"), ElementsAre("perspShape", "topShape", "frontShape", "sideShape"));
+}
+
+TEST_F(NodeCommandsTest, whatHoldsACameraOfEverySceneOrALockedNodeStaysAsWell)
+{
+    run("createNode transform -n above; parent persp above; createNode transform -n kept -p above");
+    EXPECT_EQ(failure("delete above"),
+              "Non-deletable object 'above' (or its descendents) cannot be deleted.");
+    run("lockNode kept; parent -world persp");
+    EXPECT_EQ(failure("delete above"), "Cannot delete locked node 'kept'.");
+    run("lockNode -lock 0 kept; delete above");
+    EXPECT_EQ(run("objExists above"), "0");
+}
+
+TEST_F(NodeCommandsTest, whatStandsElsewhereAsWellNeedNotGoAlong)
+{
+    run("createNode transform -n above; parent -add persp above; delete above");
+    EXPECT_EQ(run("ls -long persp"), "|persp");
+}
+
+TEST_F(NodeCommandsTest, allLeavesWhatCannotGo)
+{
+    run("createNode transform -n holder; parent side holder; createNode transform -s -n known; "
+        "createNode transform -n loose; delete -all");
+    EXPECT_EQ(run("ls -type transform"), "persp top front side holder");
 }
 
 TEST_F(NodeCommandsTest, objExistsKnowsNodesPathsAndAttributes)

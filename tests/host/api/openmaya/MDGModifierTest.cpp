@@ -197,6 +197,14 @@ TEST_F(Modifiers, ADeletedNodeComesBackWithItsConnectionsAndItsHandles)
     EXPECT_FALSE(scene.findNode("b"));
 }
 
+TEST_F(Modifiers, ACameraOfEverySceneIsNotDeleted)
+{
+    MDagModifier deletion;
+    deletion.deleteNode(tvxAccess::handle(scene.findNode("top").value));
+    EXPECT_FALSE(deletion.doIt());
+    EXPECT_TRUE(scene.findNode("topShape"));
+}
+
 TEST_F(Modifiers, ARemovedAttributeComesBackWithItsValue)
 {
     const MObject extra = MFnNumericAttribute().create("extra", "ex", MFnNumericData::kInt);

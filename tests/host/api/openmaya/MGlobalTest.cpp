@@ -367,6 +367,13 @@ TEST_F(MGlobalTest, DeletesANode)
     EXPECT_EQ(MGlobal::deleteNode(a), MS::kInvalidParameter);
 }
 
+TEST_F(MGlobalTest, DeletesNoCameraOfEveryScene)
+{
+    MObject persp = object("persp");
+    EXPECT_EQ(MGlobal::deleteNode(persp), MS::kFailure);
+    EXPECT_TRUE(scene.findNode("perspShape"));
+}
+
 TEST_F(MGlobalTest, ListsTheFunctionSetsOfAnObject)
 {
     make("transform", "a");
