@@ -214,6 +214,8 @@ public:
     Outcome removeParent(DagNode& child, DagNode& parent);
     /// Moves from one parent to another (null: the world), keeping the place among nothing else.
     Outcome reparent(DagNode& child, DagNode* from, DagNode* to);
+    /// Moves a child to another place among the children of a parent, counted from 0; at most to the end.
+    Outcome reorder(DagNode& child, DagNode& parent, std::size_t place);
 
     // Selection, time
 

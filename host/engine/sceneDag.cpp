@@ -153,4 +153,27 @@ Outcome Scene::reparent(DagNode& child, DagNode* from, DagNode* to)
     return {};
 }
 
+Outcome Scene::reorder(DagNode& child, DagNode& parent, std::size_t place)
+{
+    const auto& children = parent.children();
+    const auto found = std::find(children.begin(), children.end(), &child);
+    if (found == children.end())
+        return {Reason::notFound, "'" + parent.name() + "' is no parent of '" + child.name() + "'"};
+    const auto before = static_cast<std::size_t>(found - children.begin());
+    const LinkedPair pair{&parent, &child};
+    const auto put = [this, pair](std::size_t at) {
+        Node::Links& all = pair.parent->m_children;
+        const auto now = std::find(all.begin(), all.end(), pair.child.get());
+        if (now == all.end())
+            return;
+        all.erase(now);
+        all.insert(all.begin() + static_cast<std::ptrdiff_t>(std::min(at, all.size())), pair.child.get());
+        isModified = true;
+    };
+    put(place);
+    if (m_journal.isRecording())
+        m_journal.record([put, before] { put(before); }, [put, place] { put(place); });
+    return {};
+}
+
 } // namespace tvxhost::engine

@@ -1,4 +1,4 @@
-// What a name means to getAttr; see attributeElements.h.
+// What a name means to getAttr and setAttr; see attributeElements.h.
 #include "attributeElements.h"
 
 #include "listLimit.h"
@@ -7,6 +7,7 @@
 #include "engine/components.h"
 #include "engine/geometry/curveNode.h"
 
+#include <algorithm>
 #include <optional>
 #include <string_view>
 
@@ -92,7 +93,69 @@ std::optional<scene::PlugTarget> rangeNamed(const CommandContext& context, const
     return valueOf(context, scene::findTarget(*item.value.plug.node(), name.substr(dot + 1)));
 }
 
+/// Points of a shape that are named as components, and what follows behind the bracket.
+struct NamedPoints
+{
+    const PointRow& row;
+    SelectionItem item;
+    Components numbers;
+    std::string tail; ///< without the dot
+};
+
+/// None for a name that means something else, and for points that there are not.
+std::optional<NamedPoints> pointsNamed(const CommandContext& context, const std::string& name)
+{
+    const std::size_t dot = name.find('.');
+    const std::size_t open = name.find('[', std::min(dot, name.size()));
+    const std::size_t close = name.find(']', std::min(open, name.size()));
+    if (close == std::string::npos)
+        return std::nullopt;
+    const std::string word = name.substr(dot + 1, open - dot - 1);
+    for (const PointRow& row : kPointRows) {
+        const auto item = row.word == word ? sceneOf(context).findItem(name.substr(0, close + 1))
+                                           : engine::Reason::notFound;
+        if (!item || item.value.components.empty() || !item.value.path.node()->type().isA(row.shape))
+            continue;
+        engine::DagNode& shape = *item.value.path.node();
+        const auto named = engine::parseComponents(shape, row.kind + name.substr(open, close + 1 - open));
+        const Components numbers =
+            named ? named->common(engine::allComponents(shape, row.kind)) : Components();
+        if (!numbers.empty())
+            return NamedPoints{row, item.value, numbers, name.substr(std::min(close + 2, name.size()))};
+    }
+    return std::nullopt;
+}
+
 } // namespace
+
+std::vector<scene::PlugTarget> elementsToSet(const CommandContext& context, const std::string& name)
+{
+    if (const auto range = rangeNamed(context, name))
+        return {*range};
+    const auto points = pointsNamed(context, name);
+    if (!points)
+        return {};
+    const Plug array = valueOf(context, points->item.path.node()->findPlug(points->row.attribute));
+    std::vector<scene::PlugTarget> targets;
+    for (const Components::Run& run : points->numbers.runs())
+        targets.push_back({array, true, run.first, run.last, points->tail});
+    return targets;
+}
+
+std::optional<PlacesToSet> placesToSet(const CommandContext& context, const std::string& name)
+{
+    const auto points = pointsNamed(context, name);
+    if (!points || points->row.kind != std::string_view("cv") ||
+        engine::hasCurveHistory(*points->item.path.node()))
+        return std::nullopt;
+    if (points->tail.empty())
+        return PlacesToSet{points->item, std::nullopt};
+    const auto& axes = points->item.path.node()->findAttribute(points->row.attribute)->children;
+    for (unsigned axis = 0; axis < axes.size(); ++axis)
+        if (axes[axis]->longName == points->tail || axes[axis]->shortName == points->tail)
+            return PlacesToSet{points->item, axis};
+    context.fail("No object matches name: " + name);
+}
 
 AskedPlugs plugsAsked(const CommandContext& context, const std::string& name)
 {

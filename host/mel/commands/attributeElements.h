@@ -1,8 +1,9 @@
-// What a name means to getAttr: a plug, or some elements of an array.
+// What a name means to getAttr and setAttr: a plug, some elements of an array, or points of a shape.
 #pragma once
 
 #include "commandSupport.h"
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -20,5 +21,18 @@ struct AskedPlugs
 /// they were moved, control points by their places unless history makes these. Stops the script when there is
 /// no such thing.
 AskedPlugs plugsAsked(const CommandContext& context, const std::string& name);
+
+/// The elements that a name means to setAttr, a transform standing for its shape: "a.list[0:3]", "a.vtx[2]",
+/// "a.vtx[0:3].pntx". Empty for a name that means something else.
+std::vector<scene::PlugTarget> elementsToSet(const CommandContext& context, const std::string& name);
+
+/// Control points whose places are to be set: all three numbers of each, or one.
+struct PlacesToSet
+{
+    engine::SelectionItem points;
+    std::optional<unsigned> axis;
+};
+/// None for a name that means something else, and where history makes the points.
+std::optional<PlacesToSet> placesToSet(const CommandContext& context, const std::string& name);
 
 } // namespace tvxhost::mel

@@ -1,6 +1,7 @@
 // setAttr and getAttr.
 #include "attributeElements.h"
 #include "commandSupport.h"
+#include "pointComponents.h"
 #include "sceneCommands.h"
 
 #include "engine/animCurve.h"
@@ -28,32 +29,62 @@ namespace {
 
 // setAttr
 
+/// The places of control points as they are given, in the space of their curve.
+void setPlaces(const CommandContext& context, const scene::SetAttrRequest& request, const PlacesToSet& places)
+{
+    const std::string name(request.plug);
+    std::vector<double> numbers;
+    for (const Argument* value = request.values; value != request.end; ++value)
+        numbers.push_back(toInternal(context, value->asValue(), ArgumentType::linear));
+    const std::size_t perPoint = places.axis ? 1 : 3;
+    const std::size_t needed = pointsOf(context, places.points).size() * perPoint;
+    if (request.changesState() || numbers.size() != needed)
+        context.fail("setAttr: '" + name + "' takes " + std::to_string(needed) + " numbers and nothing else");
+    auto next = numbers.begin();
+    changePoints(context, places.points, false, [&](engine::Vec3d point) {
+        for (unsigned axis = places.axis.value_or(0); axis < places.axis.value_or(2) + 1; ++axis)
+            point[static_cast<int>(axis)] = *next++;
+        return point;
+    });
+}
+
+std::vector<scene::PlugTarget> plugsToSet(const CommandContext& context, const std::string& name)
+{
+    engine::Scene& scene = sceneOf(context);
+    std::vector<scene::PlugTarget> targets;
+    if (!name.empty() && name.front() == '.') {
+        for (const engine::SelectionItem& item : scene.selection().items())
+            targets.push_back(valueOf(context, scene::findTarget(*item.node, name.substr(1))));
+        if (targets.empty())
+            context.fail("Nothing is selected for setAttr " + name);
+        return targets;
+    }
+    // By the item, so that a transform answers for its shape.
+    const auto item = scene.findItem(name);
+    if (item && !item.value.plug.isNull())
+        return {{item.value.plug, false, 0, 0, {}}};
+    targets = elementsToSet(context, name);
+    if (targets.empty() && hasWildcard(name))
+        for (const engine::SelectionItem& each : itemsOf(context, name))
+            if (!each.plug.isNull())
+                targets.push_back({each.plug, false, 0, 0, {}});
+    if (targets.empty()) {
+        require(context, item.outcome);
+        context.fail("No object matches name: " + name);
+    }
+    return targets;
+}
+
 Value setAttr(CommandContext& context, const ArgumentList& arguments)
 {
     engine::Scene& scene = sceneOf(context);
     const scene::SetAttrRequest request = valueOf(context, scene::parseSetAttr(arguments));
-    const bool isRelative = !request.plug.empty() && request.plug.front() == '.';
-    std::vector<scene::PlugTarget> targets;
-    if (isRelative) {
-        for (const engine::SelectionItem& item : scene.selection().items())
-            targets.push_back(valueOf(context, scene::findTarget(*item.node, request.plug.substr(1))));
-        if (targets.empty())
-            context.fail("Nothing is selected for setAttr " + std::string(request.plug));
-    } else if (hasWildcard(std::string(request.plug))) {
-        for (const engine::SelectionItem& item : itemsOf(context, std::string(request.plug)))
-            if (!item.plug.isNull())
-                targets.push_back({item.plug, false, 0, 0, {}});
-    } else if (request.plug.find(':') == std::string_view::npos ||
-               request.plug.find('[') == std::string_view::npos) {
-        // By the item, so that a transform answers for its shape.
-        const engine::SelectionItem item = itemNamed(context, std::string(request.plug));
-        if (item.plug.isNull())
-            context.fail("No object matches name: " + std::string(request.plug));
-        targets.push_back({item.plug, false, 0, 0, {}});
-    } else {
-        targets.push_back(valueOf(context, scene::findTarget(scene, request.plug)));
+    const std::string name(request.plug);
+    if (const auto places = placesToSet(context, name)) {
+        setPlaces(context, request, *places);
+        return {};
     }
-    for (const scene::PlugTarget& target : targets) {
+    for (const scene::PlugTarget& target : plugsToSet(context, name)) {
         const engine::Outcome set =
             scene::applySetAttr(target, request, {scene.units(), engine::Limits::refuse});
         if (!set)

@@ -3,7 +3,6 @@
 
 #include "listLimit.h"
 
-#include "engine/components.h"
 #include "engine/scene.h"
 
 #include <algorithm>
@@ -94,14 +93,26 @@ Members kept(const Members& items, const Members& others, bool isKeptWhenAmong, 
 
 } // namespace
 
+std::vector<ObjectComponents> componentsByObject(const Members& items)
+{
+    std::vector<ObjectComponents> all;
+    std::map<Key, std::size_t> places;
+    for (const SelectionItem& item : items)
+        if (const auto numbers = numbersOf(item)) {
+            const auto [place, isNew] = places.try_emplace(keyOf(item, *numbers), all.size());
+            if (isNew)
+                all.push_back({item, *numbers});
+            else
+                all[place->second].numbers = all[place->second].numbers.joined(*numbers);
+        }
+    return all;
+}
+
 Members merged(const Members& items)
 {
     std::map<Key, Components> together;
-    for (const SelectionItem& item : items)
-        if (const auto numbers = numbersOf(item)) {
-            Components& all = together.try_emplace(keyOf(item, *numbers), numbers->kind()).first->second;
-            all = all.joined(*numbers);
-        }
+    for (ObjectComponents& part : componentsByObject(items))
+        together.emplace(keyOf(part.item, part.numbers), std::move(part.numbers));
     Members result;
     engine::SelectionList others;
     for (const SelectionItem& item : items) {

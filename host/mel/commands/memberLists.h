@@ -1,6 +1,7 @@
 // Lists of members: what two have in common, what is left, runs of components joined.
 #pragma once
 
+#include "engine/components.h"
 #include "engine/selection.h"
 
 #include <cstddef>
@@ -18,6 +19,15 @@ Members merged(const Members& items);
 /// way.
 Members common(const Members& items, const Members& others);
 Members without(const Members& items, const Members& others);
+
+/// Components of one kind of one object.
+struct ObjectComponents
+{
+    engine::SelectionItem item; ///< the first that named some of them
+    engine::Components numbers;
+};
+/// All components that the items name, in the order of the first ones; whole objects are left out.
+std::vector<ObjectComponents> componentsByObject(const Members& items);
 
 /// One item per component.
 /// Fails when there are too many of them.

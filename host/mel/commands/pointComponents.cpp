@@ -1,7 +1,8 @@
 // Points of shapes that components name; see pointComponents.h.
 #include "pointComponents.h"
 
-#include "engine/components.h"
+#include "memberLists.h"
+
 #include "engine/geometry/curveNode.h"
 #include "engine/mesh.h"
 
@@ -90,6 +91,22 @@ Components componentsOf(const CommandContext& context, const SelectionItem& item
     return existing;
 }
 
+Components verticesOf(const NumberedPoints& points)
+{
+    Components vertices("vtx");
+    for (const auto& [number, point] : points)
+        vertices.add({number, number});
+    return vertices;
+}
+
+SelectionItem withComponents(SelectionItem item, const Components& components)
+{
+    item.components.clear();
+    for (const std::string& text : components.texts())
+        item.components += (item.components.empty() ? "" : " ") + text;
+    return item;
+}
+
 void storePoints(const CommandContext& context, DagNode& shape, const Components& components,
                  const NumberedPoints& points)
 {
@@ -133,6 +150,20 @@ void changePoints(const CommandContext& context, const SelectionItem& item, bool
     for (auto& [number, point] : points)
         point = change(point * toSpace) * back;
     storePoints(context, *item.path.node(), componentsOf(context, item), points);
+}
+
+std::vector<SelectionItem> pointsOnce(const CommandContext& context, const std::vector<SelectionItem>& items)
+{
+    std::vector<SelectionItem> points;
+    for (const SelectionItem& item : items) {
+        const Components named = componentsOf(context, item);
+        const bool isOfMesh = item.path.node()->type().isA("mesh");
+        points.push_back(withComponents(item, isOfMesh ? verticesOf(pointsOf(context, item)) : named));
+    }
+    std::vector<SelectionItem> once;
+    for (const auto& [item, numbers] : componentsByObject(points))
+        once.push_back(withComponents(item, numbers));
+    return once;
 }
 
 std::vector<SelectionItem> takeComponents(std::vector<SelectionItem>& items)

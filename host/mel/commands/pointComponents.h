@@ -23,6 +23,11 @@ using PointChange = std::function<engine::Vec3d(const engine::Vec3d& point)>;
 void changePoints(const CommandContext& context, const engine::SelectionItem& item, bool isInWorld,
                   const PointChange& change);
 
+/// One item for each shape, with all of its points that the items name: what several of them name, such as
+/// the vertices between faces, is there once. Edit points, which cannot be changed, stay as they are.
+std::vector<engine::SelectionItem> pointsOnce(const CommandContext& context,
+                                              const std::vector<engine::SelectionItem>& items);
+
 /// Takes the items that name components out of a list.
 std::vector<engine::SelectionItem> takeComponents(std::vector<engine::SelectionItem>& items);
 

@@ -127,7 +127,8 @@ Value addMembers(const CommandContext& context, const ParsedCommand& call, Node&
 
 Value removeMembers(const CommandContext& context, const ParsedCommand&, Node& set, const Members& items)
 {
-    for (const SelectionItem& item : meant(set, items))
+    // What is named twice leaves once.
+    for (const SelectionItem& item : merged(meant(set, items)))
         require(context, removeSetMember(set, item));
     return Value(sceneOf(context).shortestName(set));
 }

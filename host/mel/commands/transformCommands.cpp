@@ -3,6 +3,8 @@
 #include "sceneCommands.h"
 #include "transformParts.h"
 
+#include "engine/turns.h"
+
 #include <Imath/ImathBox.h>
 
 #include <algorithm>
@@ -16,6 +18,8 @@ namespace tvxhost::mel {
 using api::Parents;
 using api::Transformation;
 using engine::DagPath;
+using engine::SelectionItem;
+using engine::Vec3d;
 
 namespace {
 
@@ -177,13 +181,13 @@ void moveObjects(const CommandContext& context, const ParsedCommand& call, const
 
 /// Each point by itself, in the world or in the space of its shape.
 void movePoints(const CommandContext& context, const ParsedCommand& call, const Amounts& amounts,
-                const engine::SelectionItem& item)
+                const SelectionItem& item)
 {
     const bool isInWorld = !call.has("objectSpace") && !call.has("localSpace");
-    changePoints(context, item, isInWorld, [&](const engine::Vec3d& point) {
+    changePoints(context, item, isInWorld, [&](const Vec3d& point) {
         const MVector from(point.x, point.y, point.z);
         const MVector to = call.has("relative") ? from + amounts.value : amounts.over(from);
-        return engine::Vec3d(to.x, to.y, to.z);
+        return Vec3d(to.x, to.y, to.z);
     });
 }
 
@@ -200,7 +204,7 @@ constexpr PivotRow kPivots[] = {
     {"scalePivot", &Transformation::scalePivot, &Transformation::setScalePivot},
 };
 
-const PivotRow* pivotNamed(const engine::SelectionItem& item)
+const PivotRow* pivotNamed(const SelectionItem& item)
 {
     if (item.plug.isNull() || !item.isDag() || !item.path.node()->isTransform())
         return nullptr;
@@ -226,10 +230,10 @@ void movePivot(const CommandContext& context, const ParsedCommand& call, const A
 /// Moves the pivots among the items, and takes them out.
 /// @return whether there were any
 bool movePivots(const CommandContext& context, const ParsedCommand& call, const Amounts& amounts,
-                std::vector<engine::SelectionItem>& items)
+                std::vector<SelectionItem>& items)
 {
     const auto objectsEnd = std::stable_partition(
-        items.begin(), items.end(), [](const engine::SelectionItem& item) { return !pivotNamed(item); });
+        items.begin(), items.end(), [](const SelectionItem& item) { return !pivotNamed(item); });
     const bool isAny = objectsEnd != items.end();
     for (auto item = objectsEnd; item != items.end(); ++item)
         movePivot(context, call, amounts, item->path, *pivotNamed(*item));
@@ -240,9 +244,9 @@ bool movePivots(const CommandContext& context, const ParsedCommand& call, const 
 Value move(CommandContext& context, const ParsedCommand& call)
 {
     const Amounts amounts = amountsOf(context, call, ArgumentType::linear);
-    std::vector<engine::SelectionItem> items = itemsOrSelection(context, amounts.objects);
-    const std::vector<engine::SelectionItem> components = takeComponents(items);
-    for (const engine::SelectionItem& item : components)
+    std::vector<SelectionItem> items = itemsOrSelection(context, amounts.objects);
+    const std::vector<SelectionItem> components = takeComponents(items);
+    for (const SelectionItem& item : pointsOnce(context, components))
         movePoints(context, call, amounts, item);
     const bool hasMoved = movePivots(context, call, amounts, items) || !components.empty();
     if (!hasMoved || !items.empty())
@@ -257,8 +261,16 @@ MVector centerOf(const std::vector<DagPath>& paths)
     Imath::Box3d box;
     for (const DagPath& path : paths)
         box.extendBy(boxOf(path, true));
-    const engine::Vec3d center = box.center();
+    const Vec3d center = box.center();
     return MVector(center.x, center.y, center.z);
+}
+
+MVector vectorOf(const CommandContext& context, const FlagUse& use, ArgumentType type)
+{
+    MVector vector;
+    for (unsigned axis = 0; axis < 3; ++axis)
+        vector[axis] = toInternal(context, use.arguments[axis], type);
+    return vector;
 }
 
 /// The point in the world that stays where it is, if the call names one.
@@ -269,20 +281,15 @@ std::optional<MVector> fixedPoint(const CommandContext& context, const ParsedCom
         return centerOf({path});
     if (call.has("centerPivot"))
         return centerOf(paths);
-    const FlagUse* pivot = call.use("pivot");
-    if (!pivot)
-        return std::nullopt;
-    MVector point;
-    for (unsigned axis = 0; axis < 3; ++axis)
-        point[axis] = toInternal(context, pivot->arguments[axis], ArgumentType::linear);
-    return point;
+    if (const FlagUse* pivot = call.use("pivot"))
+        return vectorOf(context, *pivot, ArgumentType::linear);
+    return std::nullopt;
 }
 
 /// Has the parts of each object changed in such a way that the fixed point, if there is one, stays.
-void changeAboutPivot(const CommandContext& context, const ParsedCommand& call, const Amounts& amounts,
-                      const PartsChange& change)
+void changeAboutPivot(const CommandContext& context, const ParsedCommand& call,
+                      const std::vector<DagPath>& paths, const PartsChange& change)
 {
-    const std::vector<DagPath> paths = transformsOf(context, amounts.objects);
     std::vector<std::optional<MVector>> points;
     for (const DagPath& path : paths)
         points.push_back(fixedPoint(context, call, paths, path));
@@ -297,6 +304,83 @@ void changeAboutPivot(const CommandContext& context, const ParsedCommand& call, 
             api::shift(parts, parents, MVector(own * (parts.matrix() * parents.matrix)), *fixed);
         });
     });
+}
+
+/// How points are turned or scaled, and the pivot of their object that stays where it is otherwise.
+struct PointTurn
+{
+    engine::Matrix matrix; ///< about the origin
+    MVector Transformation::*pivot;
+};
+
+Vec3d centerOf(const CommandContext& context, const std::vector<SelectionItem>& items)
+{
+    Imath::Box3d box;
+    for (const SelectionItem& item : items)
+        for (const auto& [number, place] : pointsOf(context, item))
+            box.extendBy(place * item.path.inclusiveMatrix());
+    return box.center();
+}
+
+Vec3d pivotOf(const CommandContext& context, DagPath path, MVector Transformation::*pivot)
+{
+    require(context, path.pop());
+    const MVector own = partsOf(context, path).*pivot;
+    return Vec3d(own.x, own.y, own.z) * path.inclusiveMatrix();
+}
+
+/// The point in the world that stays where it is when some points of an object are turned.
+Vec3d fixedPoint(const CommandContext& context, const ParsedCommand& call,
+                 const std::vector<SelectionItem>& items, const SelectionItem& item, const PointTurn& turn)
+{
+    if (call.has("objectCenterPivot"))
+        return centerOf(context, {item});
+    if (call.has("centerPivot"))
+        return centerOf(context, items);
+    if (const FlagUse* pivot = call.use("pivot")) {
+        const MVector point = vectorOf(context, *pivot, ArgumentType::linear);
+        return {point.x, point.y, point.z};
+    }
+    return pivotOf(context, item.path, turn.pivot);
+}
+
+/// Along the axes of the world, or of their shape; points have no angle and no size that could be replaced.
+void turnPoints(const CommandContext& context, const ParsedCommand& call,
+                const std::vector<SelectionItem>& components, const PointTurn& turn)
+{
+    const bool isInWorld = !call.has("objectSpace") && !call.has("localSpace");
+    const std::vector<SelectionItem> items = pointsOnce(context, components);
+    std::vector<Vec3d> fixed;
+    for (const SelectionItem& item : items)
+        fixed.push_back(fixedPoint(context, call, items, item, turn));
+    for (std::size_t i = 0; i < items.size(); ++i) {
+        const engine::Matrix toWorld = items[i].path.inclusiveMatrix();
+        const Vec3d center = isInWorld ? fixed[i] : fixed[i] * toWorld.inverse();
+        changePoints(context, items[i], isInWorld,
+                     [&](const Vec3d& point) { return (point - center) * turn.matrix + center; });
+    }
+}
+
+/// What rotate and scale do with the objects and the components that they are given.
+Value turnAll(const CommandContext& context, const ParsedCommand& call, const Amounts& amounts,
+              const PointTurn& turn, const PartsChange& change)
+{
+    std::vector<SelectionItem> items = itemsOrSelection(context, amounts.objects);
+    const std::vector<SelectionItem> components = takeComponents(items);
+    turnPoints(context, call, components, turn);
+    if (components.empty() || !items.empty())
+        changeAboutPivot(context, call, transformsOf(context, items), change);
+    return {};
+}
+
+engine::Matrix turned(const MVector& angles)
+{
+    return engine::turnOf(Vec3d(angles.x, angles.y, angles.z), 0).toMatrix44();
+}
+
+engine::Matrix scaled(const MVector& factors)
+{
+    return engine::Matrix().setScale(Vec3d(factors.x, factors.y, factors.z));
 }
 
 void rotateTo(const Amounts& amounts, MSpace::Space space, MEulerRotation::RotationOrder order,
@@ -318,7 +402,8 @@ Value rotate(CommandContext& context, const ParsedCommand& call)
 {
     const Amounts amounts = amountsOf(context, call, ArgumentType::angle);
     const MSpace::Space space = call.has("objectSpace") ? MSpace::kObject : MSpace::kWorld;
-    changeAboutPivot(context, call, amounts, [&](Transformation& parts, const Parents& parents) {
+    const PointTurn turn{turned(amounts.over(MVector())), &Transformation::rotatePivot};
+    return turnAll(context, call, amounts, turn, [&](Transformation& parts, const Parents& parents) {
         const auto order = call.has("forceOrderXYZ") ? MEulerRotation::kXYZ : parts.rotation.order;
         if (!call.has("relative"))
             rotateTo(amounts, space, order, parts, parents);
@@ -327,20 +412,40 @@ Value rotate(CommandContext& context, const ParsedCommand& call)
         else
             api::turn(parts, parents, space, MEulerRotation(amounts.value, order).asQuaternion());
     });
-    return {};
 }
 
 Value scale(CommandContext& context, const ParsedCommand& call)
 {
     const Amounts amounts = amountsOf(context, call, ArgumentType::number);
-    changeAboutPivot(context, call, amounts, [&](Transformation& parts, const Parents&) {
-        const MVector factors = amounts.over(MVector(1.0, 1.0, 1.0));
+    const MVector factors = amounts.over(MVector(1.0, 1.0, 1.0));
+    const PointTurn turn{scaled(factors), &Transformation::scalePivot};
+    return turnAll(context, call, amounts, turn, [&](Transformation& parts, const Parents&) {
         if (call.has("relative"))
             for (unsigned axis = 0; axis < 3; ++axis)
                 parts.scale[axis] *= factors[axis];
         else
             parts.scale = amounts.over(parts.scale);
     });
+}
+
+/// Components only, along axes in the world that are turned first.
+Value scaleComponents(CommandContext& context, const ParsedCommand& call)
+{
+    const Amounts amounts = amountsOf(context, call, ArgumentType::number);
+    std::vector<SelectionItem> items = itemsOrSelection(context, amounts.objects);
+    const std::vector<SelectionItem> components = takeComponents(items);
+    if (components.empty() || !items.empty())
+        context.fail("scaleComponents scales components only");
+    const FlagUse* rotation = call.use("rotation");
+    const engine::Matrix axes =
+        turned(rotation ? vectorOf(context, *rotation, ArgumentType::angle) : MVector());
+    const FlagUse* pivot = call.use("pivot");
+    const MVector given = pivot ? vectorOf(context, *pivot, ArgumentType::linear) : MVector();
+    const Vec3d fixed(given.x, given.y, given.z);
+    const engine::Matrix matrix = axes.transposed() * scaled(amounts.value) * axes;
+    for (const SelectionItem& item : pointsOnce(context, components))
+        changePoints(context, item, true,
+                     [&](const Vec3d& point) { return (point - fixed) * matrix + fixed; });
     return {};
 }
 
@@ -365,12 +470,13 @@ CommandSpec channelCommand(const char* name, const char* summary, std::vector<Fl
     }
     flags.push_back(valueFlag("pcp", "preserveChildPosition", ArgumentType::boolean,
                               "what is below stays where it is in the world"));
+    constexpr const char* kNoConstraint = "there is nothing that points would slide along";
     const std::vector<FlagSpec> refused = {
-        refusedFlag("pgp", "preserveGeometryPosition", kNoComponents),
-        refusedFlag("smn", "symNegative", kNoComponents),
-        refusedFlag("cs", "componentSpace", kNoComponents),
-        refusedFlag("xc", "xformConstraint", kNoComponents),
-        refusedFlag("xn", "constrainAlongNormal", kNoComponents),
+        refusedFlag("pgp", "preserveGeometryPosition", "points go along with their object"),
+        refusedFlag("smn", "symNegative", kNoSymmetry),
+        refusedFlag("cs", "componentSpace", "components have no axes of their own here"),
+        refusedFlag("xc", "xformConstraint", kNoConstraint),
+        refusedFlag("xn", "constrainAlongNormal", kNoConstraint),
         refusedFlag("oj", "orientJoint", "joints are transforms like others"),
         refusedFlag("oa", "orientAxes", "say which space"),
     };
@@ -396,19 +502,25 @@ std::vector<FlagSpec> withPivotFlags(std::vector<FlagSpec> flags)
 
 void registerTransformCommands(CommandTable& table)
 {
+    using A = ArgumentType;
     table.add({
-        channelCommand("move", "Moves objects",
+        channelCommand("move", "Moves objects and components",
                        {switchFlag("wd", "worldSpaceDistance", "distances are those of the world"),
                         switchFlag("rpr", "rotatePivotRelative", "the rotate pivot comes to the place"),
                         switchFlag("spr", "scalePivotRelative", "the scale pivot comes to the place")},
                        move),
-        channelCommand("rotate", "Turns objects",
+        channelCommand("rotate", "Turns objects and components",
                        withPivotFlags({switchFlag("eu", "euler", "with -relative: adds to the angles"),
                                        switchFlag("fo", "forceOrderXYZ", "the angles are in the order xyz")}),
                        rotate),
-        channelCommand("scale", "Scales objects",
+        channelCommand("scale", "Scales objects and components",
                        withPivotFlags({refusedFlag("dso", "distanceOnly", "objects are scaled themselves")}),
                        scale),
+        makeCommand(
+            "scaleComponents", "Scales points of shapes along turned axes",
+            {{"p", "pivot", {A::linear, A::linear, A::linear}, kCreate, "the point that stays where it is"},
+             {"ro", "rotation", {A::angle, A::angle, A::angle}, kCreate, "how the axes are turned"}},
+            {A::any, 3, PositionalRule::kAny}, scaleComponents),
     });
 }
 

@@ -86,15 +86,15 @@ Imath::Box3d boxOf(const DagPath& path, bool inWorld)
 std::vector<FlagSpec> componentFlags()
 {
     return {
-        refusedFlag("puv", "preserveUV", kNoComponents),
-        refusedFlag("rfl", "reflection", kNoComponents),
-        refusedFlag("rao", "reflectionAboutOrigin", kNoComponents),
-        refusedFlag("rab", "reflectionAboutBBox", kNoComponents),
-        refusedFlag("rax", "reflectionAboutX", kNoComponents),
-        refusedFlag("ray", "reflectionAboutY", kNoComponents),
-        refusedFlag("raz", "reflectionAboutZ", kNoComponents),
-        refusedFlag("rft", "reflectionTolerance", kNoComponents),
-        refusedFlag("dph", "deletePriorHistory", kNoComponents),
+        refusedFlag("puv", "preserveUV", "texture coordinates stay as they are"),
+        refusedFlag("rfl", "reflection", kNoSymmetry),
+        refusedFlag("rao", "reflectionAboutOrigin", kNoSymmetry),
+        refusedFlag("rab", "reflectionAboutBBox", kNoSymmetry),
+        refusedFlag("rax", "reflectionAboutX", kNoSymmetry),
+        refusedFlag("ray", "reflectionAboutY", kNoSymmetry),
+        refusedFlag("raz", "reflectionAboutZ", kNoSymmetry),
+        refusedFlag("rft", "reflectionTolerance", kNoSymmetry),
+        refusedFlag("dph", "deletePriorHistory", "use delete -constructionHistory"),
     };
 }
 

@@ -24,7 +24,7 @@ std::vector<engine::DagPath> transformsOf(const CommandContext& context,
 api::Transformation partsOf(const CommandContext& context, const engine::DagPath& path);
 
 // Why flags of these commands are refused.
-constexpr const char* kNoComponents = "only whole objects are transformed here";
+constexpr const char* kNoSymmetry = "nothing is mirrored here";
 /// Those that the commands share, which are about components.
 std::vector<FlagSpec> componentFlags();
 

@@ -73,6 +73,92 @@ TEST_F(PointCommandsTest, moveMovesEachOfTheComponents)
     expectNear("getAttr box.vtx[0:1]", {0, 1, 0, 0, 1, 0});
 }
 
+TEST_F(PointCommandsTest, pointsThatSeveralComponentsHaveMoveOnce)
+{
+    // The faces share the vertices 1 and 4, which are the ends of an edge.
+    run("move -r 0 1 0 net.f[0] net.f[1] net.e[*] net.vtx[4]");
+    expectNear("xform -q -t net.vtx[*]",
+               {-1, 1, 0.5, 0, 1, 0.5, 1, 1, 0.5, -1, 1, -0.5, 0, 1, -0.5, 1, 1, -0.5});
+}
+
+TEST_F(PointCommandsTest, rotateTurnsPointsAboutThePivotOfTheirObject)
+{
+    // A quarter about y takes x to -z and z to x.
+    run("rotate -r 0 90 0 net.vtx[2]; rotate -y 90 net.vtx[0]");
+    expectNear("xform -q -ws -t net.vtx[2]", {0.5, 5, -1});
+    expectNear("xform -q -ws -t net.vtx[0]", {0.5, 5, 1});
+    run("setAttr net.rotatePivot 1 0 -0.5; rotate 0 0 90 net.vtx[3]");
+    expectNear("xform -q -ws -t net.vtx[3]", {1, 3, -0.5});
+    expectNear("getAttr net.r", {0, 0, 0});
+    run("rotate -p 1 5 0.5 0 180 0 net.vtx[1]");
+    expectNear("xform -q -ws -t net.vtx[1]", {2, 5, 0.5});
+}
+
+TEST_F(PointCommandsTest, scaleTakesPointsApart)
+{
+    run("scale 2 1 1 net.f[0] net.f[1]");
+    expectNear("xform -q -ws -bb net.vtx[*]", {-2, 5, -0.5, 2, 5, 0.5});
+    run("scale 2 2 2 bow.cv[3] bow");
+    expectNear("getAttr bow.s", {2, 2, 2});
+    expectNear("getAttr bow.cv[3]", {6, 0, 0});
+    run("setAttr net.scalePivot 2 0 0; scale -r -x 0.5 net.vtx[0]");
+    expectNear("xform -q -ws -t net.vtx[0]", {0, 5, 0.5});
+}
+
+TEST_F(PointCommandsTest, thePivotMayBeTheCenterOfThePoints)
+{
+    run("scale -cp 2 1 2 net.f[1]");
+    expectNear("xform -q -ws -bb net.f[1]", {-0.5, 5, -1, 1.5, 5, 1});
+    // Of each object its own center: 10 and 0.5.
+    run("scale -ocp 2 1 1 net.f[1] box.vtx[0:1]");
+    expectNear("xform -q -ws -bb net.f[1]", {-1.5, 5, -1, 2.5, 5, 1});
+    expectNear("xform -q -ws -t box.vtx[0:1]", {8, -1, 1, 12, -1, 1});
+    // Of all together: (12 - 1.5) / 2.
+    run("scale -cp 0 1 1 net.f[1] box.vtx[0:1]");
+    expectNear("pointPosition net.vtx[1]", {5.25, 5, 1});
+    expectNear("pointPosition box.vtx[1]", {5.25, -1, 1});
+}
+
+TEST_F(PointCommandsTest, theAxesAreThoseOfTheWorldOrOfTheObject)
+{
+    run("setAttr box.ry 90; scale -os 3 1 1 box.vtx[0]");
+    expectNear("xform -q -t box.vtx[0]", {-1.5, -0.5, 0.5});
+    run("scale -ws 3 1 1 box.vtx[1]");
+    expectNear("xform -q -t box.vtx[1]", {0.5, -0.5, 1.5});
+    run("rotate -os 90 0 0 box.vtx[2]");
+    expectNear("xform -q -t box.vtx[2]", {-0.5, -0.5, 0.5});
+}
+
+TEST_F(PointCommandsTest, scaleComponentsScalesAlongTurnedAxes)
+{
+    // Of (1, 0, 0.5) the part along (1, 0, -1) is (0.25, 0, -0.25).
+    run("scaleComponents -p 0 5 0 -ro 0 45 0 3 1 1 net.vtx[2]");
+    expectNear("xform -q -ws -t net.vtx[2]", {1.5, 5, 0});
+    run("scaleComponents 1 2 1 net.vtx[0]");
+    expectNear("xform -q -ws -t net.vtx[0]", {-1, 10, 0.5});
+    EXPECT_EQ(failure("scaleComponents 1 2 1 net"), "scaleComponents scales components only");
+}
+
+TEST_F(PointCommandsTest, setAttrSetsPlacesOfControlPoints)
+{
+    run("setAttr bow.cv[1] 1 2 3; setAttr bowShape.cv[2:3] 4 5 6 7 8 9; setAttr bow.cv[0].yValue -1");
+    expectNear("getAttr bow.cv[*]", {0, -1, 0, 1, 2, 3, 4, 5, 6, 7, 8, 9});
+    run("currentUnit -l m; setAttr bow.cv[0].xv 0.5; currentUnit -l cm");
+    expectNear("getAttr bow.cv[0]", {50, -1, 0});
+    EXPECT_EQ(failure("setAttr bow.cv[0] 1 2"), "setAttr: 'bow.cv[0]' takes 3 numbers and nothing else");
+    EXPECT_EQ(failure("setAttr bow.cv[0].pntx 1"), "No object matches name: bow.cv[0].pntx");
+    EXPECT_EQ(failure("setAttr bow.cv[4] 1 2 3"), "No object matches name: bow.cv[4]");
+}
+
+TEST_F(PointCommandsTest, setAttrSetsHowFarVerticesWereMoved)
+{
+    run("setAttr box.vtx[0] 1 2 3; setAttr boxShape.vtx[1:2].pntx 4 5; setAttr box.pnts[3:4] 1 0 0 2 0 0;"
+        "setAttr boxShape.pnts[5] -type \"float3\" 0 0 7");
+    expectNear("getAttr box.vtx[0:5]", {1, 2, 3, 4, 0, 0, 5, 0, 0, 1, 0, 0, 2, 0, 0, 0, 0, 7});
+    expectNear("xform -q -t box.vtx[0]", {0.5, 1.5, 3.5});
+    EXPECT_EQ(failure("setAttr box.vtx[8] 1 2 3"), "No object matches name: box.vtx[8]");
+}
+
 TEST_F(PointCommandsTest, theFirstPointsOfAPeriodicCurveMoveTheLastOnes)
 {
     run("createNode transform -n \"ring\"; createNode nurbsCurve -n \"ringShape\" -p ring;"
@@ -102,6 +188,10 @@ TEST_F(PointCommandsTest, movedPointsComeBack)
 {
     expectUndoable("move -r 0 1 0 box.vtx[0:3] net.f[0] bow.cv[1]");
     expectUndoable("xform -ws -t 1 2 3 net.vtx[2]");
+    expectUndoable("rotate 0 90 0 box.vtx[0:3] net.f[0] bow.cv[1]");
+    expectUndoable("scale 2 3 4 box.vtx[0:3] net.f[0] bow.cv[1]");
+    expectUndoable("setAttr bow.cv[1] 7 7 7");
+    expectUndoable("setAttr box.vtx[0:1] 1 2 3 4 5 6");
 }
 
 } // namespace tvxhost::mel

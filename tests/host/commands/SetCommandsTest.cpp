@@ -17,6 +17,17 @@ protected:
     }
 };
 
+TEST_F(SetCommandsTest, whatIsNamedTwiceComesAndGoesOnce)
+{
+    run("polyCube -n box; sets -n some box box; sets -add some box.f[0] box.f[0:1] box.f[0]; sets -r 1 -em "
+        "-n "
+        "red; sets -fe red box box boxShape");
+    EXPECT_EQ(run("sets -q some"), "box box.f[0:1]");
+    EXPECT_EQ(run("sets -q red"), "boxShape");
+    run("sets -rm some box.f[0] box box.f[0] box");
+    EXPECT_EQ(run("sets -q some"), "box.f[1]");
+}
+
 TEST_F(SetCommandsTest, setsAreJoinedCutAndSubtracted)
 {
     EXPECT_THAT(strings("sets -union left right"), ElementsAre("a", "b", "c"));
