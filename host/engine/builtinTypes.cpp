@@ -10,6 +10,7 @@
 #include "geometry/historyNodes.h"
 #include "geometry/polyNodes.h"
 #include "mesh.h"
+#include "motionPathNode.h"
 #include "number.h"
 #include "particle.h"
 #include "scene.h"
@@ -190,9 +191,11 @@ void addBuiltinComputes(TypeTable& types)
     addHistoryComputes(types);
     addParticleBehaviour(types);
     addUtilityComputes(types);
+    addVectorComputes(types);
     addMatrixComputes(types);
     addConstraintComputes(types);
     addCurveComputes(types);
+    addMotionPathCompute(types);
 }
 
 } // namespace tvxhost::engine

@@ -137,32 +137,40 @@ Numbers rangeSet(Node& node)
                 numbersOf(node, "min"), numbersOf(node, "max"));
 }
 
-double rampPosition(Node& node)
-{
-    return fraction(numberOf(node, "inputValue"), numberOf(node, "inputMin"), numberOf(node, "inputMax"));
-}
-
-/// What a ramp of the node yields for its input; one without entries yields the position itself.
-Numbers rampOutput(Node& node, std::string_view ramp)
+/// What a ramp of the node yields for an input; one without entries yields the position itself.
+Numbers rampOutput(Node& node, std::string_view ramp, double input)
 {
     const std::vector<RampEntry> entries = rampEntries(plugOf(node, ramp));
-    const double position = rampPosition(node);
+    const double position = fraction(input, numberOf(node, "inputMin"), numberOf(node, "inputMax"));
     if (entries.empty())
         return Numbers(3, position);
     const auto value = rampValueAt(entries, position);
     return {value.begin(), value.end()};
 }
 
-Numbers remappedValue(Node& node)
+/// The number that a ramp yields, in the range of the outputs.
+double remapped(Node& node, std::string_view ramp, double input)
 {
     const double low = numberOf(node, "outputMin");
     const double high = numberOf(node, "outputMax");
-    return {low + rampOutput(node, "value").front() * (high - low)};
+    return low + rampOutput(node, ramp, input).front() * (high - low);
+}
+
+Numbers remappedValue(Node& node)
+{
+    return {remapped(node, "value", numberOf(node, "inputValue"))};
+}
+
+Numbers valueColor(Node& node)
+{
+    return rampOutput(node, "color", numberOf(node, "inputValue"));
 }
 
 Numbers remappedColor(Node& node)
 {
-    return rampOutput(node, "color");
+    const Numbers color = numbersOf(node, "color");
+    return {remapped(node, "red", color[0]), remapped(node, "green", color[1]),
+            remapped(node, "blue", color[2])};
 }
 
 // Colours
@@ -203,6 +211,15 @@ Numbers rgbOf(const Numbers& hsv)
         return hsv[2] * (1.0 - hsv[1] * std::clamp(std::min(turn, 4.0 - turn), 0.0, 1.0));
     };
     return {channel(5.0), channel(3.0), channel(1.0)};
+}
+
+/// Ramps have hues from 0 to 1 all around the circle.
+Numbers remappedHsv(Node& node)
+{
+    constexpr double kCircle = 360.0;
+    const Numbers hsv = hsvOf(numbersOf(node, "color"));
+    return rgbOf({kCircle * remapped(node, "hue", hsv[0] / kCircle), remapped(node, "saturation", hsv[1]),
+                  remapped(node, "value", hsv[2])});
 }
 
 // Choices and blends
@@ -307,6 +324,12 @@ Numbers muted(Node& node)
     return {numberOf(node, numberOf(node, "mute") != 0.0 ? "hold" : "input")};
 }
 
+/// What tells a group of components from all others: no two nodes of a scene have the same serial number.
+Numbers groupNumber(Node& node)
+{
+    return {static_cast<double>(node.serial())};
+}
+
 /// The numbers of one output.
 using Formula = Numbers (*)(Node& node);
 
@@ -325,6 +348,7 @@ constexpr FormulaRow kFormulas[] = {
     {"clamp", "output", clamped},
     {"condition", "outColor", condition},
     {"gammaCorrect", "outValue", gammaCorrected},
+    {"groupId", "groupId", groupNumber},
     {"hsvToRgb", "outRgb", [](Node& node) { return rgbOf(numbersOf(node, "inHsv")); }},
     {"luminance", "outValue", luminance},
     {"multDoubleLinear", "output", multDoubleLinear},
@@ -335,7 +359,9 @@ constexpr FormulaRow kFormulas[] = {
     {"plusMinusAverage", "output1D", [](Node& node) { return plusMinusAverage<1>(node, "input1D"); }},
     {"plusMinusAverage", "output2D", [](Node& node) { return plusMinusAverage<2>(node, "input2D"); }},
     {"plusMinusAverage", "output3D", [](Node& node) { return plusMinusAverage<3>(node, "input3D"); }},
-    {"remapValue", "outColor", remappedColor},
+    {"remapColor", "outColor", remappedColor},
+    {"remapHsv", "outColor", remappedHsv},
+    {"remapValue", "outColor", valueColor},
     {"remapValue", "outValue", remappedValue},
     {"reverse", "output", reversed},
     {"rgbToHsv", "outHsv", [](Node& node) { return hsvOf(numbersOf(node, "inRgb")); }},

@@ -8,6 +8,9 @@ namespace tvxhost::engine {
 /// Gives the nodes that calculate with numbers their outputs: sums, products, ranges, blends, conditions.
 void addUtilityComputes(TypeTable& types);
 
+/// Gives angleBetween and vectorProduct their outputs.
+void addVectorComputes(TypeTable& types);
+
 /// Gives multMatrix, decomposeMatrix and distanceBetween their outputs.
 void addMatrixComputes(TypeTable& types);
 

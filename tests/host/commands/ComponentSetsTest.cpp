@@ -57,6 +57,16 @@ TEST_F(ComponentSetsTest, facesAreTakenOutOfTheShadingGroupThatHadTheWhole)
     EXPECT_THAT(strings("sets -q red"), ElementsAre("net.f[0]", "net.f[2]"));
 }
 
+TEST_F(ComponentSetsTest, groupsAreToldApartByNumbers)
+{
+    run("sets -e -forceElement red net.f[0:1]");
+    const std::string first = run("getAttr groupId1.groupId");
+    EXPECT_NE(first, "0");
+    EXPECT_NE(run("getAttr groupId2.groupId"), first);
+    EXPECT_EQ(run("getAttr netShape.instObjGroups[0].objectGroups[0].objectGroupId"), first);
+    EXPECT_THAT(failure("setAttr groupId1.groupId 7"), testing::HasSubstr("groupId1.groupId"));
+}
+
 TEST_F(ComponentSetsTest, aGroupWithoutHistoryKeepsItsComponentsItself)
 {
     run("sets -e -forceElement red net.f[0:1]");

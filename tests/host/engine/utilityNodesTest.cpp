@@ -66,6 +66,21 @@ TEST_F(PlusMinusAverage, FollowsItsInputs)
     EXPECT_EQ(number("follower.translateX"), 8.0);
 }
 
+TEST_F(SceneTest, GroupIdsAreNumbersOfTheirOwn)
+{
+    Node& first = make("groupId", "first");
+    make("groupId", "second");
+    const double one = number("first.groupId");
+    const double two = number("second.groupId");
+    EXPECT_GT(one, 0.0);
+    EXPECT_GT(two, 0.0);
+    EXPECT_NE(one, two);
+    EXPECT_TRUE(scene.deleteNode(first));
+    make("groupId", "third");
+    EXPECT_NE(number("third.groupId"), two);
+    EXPECT_EQ(number("second.groupId"), two);
+}
+
 class Utility : public SceneTest
 {
 protected:
@@ -367,6 +382,38 @@ TEST_F(Utility, AChainOfNodesFollowsItsInput)
     EXPECT_EQ(number("follower.scaleY"), 0.75);
     set("leader.translateX", 20);
     EXPECT_EQ(number("follower.scaleY"), 0.0);
+}
+
+TEST_F(Utility, RemapColorGoesThroughARampForEachChannel)
+{
+    make("remapColor", "remap");
+    setGroup("remap.color", {0.25, 0.5, 2});
+    EXPECT_THAT(group("remap.outColor"), Pointwise(FloatNear(1e-6f), {0.25, 0.5, 1.0}));
+    // Red falls from 1 to 0, of the others nothing changes.
+    set("remap.red[0].red_Position", 0);
+    set("remap.red[0].red_FloatValue", 1);
+    set("remap.red[0].red_Interp", 1);
+    set("remap.red[1].red_Position", 1);
+    set("remap.red[1].red_FloatValue", 0);
+    set("remap.red[1].red_Interp", 1);
+    EXPECT_THAT(group("remap.outColor"), Pointwise(FloatNear(1e-6f), {0.75, 0.5, 1.0}));
+    set("remap.inputMax", 2);
+    set("remap.outputMin", 1);
+    set("remap.outputMax", 5);
+    EXPECT_THAT(group("remap.outColor"), Pointwise(FloatNear(1e-6f), {4.5, 2.0, 5.0}));
+}
+
+TEST_F(Utility, RemapHsvGoesThroughARampForEachPart)
+{
+    make("remapHsv", "remap");
+    setGroup("remap.color", {0.5, 0, 0});
+    EXPECT_THAT(group("remap.outColor"), Pointwise(FloatNear(1e-6f), {0.5, 0.0, 0.0}));
+    // Every hue becomes that at a third of the circle, which is green.
+    set("remap.hue[0].hue_FloatValue", 1.0 / 3.0);
+    EXPECT_THAT(group("remap.outColor"), Pointwise(FloatNear(1e-6f), {0.0, 0.5, 0.0}));
+    set("remap.saturation[0].saturation_FloatValue", 0.5);
+    set("remap.value[0].value_FloatValue", 0.8);
+    EXPECT_THAT(group("remap.outColor"), Pointwise(FloatNear(1e-6f), {0.4, 0.8, 0.4}));
 }
 
 } // namespace
