@@ -2,6 +2,7 @@
 #include "animCurve.h"
 
 #include "cell.h"
+#include "computeSupport.h"
 #include "dirtySpread.h"
 #include "number.h"
 #include "scene.h"
@@ -13,11 +14,6 @@
 namespace tvxhost::engine {
 
 namespace {
-
-Plug plugOf(Node& node, const char* name)
-{
-    return Plug(node, *node.findAttribute(name));
-}
 
 /// A curve over time that stands at the scene's time, since nothing feeds its input.
 bool followsTheScene(Node& curve)
@@ -62,8 +58,7 @@ bool isTimed(const Node& curve)
 
 double valueOfCurve(Node& curve)
 {
-    const double at =
-        followsTheScene(curve) ? curve.scene().time() : readNumber(plugOf(curve, "input")).value.asReal();
+    const double at = followsTheScene(curve) ? curve.scene().time() : numberOf(curve, "input");
     return readCurve(curve).valueAt(at);
 }
 

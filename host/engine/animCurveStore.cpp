@@ -1,6 +1,7 @@
 // Animation curves: their keys from and to the plugs of a node, as scene files hold them.
 #include "animCurve.h"
 
+#include "computeSupport.h"
 #include "scene.h"
 #include "values.h"
 
@@ -42,11 +43,6 @@ public:
 private:
     Plug m_array;
 };
-
-Plug plugOf(Node& node, const char* name)
-{
-    return Plug(node, *node.findAttribute(name));
-}
 
 int wholeNumber(Node& node, const char* name)
 {

@@ -1,6 +1,7 @@
 // Bounding boxes: see boundingBox.h.
 #include "boundingBox.h"
 
+#include "computeSupport.h"
 #include "mesh.h"
 #include "values.h"
 
@@ -9,12 +10,6 @@
 namespace tvxhost::engine {
 
 namespace {
-
-Plug plugOf(DagNode& node, const char* name)
-{
-    Attribute* attribute = node.type().find(name);
-    return attribute ? Plug(node, *attribute) : Plug();
-}
 
 LocatorBounds locatorBounds = nullptr;
 
