@@ -17,6 +17,7 @@ using api::curveOf;
 using api::failure;
 using api::give;
 using api::StatusText;
+using api::wrongSort;
 using engine::AnimCurveKeys;
 using engine::KeySide;
 
@@ -54,11 +55,6 @@ Answer answerOfKey(const MFnBase& set, unsigned int index, MStatus* returnStatus
         result = query(curve, curve.keys.keys[index]);
         return MS::kSuccess;
     });
-}
-
-MStatus wrongSort()
-{
-    return failure(MS::kFailure, StatusText::objectIsIncompatible);
 }
 
 /// The value at an input, when the curve takes such inputs.

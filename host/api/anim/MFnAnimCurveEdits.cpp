@@ -17,16 +17,12 @@ using namespace tvxhost;
 using api::curveOf;
 using api::failure;
 using api::StatusText;
+using api::wrongSort;
 using engine::AnimCurveKeys;
 using engine::AnimKey;
 using engine::KeySide;
 
 namespace {
-
-MStatus wrongSort()
-{
-    return failure(MS::kFailure, StatusText::objectIsIncompatible);
-}
 
 /// Reads the keys, has them changed and writes them when that went well; `change` records it.
 template <class Change>

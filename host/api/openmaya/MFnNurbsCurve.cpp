@@ -1,8 +1,8 @@
 // MFnNurbsCurve: NURBS curves. What the host does not do is in MFnNurbsCurveUnsupported.cpp.
 #include <maya/MFnNurbsCurve.h>
 
-#include "engine/geometry/curveNode.h"
 #include "support/attributeMembers.h"
+#include "support/nurbsShape.h"
 #include "support/shapePlaces.h"
 #include "support/shapeSet.h"
 
@@ -13,63 +13,20 @@
 #include <optional>
 
 using namespace tvxhost;
-using api::failure;
+using api::badValue;
+using api::changeShape;
 using api::give;
 using api::matrixTo;
+using api::noElement;
 using api::placed;
-using api::StatusText;
+using api::readShape;
+using api::storeShape;
 using api::taken;
 using api::turned;
+using api::withShape;
 using engine::NurbsCurve;
 
 namespace {
-
-/// Runs `use(curve)`, which returns a status.
-template <class Use>
-MStatus withCurve(const MFnBase& set, Use use)
-{
-    engine::Node* node = api::nodeOf(set);
-    if (!node)
-        return api::notAttached();
-    const auto curve = engine::curveOf(*node);
-    return curve ? use(*curve) : failure(MS::kInvalidParameter, StatusText::objectDoesNotExist);
-}
-
-/// What `read(curve)` gives.
-template <class Value, class Read>
-Value readCurve(const MFnBase& set, MStatus* returnStatus, Value value, Read read)
-{
-    give(returnStatus, withCurve(set, [&](const NurbsCurve& curve) {
-             value = read(curve);
-             return MStatus();
-         }));
-    return value;
-}
-
-MStatus store(engine::Node& node, const NurbsCurve& curve)
-{
-    return curve.isValid() ? api::toStatus(engine::storeCurve(node, curve))
-                           : failure(MS::kInvalidParameter, StatusText::unexpectedFailure);
-}
-
-/// Has a curve without history changed; `change` returns a status.
-template <class Change>
-MStatus changeCurve(const MFnBase& set, Change change)
-{
-    return withCurve(set, [&](const NurbsCurve& old) -> MStatus {
-        engine::Node& node = *api::nodeOf(set);
-        if (engine::hasCurveHistory(node))
-            return failure(StatusText::unexpectedFailure);
-        NurbsCurve curve = old;
-        const MStatus changed = change(curve);
-        return changed ? store(node, curve) : changed;
-    });
-}
-
-MStatus noElement()
-{
-    return failure(StatusText::noElementAtIndex);
-}
 
 bool isOn(const NurbsCurve& curve, double parameter)
 {
@@ -110,14 +67,14 @@ MObject MFnNurbsCurve::create(const MPointArray& controlVertices, const MDoubleA
     const auto curve = curveOf(controlVertices, knotSequences, degree, agForm, create2D, createRational);
     if (!curve) {
         TVX_API_CALL_OR("MFnNurbsCurve::create", ReturnStatus, MObject());
-        give(ReturnStatus, failure(MS::kInvalidParameter, StatusText::unexpectedFailure));
+        give(ReturnStatus, badValue());
         return MObject();
     }
     MStatus status;
     const MObject made =
         api::makeShape(*this, "MFnNurbsCurve::create", "nurbsCurve", parentOrOwner, false, &status);
     if (status)
-        status = store(*api::nodeOf(*this), *curve);
+        status = storeShape(*api::nodeOf(*this), *curve);
     give(ReturnStatus, status);
     return made;
 }
@@ -125,7 +82,7 @@ MObject MFnNurbsCurve::create(const MPointArray& controlVertices, const MDoubleA
 MStatus MFnNurbsCurve::getCV(unsigned int index, MPoint& pt, MSpace::Space space) const
 {
     TVX_API_CALL("MFnNurbsCurve::getCV");
-    return withCurve(*this, [&](const NurbsCurve& curve) -> MStatus {
+    return withShape<NurbsCurve>(*this, [&](const NurbsCurve& curve) -> MStatus {
         if (index >= curve.points.size())
             return noElement();
         pt = placed(curve.points[index].place, matrixTo(*this, space));
@@ -137,7 +94,7 @@ MStatus MFnNurbsCurve::getCV(unsigned int index, MPoint& pt, MSpace::Space space
 MStatus MFnNurbsCurve::setCV(unsigned int index, const MPoint& pt, MSpace::Space space)
 {
     TVX_API_CALL("MFnNurbsCurve::setCV");
-    return changeCurve(*this, [&](NurbsCurve& curve) -> MStatus {
+    return changeShape<NurbsCurve>(*this, [&](NurbsCurve& curve) -> MStatus {
         if (index >= curve.points.size())
             return noElement();
         curve.points[index].place = taken(pt, matrixTo(*this, space).inverse());
@@ -148,7 +105,7 @@ MStatus MFnNurbsCurve::setCV(unsigned int index, const MPoint& pt, MSpace::Space
 MStatus MFnNurbsCurve::getCVs(MPointArray& array, MSpace::Space space) const
 {
     TVX_API_CALL("MFnNurbsCurve::getCVs");
-    return withCurve(*this, [&](const NurbsCurve& curve) {
+    return withShape<NurbsCurve>(*this, [&](const NurbsCurve& curve) {
         const engine::Matrix matrix = matrixTo(*this, space);
         array.clear();
         for (const NurbsCurve::Point& point : curve.points) {
@@ -163,9 +120,9 @@ MStatus MFnNurbsCurve::getCVs(MPointArray& array, MSpace::Space space) const
 MStatus MFnNurbsCurve::setCVs(const MPointArray& array, MSpace::Space space)
 {
     TVX_API_CALL("MFnNurbsCurve::setCVs");
-    return changeCurve(*this, [&](NurbsCurve& curve) -> MStatus {
+    return changeShape<NurbsCurve>(*this, [&](NurbsCurve& curve) -> MStatus {
         if (array.length() != curve.points.size())
-            return failure(MS::kInvalidParameter, StatusText::unexpectedFailure);
+            return badValue();
         const engine::Matrix inverse = matrixTo(*this, space).inverse();
         for (unsigned int i = 0; i < array.length(); ++i)
             curve.points[i].place = taken(array[i], inverse);
@@ -176,14 +133,15 @@ MStatus MFnNurbsCurve::setCVs(const MPointArray& array, MSpace::Space space)
 int MFnNurbsCurve::numCVs(MStatus* ReturnStatus) const
 {
     TVX_API_CALL_OR("MFnNurbsCurve::numCVs", ReturnStatus, 0);
-    return readCurve(*this, ReturnStatus, 0,
-                     [](const NurbsCurve& curve) { return static_cast<int>(curve.points.size()); });
+    return readShape<NurbsCurve>(*this, ReturnStatus, 0, [](const NurbsCurve& curve) {
+        return static_cast<int>(curve.points.size());
+    });
 }
 
 MFnNurbsCurve::Form MFnNurbsCurve::form(MStatus* ReturnStatus) const
 {
     TVX_API_CALL_OR("MFnNurbsCurve::form", ReturnStatus, kInvalid);
-    return readCurve(*this, ReturnStatus, kInvalid, [](const NurbsCurve& curve) {
+    return readShape<NurbsCurve>(*this, ReturnStatus, kInvalid, [](const NurbsCurve& curve) {
         return static_cast<Form>(static_cast<int>(curve.form) + kOpen);
     });
 }
@@ -191,13 +149,15 @@ MFnNurbsCurve::Form MFnNurbsCurve::form(MStatus* ReturnStatus) const
 int MFnNurbsCurve::degree(MStatus* ReturnStatus) const
 {
     TVX_API_CALL_OR("MFnNurbsCurve::degree", ReturnStatus, 0);
-    return readCurve(*this, ReturnStatus, 0, [](const NurbsCurve& curve) { return curve.degree; });
+    return readShape<NurbsCurve>(*this, ReturnStatus, 0,
+                                 [](const NurbsCurve& curve) { return curve.degree; });
 }
 
 int MFnNurbsCurve::numSpans(MStatus* ReturnStatus) const
 {
     TVX_API_CALL_OR("MFnNurbsCurve::numSpans", ReturnStatus, 0);
-    return readCurve(*this, ReturnStatus, 0, [](const NurbsCurve& curve) { return curve.spanCount(); });
+    return readShape<NurbsCurve>(*this, ReturnStatus, 0,
+                                 [](const NurbsCurve& curve) { return curve.spanCount(); });
 }
 
 bool MFnNurbsCurve::hasHistoryOnCreate(MStatus* ReturnStatus) const
@@ -210,14 +170,14 @@ bool MFnNurbsCurve::hasHistoryOnCreate(MStatus* ReturnStatus) const
 int MFnNurbsCurve::numKnots(MStatus* ReturnStatus) const
 {
     TVX_API_CALL_OR("MFnNurbsCurve::numKnots", ReturnStatus, 0);
-    return readCurve(*this, ReturnStatus, 0,
-                     [](const NurbsCurve& curve) { return static_cast<int>(curve.knots.size()); });
+    return readShape<NurbsCurve>(
+        *this, ReturnStatus, 0, [](const NurbsCurve& curve) { return static_cast<int>(curve.knots.size()); });
 }
 
 MStatus MFnNurbsCurve::getKnotDomain(double& start, double& end) const
 {
     TVX_API_CALL("MFnNurbsCurve::getKnotDomain");
-    return withCurve(*this, [&](const NurbsCurve& curve) {
+    return withShape<NurbsCurve>(*this, [&](const NurbsCurve& curve) {
         start = curve.begin();
         end = curve.end();
         return MStatus();
@@ -227,7 +187,7 @@ MStatus MFnNurbsCurve::getKnotDomain(double& start, double& end) const
 MStatus MFnNurbsCurve::getKnots(MDoubleArray& array) const
 {
     TVX_API_CALL("MFnNurbsCurve::getKnots");
-    return withCurve(*this, [&](const NurbsCurve& curve) {
+    return withShape<NurbsCurve>(*this, [&](const NurbsCurve& curve) {
         array.clear();
         for (const double knot : curve.knots)
             array.append(knot);
@@ -238,11 +198,11 @@ MStatus MFnNurbsCurve::getKnots(MDoubleArray& array) const
 MStatus MFnNurbsCurve::setKnots(const MDoubleArray& array, unsigned int startIndex, unsigned int endIndex)
 {
     TVX_API_CALL("MFnNurbsCurve::setKnots");
-    return changeCurve(*this, [&](NurbsCurve& curve) -> MStatus {
+    return changeShape<NurbsCurve>(*this, [&](NurbsCurve& curve) -> MStatus {
         if (startIndex > endIndex || endIndex >= curve.knots.size())
             return noElement();
         if (array.length() != endIndex - startIndex + 1)
-            return failure(MS::kInvalidParameter, StatusText::unexpectedFailure);
+            return badValue();
         for (unsigned int i = startIndex; i <= endIndex; ++i)
             curve.knots[i] = array[i - startIndex];
         return MS::kSuccess;
@@ -252,7 +212,7 @@ MStatus MFnNurbsCurve::setKnots(const MDoubleArray& array, unsigned int startInd
 MStatus MFnNurbsCurve::setKnot(unsigned int index, double param)
 {
     TVX_API_CALL("MFnNurbsCurve::setKnot");
-    return changeCurve(*this, [&](NurbsCurve& curve) -> MStatus {
+    return changeShape<NurbsCurve>(*this, [&](NurbsCurve& curve) -> MStatus {
         if (index >= curve.knots.size())
             return noElement();
         curve.knots[index] = param;
@@ -264,7 +224,7 @@ double MFnNurbsCurve::knot(unsigned int index, MStatus* ReturnStatus) const
 {
     TVX_API_CALL_OR("MFnNurbsCurve::knot", ReturnStatus, 0.0);
     double found = 0.0;
-    give(ReturnStatus, withCurve(*this, [&](const NurbsCurve& curve) -> MStatus {
+    give(ReturnStatus, withShape<NurbsCurve>(*this, [&](const NurbsCurve& curve) -> MStatus {
              if (index >= curve.knots.size())
                  return noElement();
              found = curve.knots[index];
@@ -276,9 +236,9 @@ double MFnNurbsCurve::knot(unsigned int index, MStatus* ReturnStatus) const
 MStatus MFnNurbsCurve::getPointAtParam(double param, MPoint& point, MSpace::Space space) const
 {
     TVX_API_CALL("MFnNurbsCurve::getPointAtParam");
-    return withCurve(*this, [&](const NurbsCurve& curve) -> MStatus {
+    return withShape<NurbsCurve>(*this, [&](const NurbsCurve& curve) -> MStatus {
         if (!isOn(curve, param))
-            return failure(MS::kInvalidParameter, StatusText::unexpectedFailure);
+            return badValue();
         point = placed(curve.at(param), matrixTo(*this, space));
         return MS::kSuccess;
     });
@@ -287,16 +247,17 @@ MStatus MFnNurbsCurve::getPointAtParam(double param, MPoint& point, MSpace::Spac
 bool MFnNurbsCurve::isParamOnCurve(double param, MStatus* ReturnStatus) const
 {
     TVX_API_CALL_OR("MFnNurbsCurve::isParamOnCurve", ReturnStatus, false);
-    return readCurve(*this, ReturnStatus, false, [&](const NurbsCurve& curve) { return isOn(curve, param); });
+    return readShape<NurbsCurve>(*this, ReturnStatus, false,
+                                 [&](const NurbsCurve& curve) { return isOn(curve, param); });
 }
 
 MVector MFnNurbsCurve::tangent(double param, MSpace::Space space, MStatus* ReturnStatus) const
 {
     TVX_API_CALL_OR("MFnNurbsCurve::tangent", ReturnStatus, MVector());
     MVector found;
-    give(ReturnStatus, withCurve(*this, [&](const NurbsCurve& curve) -> MStatus {
+    give(ReturnStatus, withShape<NurbsCurve>(*this, [&](const NurbsCurve& curve) -> MStatus {
              if (!isOn(curve, param))
-                 return failure(MS::kInvalidParameter, StatusText::unexpectedFailure);
+                 return badValue();
              found = turned(curve.velocityAt(param), matrixTo(*this, space)).normal();
              return MS::kSuccess;
          }));
@@ -307,9 +268,9 @@ MStatus MFnNurbsCurve::getDerivativesAtParm(double param, MPoint& pos, MVector& 
                                             MVector* dUU) const
 {
     TVX_API_CALL("MFnNurbsCurve::getDerivativesAtParm");
-    return withCurve(*this, [&](const NurbsCurve& curve) -> MStatus {
+    return withShape<NurbsCurve>(*this, [&](const NurbsCurve& curve) -> MStatus {
         if (!isOn(curve, param))
-            return failure(MS::kInvalidParameter, StatusText::unexpectedFailure);
+            return badValue();
         const engine::Matrix matrix = matrixTo(*this, space);
         pos = placed(curve.at(param), matrix);
         dU = turned(curve.velocityAt(param), matrix);
@@ -322,14 +283,14 @@ MStatus MFnNurbsCurve::getDerivativesAtParm(double param, MPoint& pos, MVector& 
 double MFnNurbsCurve::length(double, MStatus* ReturnStatus) const
 {
     TVX_API_CALL_OR("MFnNurbsCurve::length", ReturnStatus, 0.0);
-    return readCurve(*this, ReturnStatus, 0.0,
-                     [](const NurbsCurve& curve) { return curve.lengthTo(curve.end()); });
+    return readShape<NurbsCurve>(*this, ReturnStatus, 0.0,
+                                 [](const NurbsCurve& curve) { return curve.lengthTo(curve.end()); });
 }
 
 double MFnNurbsCurve::findParamFromLength(double partLength, MStatus* ReturnStatus) const
 {
     TVX_API_CALL_OR("MFnNurbsCurve::findParamFromLength", ReturnStatus, 0.0);
-    return readCurve(*this, ReturnStatus, 0.0, [&](const NurbsCurve& curve) {
+    return readShape<NurbsCurve>(*this, ReturnStatus, 0.0, [&](const NurbsCurve& curve) {
         double low = curve.begin();
         double high = curve.end();
         constexpr int kHalvings = 50;

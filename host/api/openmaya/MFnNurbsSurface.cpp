@@ -1,8 +1,8 @@
 // MFnNurbsSurface: NURBS surfaces. What the host does not do is in MFnNurbsSurfaceUnsupported.cpp.
 #include <maya/MFnNurbsSurface.h>
 
-#include "engine/geometry/surfaceNode.h"
 #include "support/attributeMembers.h"
+#include "support/nurbsShape.h"
 #include "support/shapePlaces.h"
 #include "support/shapeSet.h"
 
@@ -14,68 +14,27 @@
 #include <optional>
 
 using namespace tvxhost;
-using api::failure;
+using api::badValue;
+using api::changeShape;
 using api::give;
 using api::matrixTo;
+using api::noElement;
 using api::placed;
-using api::StatusText;
+using api::storeShape;
 using api::taken;
 using api::turned;
+using api::withShape;
 using engine::NurbsSurface;
 using Direction = NurbsSurface::Direction;
 
 namespace {
-
-MStatus badValue()
-{
-    return failure(MS::kInvalidParameter, StatusText::unexpectedFailure);
-}
-
-MStatus noElement()
-{
-    return failure(StatusText::noElementAtIndex);
-}
-
-/// Runs `use(surface)`, which returns a status.
-template <class Use>
-MStatus withSurface(const MFnBase& set, Use use)
-{
-    engine::Node* node = api::nodeOf(set);
-    if (!node)
-        return api::notAttached();
-    const auto surface = engine::surfaceOf(*node);
-    return surface ? use(*surface) : failure(MS::kInvalidParameter, StatusText::objectDoesNotExist);
-}
 
 /// What `read(surface)` gives.
 template <class Value, class Read>
 Value readSurface(const char* name, const MFnBase& set, MStatus* returnStatus, Value value, Read read)
 {
     TVX_API_CALL_OR(name, returnStatus, value);
-    give(returnStatus, withSurface(set, [&](const NurbsSurface& surface) {
-             value = read(surface);
-             return MStatus();
-         }));
-    return value;
-}
-
-MStatus store(engine::Node& node, const NurbsSurface& surface)
-{
-    return surface.isValid() ? api::toStatus(engine::storeSurface(node, surface)) : badValue();
-}
-
-/// Has a surface changed, unless history makes it; `change` returns a status.
-template <class Change>
-MStatus changeSurface(const MFnBase& set, Change change)
-{
-    return withSurface(set, [&](const NurbsSurface& old) -> MStatus {
-        engine::Node& node = *api::nodeOf(set);
-        if (engine::hasSurfaceHistory(node))
-            return failure(StatusText::unexpectedFailure);
-        NurbsSurface surface = old;
-        const MStatus changed = change(surface);
-        return changed ? store(node, surface) : changed;
-    });
+    return api::readShape<NurbsSurface>(set, returnStatus, value, read);
 }
 
 bool isOn(const NurbsSurface& surface, double u, double v)
@@ -87,7 +46,7 @@ bool isOn(const NurbsSurface& surface, double u, double v)
 template <class Use>
 MStatus withJet(const MFnDagNode& set, double u, double v, MSpace::Space space, Use use)
 {
-    return withSurface(set, [&](const NurbsSurface& surface) -> MStatus {
+    return withShape<NurbsSurface>(set, [&](const NurbsSurface& surface) -> MStatus {
         if (!isOn(surface, u, v))
             return badValue();
         use(surface.jetAt({u, v}), matrixTo(set, space));
@@ -105,7 +64,7 @@ struct Nearest
 
 MStatus findNearest(const MFnDagNode& set, const MPoint& point, MSpace::Space space, Nearest& nearest)
 {
-    return withSurface(set, [&](const NurbsSurface& surface) {
+    return withShape<NurbsSurface>(set, [&](const NurbsSurface& surface) {
         const engine::Matrix matrix = matrixTo(set, space);
         nearest.where = surface.nearestTo(taken(point, matrix.inverse()));
         nearest.place = placed(surface.at(nearest.where), matrix);
@@ -161,7 +120,7 @@ bool isUniformIn(const Direction& direction)
 MStatus copyKnots(const char* name, const MFnBase& set, Way way, MDoubleArray& array)
 {
     TVX_API_CALL(name);
-    return withSurface(set, [&](const NurbsSurface& surface) {
+    return withShape<NurbsSurface>(set, [&](const NurbsSurface& surface) {
         tvxAccess::elements(array) = (surface.*way).knots;
         return MStatus();
     });
@@ -171,7 +130,7 @@ MStatus setKnots(const char* name, const MFnBase& set, Way way, const std::vecto
                  std::size_t first, std::size_t last)
 {
     TVX_API_CALL(name);
-    return changeSurface(set, [&](NurbsSurface& surface) -> MStatus {
+    return changeShape<NurbsSurface>(set, [&](NurbsSurface& surface) -> MStatus {
         std::vector<double>& all = (surface.*way).knots;
         if (first > last || last >= all.size())
             return noElement();
@@ -186,7 +145,7 @@ double knotAt(const char* name, const MFnBase& set, Way way, unsigned int index,
 {
     TVX_API_CALL_OR(name, returnStatus, 0.0);
     double found = 0.0;
-    give(returnStatus, withSurface(set, [&](const NurbsSurface& surface) -> MStatus {
+    give(returnStatus, withShape<NurbsSurface>(set, [&](const NurbsSurface& surface) -> MStatus {
              const std::vector<double>& knots = (surface.*way).knots;
              if (index >= knots.size())
                  return noElement();
@@ -235,7 +194,7 @@ MObject makeSurface(MFnNurbsSurface& set, const char* name, const std::optional<
     MStatus status;
     const MObject made = api::makeShape(set, name, "nurbsSurface", parent, false, &status);
     if (status)
-        status = store(*api::nodeOf(set), *surface);
+        status = storeShape(*api::nodeOf(set), *surface);
     give(returnStatus, status);
     return made;
 }
@@ -295,7 +254,7 @@ MStatus MFnNurbsSurface::updateSurface()
 MStatus MFnNurbsSurface::getCVs(MPointArray& array, MSpace::Space space) const
 {
     TVX_API_CALL("MFnNurbsSurface::getCVs");
-    return withSurface(*this, [&](const NurbsSurface& surface) {
+    return withShape<NurbsSurface>(*this, [&](const NurbsSurface& surface) {
         const engine::Matrix matrix = matrixTo(*this, space);
         array.clear();
         for (const auto& point : surface.points)
@@ -307,7 +266,7 @@ MStatus MFnNurbsSurface::getCVs(MPointArray& array, MSpace::Space space) const
 MStatus MFnNurbsSurface::setCVs(const MPointArray& array, MSpace::Space space)
 {
     TVX_API_CALL("MFnNurbsSurface::setCVs");
-    return changeSurface(*this, [&](NurbsSurface& surface) -> MStatus {
+    return changeShape<NurbsSurface>(*this, [&](NurbsSurface& surface) -> MStatus {
         if (array.length() != surface.points.size())
             return badValue();
         const engine::Matrix inverse = matrixTo(*this, space).inverse();
@@ -321,7 +280,7 @@ MStatus MFnNurbsSurface::getCV(unsigned int indexU, unsigned int indexV, MPoint&
                                MSpace::Space space) const
 {
     TVX_API_CALL("MFnNurbsSurface::getCV");
-    return withSurface(*this, [&](const NurbsSurface& surface) -> MStatus {
+    return withShape<NurbsSurface>(*this, [&](const NurbsSurface& surface) -> MStatus {
         const auto index = pointIndex(surface, indexU, indexV);
         if (!index)
             return noElement();
@@ -334,7 +293,7 @@ MStatus MFnNurbsSurface::setCV(unsigned int indexU, unsigned int indexV, MPoint&
                                MSpace::Space space) const
 {
     TVX_API_CALL("MFnNurbsSurface::setCV");
-    return changeSurface(*this, [&](NurbsSurface& surface) -> MStatus {
+    return changeShape<NurbsSurface>(*this, [&](NurbsSurface& surface) -> MStatus {
         const auto index = pointIndex(surface, indexU, indexV);
         if (!index)
             return noElement();
@@ -439,7 +398,7 @@ bool MFnNurbsSurface::isParamOnSurface(double paramU, double paramV, MStatus* Re
 MStatus MFnNurbsSurface::getKnotDomain(double& startU, double& endU, double& startV, double& endV) const
 {
     TVX_API_CALL("MFnNurbsSurface::getKnotDomain");
-    return withSurface(*this, [&](const NurbsSurface& surface) {
+    return withShape<NurbsSurface>(*this, [&](const NurbsSurface& surface) {
         startU = surface.u.begin();
         endU = surface.u.end();
         startV = surface.v.begin();

@@ -180,22 +180,17 @@ bool isMemberOf(const MFnBase& set, const Found& found, MStatus* returnStatus)
 constexpr const char* kRestrictions[] = {"verticesOnlySet", "edgesOnlySet", "facetsOnlySet",
                                          "editPointsOnlySet", "renderableOnlySet"};
 
-engine::Plug plugOf(Node& node, const char* name)
-{
-    return engine::Plug(node, *node.findAttribute(name));
-}
-
 engine::Outcome fill(Node& set, const MSelectionList& members, MFnSet::Restriction restriction, bool isLayer)
 {
     for (const SelectionItem& item : tvxAccess::selection(members).items())
         if (engine::Outcome added = engine::addSetMember(set, item); !added)
             return added;
     if (restriction != MFnSet::kNone)
-        if (engine::Outcome written =
-                engine::writeNumber(plugOf(set, kRestrictions[restriction - MFnSet::kVerticesOnly]), 1);
+        if (engine::Outcome written = engine::writeNumber(
+                set.findPlug(kRestrictions[restriction - MFnSet::kVerticesOnly]).value, 1);
             !written)
             return written;
-    return isLayer ? engine::writeNumber(plugOf(set, "isLayer"), 1) : engine::Outcome();
+    return isLayer ? engine::writeNumber(set.findPlug("isLayer").value, 1) : engine::Outcome();
 }
 
 MObject make(MFnSet& set, const MSelectionList& members, MFnSet::Restriction restriction, bool isLayer,
@@ -375,7 +370,7 @@ MFnSet::Restriction MFnSet::restriction(MStatus* ReturnStatus) const
         return kNone;
     int found = kVerticesOnly;
     for (const char* name : kRestrictions) {
-        if (engine::readNumber(plugOf(*node, name)).value.asWhole() != 0)
+        if (engine::readNumber(node->findPlug(name).value).value.asWhole() != 0)
             return static_cast<Restriction>(found);
         ++found;
     }
@@ -388,7 +383,7 @@ MString MFnSet::annotation(MStatus* ReturnStatus) const
     Node* node = api::nodeOf(*this);
     if (!api::requireAttached(node, ReturnStatus))
         return MString();
-    return tvxAccess::string(engine::readString(plugOf(*node, "annotation")).value);
+    return tvxAccess::string(engine::readString(node->findPlug("annotation").value).value);
 }
 
 MStatus MFnSet::setAnnotation(const MString& annotation)
@@ -397,7 +392,8 @@ MStatus MFnSet::setAnnotation(const MString& annotation)
     Node* node = api::nodeOf(*this);
     if (!node)
         return api::notAttached();
-    return api::toStatus(engine::writeString(plugOf(*node, "annotation"), tvxAccess::text(annotation)));
+    return api::toStatus(
+        engine::writeString(node->findPlug("annotation").value, tvxAccess::text(annotation)));
 }
 
 Tstring MFnSet::setCommandString()

@@ -3,7 +3,6 @@
 
 #include "engine/scene.h"
 #include "support/dagSet.h"
-#include "support/notImplemented.h"
 #include "support/rotationOrder.h"
 #include "support/transformNode.h"
 #include "support/transformSpaces.h"
@@ -88,38 +87,6 @@ MStatus getPart(const MFnDagNode& set, MVector Transformation::*partOf, double t
 MVector product(const MVector& a, const double b[3])
 {
     return MVector(a.x * b[0], a.y * b[1], a.z * b[2]);
-}
-
-/// The attributes of a limit: "minTransXLimit" and "minTransXLimitEnable".
-std::string limitName(MFnTransform::LimitType type)
-{
-    static constexpr const char* kKinds[] = {"Scale", "Shear", "Rot", "Trans"};
-    static constexpr const char* kAxes[] = {"X", "Y", "Z"};
-    static constexpr const char* kShears[] = {"XY", "XZ", "YZ"};
-    const int kind = type / 6;
-    const int axis = type % 6 / 2;
-    return std::string(type % 2 == 0 ? "min" : "max") + kKinds[kind] +
-           (kind == 1 ? kShears[axis] : kAxes[axis]) + "Limit";
-}
-
-engine::Expected<engine::Plug> limitPlug(const MFnDagNode& set, const std::string& name)
-{
-    engine::DagNode* node = api::dagNodeOf(set);
-    return node ? node->findPlug(name) : engine::Outcome(engine::Reason::doesNotExist);
-}
-
-double readLimit(const MFnDagNode& set, const std::string& name, MStatus* returnStatus)
-{
-    const auto plug = limitPlug(set, name);
-    const auto number = plug ? engine::readNumber(plug.value) : plug.outcome;
-    api::give(returnStatus, api::toStatus(number.outcome));
-    return number.value.asReal();
-}
-
-MStatus writeLimit(const MFnDagNode& set, const std::string& name, double value)
-{
-    const auto plug = limitPlug(set, name);
-    return api::toStatus(plug ? engine::writeNumber(plug.value, value) : plug.outcome);
 }
 
 } // namespace
@@ -484,53 +451,4 @@ MStatus MFnTransform::setRotationOrder(MTransformationMatrix::RotationOrder orde
             parts.rotation.reorderIt(api::eulerOrder(order));
         parts.rotation.order = api::eulerOrder(order);
     });
-}
-
-MTransformationMatrix MFnTransform::restPosition(MStatus* ReturnStatus) const
-{
-    TVX_API_CALL_OR("MFnTransform::restPosition", ReturnStatus, MTransformationMatrix());
-    api::notImplemented("MFnTransform::restPosition", ReturnStatus);
-    return MTransformationMatrix();
-}
-
-MStatus MFnTransform::setRestPosition(const MTransformationMatrix&)
-{
-    TVX_API_CALL("MFnTransform::setRestPosition");
-    return api::notImplemented("MFnTransform::setRestPosition");
-}
-
-MStatus MFnTransform::resetFromRestPosition()
-{
-    TVX_API_CALL("MFnTransform::resetFromRestPosition");
-    return api::notImplemented("MFnTransform::resetFromRestPosition");
-}
-
-MStatus MFnTransform::clearRestPosition()
-{
-    TVX_API_CALL("MFnTransform::clearRestPosition");
-    return api::notImplemented("MFnTransform::clearRestPosition");
-}
-
-bool MFnTransform::isLimited(LimitType type, MStatus* ReturnStatus) const
-{
-    TVX_API_CALL_OR("MFnTransform::isLimited", ReturnStatus, false);
-    return readLimit(*this, limitName(type) + "Enable", ReturnStatus) != 0.0;
-}
-
-double MFnTransform::limitValue(LimitType type, MStatus* ReturnStatus) const
-{
-    TVX_API_CALL_OR("MFnTransform::limitValue", ReturnStatus, 0.0);
-    return readLimit(*this, limitName(type), ReturnStatus);
-}
-
-MStatus MFnTransform::setLimit(LimitType type, double value)
-{
-    TVX_API_CALL("MFnTransform::setLimit");
-    return writeLimit(*this, limitName(type), value);
-}
-
-MStatus MFnTransform::enableLimit(LimitType type, bool flag)
-{
-    TVX_API_CALL("MFnTransform::enableLimit");
-    return writeLimit(*this, limitName(type) + "Enable", flag ? 1.0 : 0.0);
 }

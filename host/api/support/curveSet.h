@@ -55,4 +55,10 @@ bool yieldsTime(const engine::Node& curve);
 /// The living curve that a set is attached to; null when there is none.
 engine::Node* curveOf(const MFnBase& set);
 
+/// The status of a member that the type of a curve has no use for.
+inline MStatus wrongSort()
+{
+    return failure(MS::kFailure, StatusText::objectIsIncompatible);
+}
+
 } // namespace tvxhost::api
