@@ -1,6 +1,8 @@
 // A scene of its own with a plug-in whose node types a test registers as it likes.
 #pragma once
 
+#include "texts.h"
+
 #include "api/plugins/pluginLoader.h"
 #include "api/support/access.h"
 #include "api/support/builtInAttributes.h"
@@ -12,32 +14,13 @@
 #define MNoVersionString
 #include <maya/MFnDependencyNode.h>
 #include <maya/MFnPlugin.h>
+#include <maya/MPlug.h>
 #include <maya/MTypeId.h>
 
 #include <string>
 #include <vector>
 
 namespace tvxhost::api::test {
-
-/// What the script editor showed, oldest first.
-inline std::vector<std::string> shown(engine::Scene& scene, engine::MessageKind kind)
-{
-    std::vector<std::string> texts;
-    for (const engine::Message& message : scene.scriptEditor().history())
-        if (message.kind == kind)
-            texts.push_back(message.text);
-    return texts;
-}
-
-inline std::string text(const MString& string)
-{
-    return tvxAccess::text(string);
-}
-
-inline std::string text(const MStatus& status)
-{
-    return text(status.errorString());
-}
 
 class NodeFixture : public ::testing::Test
 {
@@ -71,6 +54,17 @@ protected:
         MObject node = set.create(type, name, &status);
         EXPECT_TRUE(status) << text(status);
         return node;
+    }
+
+    static MPlug plug(const MObject& node, const char* name)
+    {
+        return MFnDependencyNode(node, nullptr).findPlug(name, true);
+    }
+    MPlug plug(const std::string& name)
+    {
+        const auto found = scene.findPlug(name);
+        EXPECT_TRUE(found) << found.outcome.text;
+        return tvxAccess::plug(found.value);
     }
 
     engine::Scene scene;

@@ -1,6 +1,8 @@
 // A scene of its own, made current, and short ways to its nodes.
 #pragma once
 
+#include "texts.h"
+
 #include "api/support/access.h"
 #include "api/support/faults.h"
 #include "engine/scene.h"
@@ -17,27 +19,6 @@
 #include <vector>
 
 namespace tvxhost::api::test {
-
-using Texts = std::vector<std::string>;
-
-inline Texts texts(const MStringArray& array)
-{
-    Texts all;
-    for (unsigned int i = 0; i < array.length(); ++i)
-        all.push_back(array[i].asChar());
-    return all;
-}
-
-inline std::string text(const MString& string)
-{
-    return string.asChar();
-}
-
-/// "(kCode): text"
-inline std::string text(const MStatus& status)
-{
-    return text(status.errorString());
-}
 
 class SceneFixture : public testing::Test
 {
@@ -99,14 +80,7 @@ protected:
         EXPECT_EQ(list.getSelectionStrings(array), MS::kSuccess);
         return texts(array);
     }
-    Texts messages(engine::MessageKind kind) const
-    {
-        Texts found;
-        for (const engine::Message& message : scene.scriptEditor().history())
-            if (message.kind == kind)
-                found.push_back(message.text);
-        return found;
-    }
+    Texts messages(engine::MessageKind kind) const { return shown(scene, kind); }
 
     mutable engine::Scene scene;
 };

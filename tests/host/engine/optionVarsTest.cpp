@@ -1,13 +1,10 @@
 // Option variables: values, conversions and their file.
 #include "engine/optionVars.h"
 
+#include "../support/temporaryFolder.h"
+
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
-
-#include <fstream>
-#include <sstream>
-
-#include <unistd.h>
 
 namespace tvxhost::engine {
 
@@ -23,41 +20,11 @@ using testing::IsEmpty;
 class OptionVarsTest : public testing::Test
 {
 protected:
-    OptionVarsTest()
-        : folder(fs::temp_directory_path() / ("optionVars" + std::to_string(::getpid()) +
-                                              testing::UnitTest::GetInstance()->current_test_info()->name()))
-    {
-        fs::remove_all(folder);
-    }
-    ~OptionVarsTest() override
-    {
-        std::error_code ignored;
-        fs::permissions(folder, fs::perms::owner_all, ignored);
-        fs::remove_all(folder, ignored);
-    }
+    std::string file() const { return folder.path("userPrefs.mel"); }
+    void write(const std::string& text) const { folder.write("userPrefs.mel", text); }
+    Outcome load() { return vars.load(folder.path()); }
 
-    fs::path file() const { return folder / "userPrefs.mel"; }
-    void write(const std::string& text) const
-    {
-        fs::create_directories(folder);
-        std::ofstream(file(), std::ios::binary) << text;
-    }
-    static std::string read(const fs::path& path)
-    {
-        std::ostringstream text;
-        text << std::ifstream(path, std::ios::binary).rdbuf();
-        return text.str();
-    }
-    std::vector<std::string> filesInFolder() const
-    {
-        std::vector<std::string> names;
-        for (const fs::directory_entry& entry : fs::directory_iterator(folder))
-            names.push_back(entry.path().filename().string());
-        std::sort(names.begin(), names.end());
-        return names;
-    }
-
-    fs::path folder;
+    test::TemporaryFolder folder;
     OptionVars vars;
 };
 
@@ -105,24 +72,24 @@ TEST_F(OptionVarsTest, TheFileIsOneCommandWithAnEntryPerLine)
     vars.set("sizes", std::vector<int>{4, 8});
     vars.set("weights", std::vector<double>{0.1});
     EXPECT_TRUE(vars.isChanged());
-    ASSERT_TRUE(vars.save(folder));
+    ASSERT_TRUE(vars.save(folder.path()));
     EXPECT_FALSE(vars.isChanged());
-    EXPECT_EQ(read(file()), "//Maya Preference file\n//\n//\n\n"
-                            "optionVar\n"
-                            " -iv \"crowdLevel\" 2\n"
-                            " -sv \"crowdPath\" \"C:\\\\shots\\n\\\"x\\\"\\t\"\n"
-                            " -fv \"crowdScale\" 1.5\n"
-                            " -ca \"recent\"\n"
-                            " -sva \"recent\" \"a\"\n"
-                            " -sva \"recent\" \"b c\"\n"
-                            " -ca \"sizes\"\n"
-                            " -iva \"sizes\" 4\n"
-                            " -iva \"sizes\" 8\n"
-                            " -ca \"weights\"\n"
-                            " -fva \"weights\" 0.1;\n");
+    EXPECT_EQ(folder.read("userPrefs.mel"), "//Maya Preference file\n//\n//\n\n"
+                                            "optionVar\n"
+                                            " -iv \"crowdLevel\" 2\n"
+                                            " -sv \"crowdPath\" \"C:\\\\shots\\n\\\"x\\\"\\t\"\n"
+                                            " -fv \"crowdScale\" 1.5\n"
+                                            " -ca \"recent\"\n"
+                                            " -sva \"recent\" \"a\"\n"
+                                            " -sva \"recent\" \"b c\"\n"
+                                            " -ca \"sizes\"\n"
+                                            " -iva \"sizes\" 4\n"
+                                            " -iva \"sizes\" 8\n"
+                                            " -ca \"weights\"\n"
+                                            " -fva \"weights\" 0.1;\n");
 
     OptionVars other;
-    ASSERT_TRUE(other.load(folder));
+    ASSERT_TRUE(other.load(folder.path()));
     EXPECT_FALSE(other.isChanged());
     for (const std::string& name : vars.names())
         EXPECT_EQ(*other.find(name), *vars.find(name)) << name;
@@ -131,11 +98,13 @@ TEST_F(OptionVarsTest, TheFileIsOneCommandWithAnEntryPerLine)
 
 TEST_F(OptionVarsTest, AMissingFileIsAnEmptySet)
 {
-    vars.set("old", 1);
-    EXPECT_TRUE(vars.load(folder));
-    EXPECT_THAT(vars.names(), IsEmpty());
+    for (const fs::path& empty : {folder / "none", folder.path()}) {
+        vars.set("old", 1);
+        EXPECT_TRUE(vars.load(empty)) << empty;
+        EXPECT_THAT(vars.names(), IsEmpty()) << empty;
+    }
     write("");
-    EXPECT_TRUE(vars.load(folder));
+    EXPECT_TRUE(load());
     EXPECT_THAT(vars.names(), IsEmpty());
 }
 
@@ -143,7 +112,7 @@ TEST_F(OptionVarsTest, OtherCommandsAndCommentsAreSkipped)
 {
     write("// a comment\n/* another;\n one */\nwindowPref -x 1;\n"
           "optionVar -intValue \"a\" 5 -stringValue \"b\" \"x;y\";\noptionVar\n -fv \"c\" 2e-3 ;");
-    EXPECT_TRUE(vars.load(folder));
+    EXPECT_TRUE(load());
     EXPECT_EQ(vars.asInt("a"), 5);
     EXPECT_EQ(vars.asString("b"), "x;y");
     EXPECT_EQ(vars.asDouble("c"), 0.002);
@@ -153,56 +122,54 @@ TEST_F(OptionVarsTest, ABrokenFileIsSetAsideAndItsLineNamed)
 {
     const std::string text = "optionVar\n -iv \"a\" 1\n -iv \"b\" two;\n";
     write(text);
-    const Outcome outcome = vars.load(folder);
+    const Outcome outcome = load();
     EXPECT_EQ(outcome.reason, Reason::failed);
-    EXPECT_EQ(outcome.text, "'" + file().string() +
-                                "' cannot be understood in line 3; it was set aside as '" + file().string() +
-                                ".broken'");
+    EXPECT_EQ(outcome.text,
+              "'" + file() + "' cannot be understood in line 3; it was set aside as '" + file() + ".broken'");
     EXPECT_THAT(vars.names(), IsEmpty());
-    EXPECT_THAT(filesInFolder(), ElementsAre("userPrefs.mel.broken"));
-    EXPECT_EQ(read(file().string() + ".broken"), text);
+    EXPECT_THAT(folder.names(), ElementsAre("userPrefs.mel.broken"));
+    EXPECT_EQ(folder.read("userPrefs.mel.broken"), text);
 
     write("optionVar -sv \"a\" \"never closed;\n");
-    EXPECT_THAT(vars.load(folder).text, HasSubstr("userPrefs.mel.broken1"));
-    EXPECT_THAT(filesInFolder(), ElementsAre("userPrefs.mel.broken", "userPrefs.mel.broken1"));
+    EXPECT_THAT(load().text, HasSubstr("userPrefs.mel.broken1"));
+    EXPECT_THAT(folder.names(), ElementsAre("userPrefs.mel.broken", "userPrefs.mel.broken1"));
 }
 
 TEST_F(OptionVarsTest, ABinaryFileIsBroken)
 {
     write(std::string("optionVar -iv \"a\" \0\1\2;", 22));
-    EXPECT_FALSE(vars.load(folder));
-    EXPECT_THAT(filesInFolder(), ElementsAre("userPrefs.mel.broken"));
+    EXPECT_FALSE(load());
+    EXPECT_THAT(folder.names(), ElementsAre("userPrefs.mel.broken"));
 }
 
 TEST_F(OptionVarsTest, SavingLeavesNoTemporaryFile)
 {
     vars.set("a", 1);
-    ASSERT_TRUE(vars.save(folder / "deep" / "er"));
-    EXPECT_TRUE(fs::exists(folder / "deep" / "er" / "userPrefs.mel"));
-    ASSERT_TRUE(vars.save(folder));
-    ASSERT_TRUE(vars.save(folder));
-    EXPECT_THAT(filesInFolder(), ElementsAre("deep", "userPrefs.mel"));
+    ASSERT_TRUE(vars.save(folder / "deep/er"));
+    EXPECT_TRUE(fs::exists(folder / "deep/er/userPrefs.mel"));
+    ASSERT_TRUE(vars.save(folder.path()));
+    ASSERT_TRUE(vars.save(folder.path()));
+    EXPECT_THAT(folder.names(), ElementsAre("deep", "userPrefs.mel"));
 }
 
 TEST_F(OptionVarsTest, WhatCannotBeWrittenLeavesTheOldFile)
 {
     // A folder in the place of the file cannot be replaced, whoever asks.
-    fs::create_directories(file() / "inside");
+    fs::create_directories(folder / "userPrefs.mel/inside");
     vars.set("a", 1);
-    const Outcome outcome = vars.save(folder);
-    EXPECT_EQ(outcome.text, "cannot replace '" + file().string() + "': it is not a file");
+    const Outcome outcome = vars.save(folder.path());
+    EXPECT_EQ(outcome.text, "cannot replace '" + file() + "': it is not a file");
     EXPECT_TRUE(vars.isChanged());
-    EXPECT_THAT(filesInFolder(), ElementsAre("userPrefs.mel"));
+    EXPECT_THAT(folder.names(), ElementsAre("userPrefs.mel"));
 }
 
 TEST_F(OptionVarsTest, AFolderThatCannotBeMadeIsNamed)
 {
-    fs::create_directories(folder);
-    std::ofstream(folder / "taken") << "a file";
+    folder.write("taken", "a file");
     vars.set("a", 1);
-    const Outcome outcome = vars.save(folder / "taken" / "prefs");
+    const Outcome outcome = vars.save(folder / "taken/prefs");
     EXPECT_EQ(outcome.reason, Reason::failed);
-    EXPECT_THAT(outcome.text, HasSubstr("cannot make the folder '" + (folder / "taken" / "prefs").string()));
+    EXPECT_THAT(outcome.text, HasSubstr("cannot make the folder '" + folder.path("taken/prefs")));
 }
 
 } // namespace tvxhost::engine

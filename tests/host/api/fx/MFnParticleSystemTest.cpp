@@ -1,15 +1,12 @@
 // MFnParticleSystem: particles as a plug-in sees them.
+#include "../arrays.h"
 #include "../sceneFixture.h"
 
 #include "engine/particle.h"
 
-#include <maya/MDoubleArray.h>
 #include <maya/MFnDoubleArrayData.h>
 #include <maya/MFnParticleSystem.h>
 #include <maya/MFnVectorArrayData.h>
-#include <maya/MIntArray.h>
-#include <maya/MPoint.h>
-#include <maya/MPointArray.h>
 #include <maya/MVectorArray.h>
 
 #include <gmock/gmock.h>
@@ -22,14 +19,6 @@ using Numbers = std::vector<double>;
 using Rows = std::vector<std::vector<double>>;
 
 namespace {
-
-Numbers numbers(const MDoubleArray& array)
-{
-    Numbers all;
-    for (unsigned int i = 0; i < array.length(); ++i)
-        all.push_back(array[i]);
-    return all;
-}
 
 Rows rows(const MVectorArray& array)
 {
@@ -82,26 +71,20 @@ protected:
         EXPECT_EQ(m_set.setObject(object("crowdShape")), MS::kSuccess);
         return m_set;
     }
-    Numbers doubles(const char* name)
+    /// The values of all particles.
+    template <class Array>
+    Array values(const char* name)
     {
-        MDoubleArray array;
+        Array array;
         MStatus status;
         const MFnParticleSystem set(object("crowdShape"), &status);
         const unsigned int size = set.getPerParticleAttribute(name, array, &status);
         EXPECT_EQ(size, array.length());
         EXPECT_EQ(status, MS::kSuccess);
-        return numbers(array);
+        return array;
     }
-    Rows vectors(const char* name)
-    {
-        MVectorArray array;
-        MStatus status;
-        const MFnParticleSystem set(object("crowdShape"), &status);
-        const unsigned int size = set.getPerParticleAttribute(name, array, &status);
-        EXPECT_EQ(size, array.length());
-        EXPECT_EQ(status, MS::kSuccess);
-        return rows(array);
-    }
+    Numbers doubles(const char* name) { return elementsOf(values<MDoubleArray>(name)); }
+    Rows vectors(const char* name) { return rows(values<MVectorArray>(name)); }
 
 private:
     MFnParticleSystem m_set;
@@ -175,7 +158,7 @@ TEST_F(MFnParticleSystemTest, anAttributeOfAnotherKindLeavesTheArray)
         EXPECT_EQ(particles().getPerParticleAttribute(name, array, &status), 0u) << name;
         EXPECT_EQ(text(status), kInternal) << name;
     }
-    EXPECT_EQ(numbers(array), Numbers({5, 5}));
+    EXPECT_EQ(elementsOf(array), Numbers({5, 5}));
     particles().setPerParticleAttribute("nothing", array, &status);
     EXPECT_EQ(text(status), kInternal);
     EXPECT_EQ(MFnParticleSystem().getPerParticleAttribute("mass", array, &status), 0u);
@@ -292,7 +275,7 @@ TEST_F(MFnParticleSystemTest, whatTheShapeSaysCountsForAllParticles)
     EXPECT_FALSE(system.hasOpacity());
     MDoubleArray radii;
     system.radius(radii);
-    EXPECT_EQ(numbers(radii), Numbers({0, 0})) << "one per particle";
+    EXPECT_EQ(elementsOf(radii), Numbers({0, 0})) << "one per particle";
     EXPECT_TRUE(system.primaryVisibility());
     EXPECT_TRUE(system.castsShadows());
     EXPECT_FALSE(system.visibleInReflections());

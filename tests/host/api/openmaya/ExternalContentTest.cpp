@@ -1,4 +1,5 @@
 // The files that nodes need: the two tables, and the members of nodes that fill and apply them.
+#include "../../support/temporaryFolder.h"
 #include "../nodeFixture.h"
 
 #include <maya/MExternalContentInfoTable.h>
@@ -6,9 +7,6 @@
 #include <maya/MFnTypedAttribute.h>
 #include <maya/MPlug.h>
 #include <maya/MStringArray.h>
-
-#include <filesystem>
-#include <fstream>
 
 using namespace tvxhost::api;
 using namespace tvxhost::api::test;
@@ -103,14 +101,14 @@ TEST_F(ExternalContentTest, ATableHoldsEachKeyOnceInTheirOrder)
 
 TEST_F(ExternalContentTest, AFileIsLookedFor)
 {
-    const std::string path = std::filesystem::temp_directory_path() / "tvxExternalContent.txt";
-    std::ofstream(path) << "here";
+    const tvxhost::test::TemporaryFolder folder;
+    folder.write("here.txt", "here");
+    const std::string path = folder.path("here.txt");
     MExternalContentInfoTable table;
     EXPECT_EQ(MS::kSuccess, table.addUnresolvedEntry("there", path.c_str()));
     EXPECT_EQ(MS::kSuccess, table.addUnresolvedEntry("nowhere", "/no/such/file.txt"));
     EXPECT_EQ(path + "|" + path + "||", info(table, "there"));
     EXPECT_EQ("/no/such/file.txt|||", info(table, "nowhere"));
-    std::filesystem::remove(path);
 }
 
 TEST_F(ExternalContentTest, LocationsAreFoundByKeyAndByPlace)

@@ -21,11 +21,6 @@ class Modifiers : public NodeFixture
 protected:
     ~Modifiers() override { tvxhost::api::setStrictDisconnect(false); }
 
-    MPlug plug(const MObject& node, const char* name)
-    {
-        return MFnDependencyNode(node, nullptr).findPlug(name, true);
-    }
-
     MObject a = make("transform", "a");
     MObject b = make("transform", "b");
     MPlug ax = plug(a, "tx"), ay = plug(a, "ty"), bx = plug(b, "tx"), by = plug(b, "ty");

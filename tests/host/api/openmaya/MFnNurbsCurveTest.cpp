@@ -1,9 +1,8 @@
 // MFnNurbsCurve: NURBS curves.
+#include "../arrays.h"
 #include "../sceneFixture.h"
 
-#include <maya/MDoubleArray.h>
 #include <maya/MFnNurbsCurve.h>
-#include <maya/MPointArray.h>
 
 namespace tvxhost::api::test {
 namespace {
@@ -11,21 +10,6 @@ namespace {
 class MFnNurbsCurveTest : public SceneFixture
 {
 protected:
-    static MPointArray points(std::initializer_list<MPoint> places)
-    {
-        MPointArray array;
-        for (const MPoint& place : places)
-            array.append(place);
-        return array;
-    }
-    static MDoubleArray knots(std::initializer_list<double> values)
-    {
-        MDoubleArray array;
-        for (const double value : values)
-            array.append(value);
-        return array;
-    }
-
     /// A Bézier curve from the origin to (1, 0, 0) below the transform "rig".
     MObject makeArch(MFnNurbsCurve& set)
     {
@@ -33,7 +17,7 @@ protected:
         MObject parent = object("rig");
         MStatus status;
         const MObject made =
-            set.create(points({{0, 0, 0}, {0, 1, 0}, {1, 1, 0}, {1, 0, 0}}), knots({0, 0, 0, 1, 1, 1}), 3,
+            set.create(points({{0, 0, 0}, {0, 1, 0}, {1, 1, 0}, {1, 0, 0}}), doubles({0, 0, 0, 1, 1, 1}), 3,
                        MFnNurbsCurve::kOpen, false, false, parent, &status);
         EXPECT_EQ(status, MS::kSuccess) << text(status);
         return made;
@@ -54,7 +38,7 @@ TEST_F(MFnNurbsCurveTest, IsMadeOfPointsAndKnots)
     EXPECT_FALSE(curve.hasHistoryOnCreate());
     MStatus status;
     EXPECT_TRUE(MFnNurbsCurve()
-                    .create(points({{0, 0, 0}}), knots({0, 1}), 3, MFnNurbsCurve::kOpen, false, false,
+                    .create(points({{0, 0, 0}}), doubles({0, 1}), 3, MFnNurbsCurve::kOpen, false, false,
                             MObject::kNullObj, &status)
                     .isNull());
     EXPECT_EQ(status, MS::kInvalidParameter);
@@ -104,7 +88,7 @@ TEST_F(MFnNurbsCurveTest, ControlPointsAndKnotsAreChanged)
     all.append(MPoint());
     EXPECT_EQ(curve.setCVs(all), MS::kInvalidParameter);
     EXPECT_EQ(curve.setCV(4, point), MS::kInvalidParameter);
-    EXPECT_EQ(curve.setKnots(knots({2, 2, 2}), 3, 5), MS::kSuccess);
+    EXPECT_EQ(curve.setKnots(doubles({2, 2, 2}), 3, 5), MS::kSuccess);
     double start = 9.0;
     double end = 9.0;
     EXPECT_EQ(curve.getKnotDomain(start, end), MS::kSuccess);
@@ -145,7 +129,8 @@ TEST_F(MFnNurbsCurveTest, RefusesWhatIsNotThere)
     MFnNurbsCurve arch;
     make("transform", "other");
     MObject parent = object("other");
-    arch.create(points({{0, 0, 0}, {1, 0, 0}}), knots({0, 1}), 1, MFnNurbsCurve::kOpen, false, false, parent);
+    arch.create(points({{0, 0, 0}, {1, 0, 0}}), doubles({0, 1}), 1, MFnNurbsCurve::kOpen, false, false,
+                parent);
     EXPECT_EQ(arch.reverse(), MS::kNotImplemented);
     arch.closestPoint(MPoint(), nullptr, 0.1, MSpace::kObject, &status);
     EXPECT_EQ(status, MS::kNotImplemented);

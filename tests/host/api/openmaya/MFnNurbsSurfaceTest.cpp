@@ -1,10 +1,9 @@
 // MFnNurbsSurface, MTesselationParams, MTrimBoundaryArray: NURBS surfaces.
+#include "../arrays.h"
 #include "../sceneFixture.h"
 
-#include <maya/MDoubleArray.h>
 #include <maya/MFnNurbsSurface.h>
 #include <maya/MObjectArray.h>
-#include <maya/MPointArray.h>
 #include <maya/MTesselationParams.h>
 #include <maya/MTrimBoundaryArray.h>
 
@@ -16,20 +15,6 @@ namespace {
 class MFnNurbsSurfaceTest : public SceneFixture
 {
 protected:
-    static MDoubleArray knots(std::initializer_list<double> values)
-    {
-        MDoubleArray array;
-        for (const double value : values)
-            array.append(value);
-        return array;
-    }
-    static std::vector<double> numbers(const MDoubleArray& array)
-    {
-        std::vector<double> all;
-        for (unsigned int i = 0; i < array.length(); ++i)
-            all.push_back(array[i]);
-        return all;
-    }
     static std::vector<double> numbers(const MPoint& point) { return {point.x, point.y, point.z}; }
     static std::vector<double> numbers(const MVector& vector) { return {vector.x, vector.y, vector.z}; }
 
@@ -44,7 +29,7 @@ protected:
         }
         MStatus status;
         const MObject made =
-            set.create(points, knots({0, 0, 1, 2, 2}), knots({0, 1}), 2, 1, MFnNurbsSurface::kOpen,
+            set.create(points, doubles({0, 0, 1, 2, 2}), doubles({0, 1}), 2, 1, MFnNurbsSurface::kOpen,
                        MFnNurbsSurface::kClosed, false, object("rig"), &status);
         EXPECT_EQ(status, MS::kSuccess) << text(status);
         return made;
@@ -83,13 +68,13 @@ TEST_F(MFnNurbsSurfaceTest, NumbersThatDoNotFitAreRefused)
     three.setLength(3);
     MStatus status;
     EXPECT_TRUE(surface
-                    .create(three, knots({0, 1}), knots({0, 1}), 1, 1, MFnNurbsSurface::kOpen,
+                    .create(three, doubles({0, 1}), doubles({0, 1}), 1, 1, MFnNurbsSurface::kOpen,
                             MFnNurbsSurface::kOpen, false, MObject::kNullObj, &status)
                     .isNull());
     EXPECT_EQ(status, MS::kInvalidParameter);
     three.setLength(4);
     EXPECT_TRUE(surface
-                    .create(three, knots({1, 0}), knots({0, 1}), 1, 1, MFnNurbsSurface::kOpen,
+                    .create(three, doubles({1, 0}), doubles({0, 1}), 1, 1, MFnNurbsSurface::kOpen,
                             MFnNurbsSurface::kOpen, false, MObject::kNullObj, &status)
                     .isNull());
     EXPECT_EQ(status, MS::kInvalidParameter);
@@ -130,9 +115,9 @@ TEST_F(MFnNurbsSurfaceTest, KnotsAreReadAndSet)
     makeGutter(surface);
     MDoubleArray array;
     EXPECT_EQ(surface.getKnotsInU(array), MS::kSuccess);
-    EXPECT_EQ(numbers(array), (std::vector<double>{0, 0, 1, 2, 2}));
+    EXPECT_EQ(elementsOf(array), (std::vector<double>{0, 0, 1, 2, 2}));
     EXPECT_EQ(surface.getKnotsInV(array), MS::kSuccess);
-    EXPECT_EQ(numbers(array), (std::vector<double>{0, 1}));
+    EXPECT_EQ(elementsOf(array), (std::vector<double>{0, 1}));
     EXPECT_EQ(surface.setKnotInU(2, 0.5), MS::kSuccess);
     EXPECT_EQ(surface.knotInU(2), 0.5);
     EXPECT_FALSE(surface.isUniform());
@@ -140,9 +125,9 @@ TEST_F(MFnNurbsSurfaceTest, KnotsAreReadAndSet)
     EXPECT_FALSE(surface.isKnotU(0.6));
     EXPECT_TRUE(surface.isKnotV(1.0));
     EXPECT_EQ(surface.setKnotInU(2, 3.0), MS::kInvalidParameter) << "they would descend";
-    EXPECT_EQ(surface.setKnotsInV(knots({2, 4}), 0, 1), MS::kSuccess);
+    EXPECT_EQ(surface.setKnotsInV(doubles({2, 4}), 0, 1), MS::kSuccess);
     EXPECT_EQ(surface.knotInV(1), 4.0);
-    EXPECT_EQ(surface.setKnotsInV(knots({2}), 0, 1), MS::kInvalidParameter);
+    EXPECT_EQ(surface.setKnotsInV(doubles({2}), 0, 1), MS::kInvalidParameter);
     MStatus status;
     surface.knotInV(2, &status);
     EXPECT_EQ(text(status), "(kInvalidParameter): No element at given index");
@@ -210,8 +195,8 @@ TEST_F(MFnNurbsSurfaceTest, AreasGrowWithTheTransform)
         points.append(MPoint(x, 0, -2));
     }
     make("transform", "rig");
-    surface.create(points, knots({0, 1}), knots({0, 1}), 1, 1, MFnNurbsSurface::kOpen, MFnNurbsSurface::kOpen,
-                   false, object("rig"));
+    surface.create(points, doubles({0, 1}), doubles({0, 1}), 1, 1, MFnNurbsSurface::kOpen,
+                   MFnNurbsSurface::kOpen, false, object("rig"));
     EXPECT_TRUE(surface.isBezier());
     EXPECT_NEAR(surface.area(), 6.0, 1e-9);
     set("rig.scale", {2, 2, 2});

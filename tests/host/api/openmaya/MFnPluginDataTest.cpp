@@ -126,10 +126,6 @@ protected:
         }
         return make("heavier", name);
     }
-    static MPlug plug(const MObject& node, const char* name)
-    {
-        return MFnDependencyNode(node, nullptr).findPlug(name, true);
-    }
 };
 
 TEST_F(PluginDataTest, DataIsMadeByItsNumberAndIsOfItsType)

@@ -1,37 +1,17 @@
 // MRampAttribute: entries, their order, and what a ramp yields between them.
+#include "../arrays.h"
 #include "../sceneFixture.h"
 
 #include <maya/MColor.h>
 #include <maya/MColorArray.h>
-#include <maya/MFloatArray.h>
 #include <maya/MFnAttribute.h>
 #include <maya/MFnDependencyNode.h>
-#include <maya/MIntArray.h>
 #include <maya/MRampAttribute.h>
 
 #include <sstream>
 
 namespace tvxhost::api::test {
 namespace {
-
-template <class Array, class T>
-Array arrayOf(std::initializer_list<T> values)
-{
-    Array array;
-    for (const T& value : values)
-        array.append(value);
-    return array;
-}
-
-MFloatArray floats(std::initializer_list<float> values)
-{
-    return arrayOf<MFloatArray>(values);
-}
-
-MIntArray ints(std::initializer_list<int> values)
-{
-    return arrayOf<MIntArray>(values);
-}
 
 class MRampAttributeTest : public SceneFixture
 {

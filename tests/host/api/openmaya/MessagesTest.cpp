@@ -76,13 +76,6 @@ void hearConnection(MPlug& source, MPlug& destination, bool made, void* clientDa
 class MessagesTest : public NodeFixture
 {
 protected:
-    MPlug plug(const std::string& name)
-    {
-        const auto found = scene.findPlug(name);
-        EXPECT_TRUE(found) << found.outcome.text;
-        return tvxAccess::plug(found.value);
-    }
-
     void rename(MObject& node, const char* name) { MFnDependencyNode(node, nullptr).setName(name); }
 
     void remove(MObject& node)

@@ -1,4 +1,5 @@
 // PluginLoader: finding, loading and unloading plug-ins, with libraries good and bad.
+#include "../../support/temporaryFolder.h"
 #include "../nodeFixture.h"
 
 #include <maya/MPlug.h>
@@ -6,8 +7,6 @@
 #include <dlfcn.h>
 
 #include <cstdlib>
-#include <filesystem>
-#include <fstream>
 
 using namespace tvxhost::api;
 using namespace tvxhost::api::test;
@@ -16,8 +15,6 @@ using tvxhost::engine::Reason;
 using tvxhost::engine::ScriptRunner;
 
 namespace {
-
-namespace fs = std::filesystem;
 
 /// Knows some procedures, and lists what it was told to run.
 class Scripts final : public ScriptRunner
@@ -59,10 +56,6 @@ protected:
         if (handle)
             dlclose(handle);
         return handle != nullptr;
-    }
-    MPlug plug(const MObject& node, const char* name)
-    {
-        return MFnDependencyNode(node, nullptr).findPlug(name, true);
     }
 
     Scripts scripts;
@@ -240,16 +233,13 @@ TEST_F(Loading, ALibraryThatLacksASymbolIsRefusedWithTheSystemsMessage)
 
 TEST_F(Loading, WhatIsNoLibraryIsRefused)
 {
-    const fs::path folder = fs::path(::testing::TempDir()) / ("tvxLoading" + std::to_string(getpid()));
-    fs::create_directory(folder);
-    const fs::path file = folder / "text.so";
-    std::ofstream(file) << "text";
-    const PluginResult result = loader.load(file.string());
-    EXPECT_EQ(file.string() + ": file too short (text)", result.outcome.text);
-    std::ofstream(file) << std::string(4096, 'x');
-    EXPECT_EQ(file.string() + ": invalid ELF header (text)", loader.load(file.string()).outcome.text);
+    const tvxhost::test::TemporaryFolder folder;
+    const std::string file = folder.path("text.so");
+    folder.write("text.so", "text");
+    EXPECT_EQ(file + ": file too short (text)", loader.load(file).outcome.text);
+    folder.write("text.so", std::string(4096, 'x'));
+    EXPECT_EQ(file + ": invalid ELF header (text)", loader.load(file).outcome.text);
     EXPECT_TRUE(loader.loaded().empty());
-    fs::remove_all(folder);
 }
 
 TEST_F(Loading, EntryPointsWithPlainNamesAreFoundAndLeftoversRemoved)
