@@ -3,6 +3,7 @@
 
 #include "cell.h"
 #include "geometry/meshMaps.h"
+#include "lockedNormals.h"
 #include "meshSets.h"
 #include "scene.h"
 #include "values.h"
@@ -87,8 +88,10 @@ Ref<Data> assemble(DagNode& shape)
     readFaces(shape, mesh);
     if (mesh.points.empty())
         return {};
-    if (isSound(mesh))
+    if (isSound(mesh)) {
+        readNormals(shape, mesh);
         return result;
+    }
     shape.scene().scriptEditor().warning("The geometry of '" + shape.name() +
                                          "' names points or edges that are not there; it is not used.");
     return {};
@@ -184,6 +187,7 @@ void writeAttributes(DagNode& shape, const MeshData& mesh)
     readSets(shape, former);
     if (!hasOnlyNames(mesh) || !hasOnlyNames(former))
         (void)writeSets(shape, former, mesh);
+    (void)writeNormals(shape, mesh);
 }
 
 /// Changes sets where attributes hold the mesh: those that differ, and the faces that have something else.
@@ -241,6 +245,29 @@ void changeHeld(DagNode& shape, Ref<Data> held, const Change& change)
     change(mesh);
     mesh.forgetDerived();
     hold(shape, held);
+}
+
+/// The normals that were set get other numbers with the edge.
+Outcome smoothInAttributes(DagNode& shape, const MeshData& mesh, std::int32_t edge, int value)
+{
+    const Ref<Data> after = mesh.lockedNormals.empty() ? Ref<Data>() : mesh.clone();
+    const Outcome written = writeNumber(plugOf(shape, "edge").element(edge).child(2), value);
+    if (!written || !after)
+        return written;
+    auto& changed = static_cast<MeshData&>(*after);
+    changed.edges[static_cast<std::size_t>(edge)].smooth = value;
+    return writeNormals(shape, changed);
+}
+
+/// Whether a shape has a mesh that history does not make; `what` of it is to be changed.
+Outcome requireEditable(DagNode& shape, const char* what)
+{
+    if (!meshOf(shape))
+        return {Reason::noData, "'" + shape.name() + "' has no geometry"};
+    if (hasHistory(shape))
+        return {Reason::notWritable,
+                std::string("the ") + what + " of '" + shape.name() + "' are made by its history"};
+    return {};
 }
 
 void moveInPlace(DagNode& shape, const Ref<Data>& held, const MovedPoints& moved)
@@ -306,28 +333,37 @@ Outcome movePoints(DagNode& shape, const MovedPoints& moved)
 Outcome smoothEdge(DagNode& shape, std::int32_t edge, bool smooth)
 {
     const MeshData* mesh = meshOf(shape);
-    if (!mesh)
-        return {Reason::noData, "'" + shape.name() + "' has no geometry"};
-    if (!mesh->hasEdge(edge))
+    if (mesh && !mesh->hasEdge(edge))
         return {Reason::badIndex, "'" + shape.name() + "' has no such edge"};
-    if (hasHistory(shape))
-        return {Reason::notWritable, "the edges of '" + shape.name() + "' are made by its history"};
+    if (const Outcome editable = requireEditable(shape, "edges"); !editable)
+        return editable;
     const int value = smooth ? 1 : 0;
     const Ref<Data> held = incomingMesh(shape);
     if (!held)
-        return writeNumber(plugOf(shape, "edge").element(edge).child(2), value);
+        return smoothInAttributes(shape, *mesh, edge, value);
     changeHeld(shape, held,
                [&](MeshData& changed) { changed.edges[static_cast<std::size_t>(edge)].smooth = value; });
     return {};
 }
 
+Outcome editNormals(DagNode& shape, const NormalEdit& edit)
+{
+    if (const Outcome editable = requireEditable(shape, "normals"); !editable)
+        return editable;
+    if (const Ref<Data> held = incomingMesh(shape)) {
+        changeHeld(shape, held, edit);
+        return {};
+    }
+    const Ref<Data> after = meshOf(shape)->clone();
+    auto& changed = static_cast<MeshData&>(*after);
+    edit(changed);
+    return writeNormals(shape, changed);
+}
+
 Outcome editSets(DagNode& shape, const SetEdit& edit)
 {
-    if (!meshOf(shape))
-        return {Reason::noData, "'" + shape.name() + "' has no geometry"};
-    if (hasHistory(shape))
-        return {Reason::notWritable,
-                "the texture coordinates and colours of '" + shape.name() + "' are made by its history"};
+    if (const Outcome editable = requireEditable(shape, "texture coordinates and colours"); !editable)
+        return editable;
     const Ref<Data> held = incomingMesh(shape);
     if (!held)
         return editSetsInAttributes(shape, edit);

@@ -12,9 +12,10 @@ namespace tvxhost::engine {
 
 /// The geometry of a mesh shape, the first of these that there is: what its history yields (a connected
 /// `inMesh`), what `inMesh` holds (left by history that has gone, or given by storeMesh), what its attributes
-/// say: `vt` points, `ed` edges, `fc` faces. On top of it the tweaks `pt`. Null for what is no mesh, for a
-/// mesh without points, and, with a warning, for one whose edges or faces name things that are not there.
-/// Valid until the shape or its history changes; asking again costs nothing until then.
+/// say: `vt` points, `ed` edges, `fc` faces, `n` normals that were set. On top of it the tweaks `pt`. Null
+/// for what is no mesh, for a mesh without points, and, with a warning, for one whose edges or faces name
+/// things that are not there. Valid until the shape or its history changes; asking again costs nothing until
+/// then.
 ///
 /// The elements of `fc` are data of the type "polyFaces": one face each, as the words of a scene file
 /// (see readFace), kept as KeptData.
@@ -40,6 +41,11 @@ Outcome movePoints(DagNode& shape, const MovedPoints& moved);
 /// notWritable where the edges are those of history.
 Outcome smoothEdge(DagNode& shape, std::int32_t edge, bool smooth);
 
+/// Changes the normals that are set (MeshData::lockedNormals) and nothing else of a mesh.
+using NormalEdit = std::function<void(MeshData& mesh)>;
+/// Changes them for good. noData when there is no mesh, notWritable where history makes it.
+Outcome editNormals(DagNode& shape, const NormalEdit& edit);
+
 /// Changes the sets of texture coordinates and colours of a mesh, and which of their values its faces use;
 /// nothing else of it.
 using SetEdit = std::function<void(MeshData& mesh)>;
@@ -54,7 +60,7 @@ std::string currentColorSet(DagNode& shape);
 inline constexpr const char* kCurrentUvSet = "currentUVSet";
 inline constexpr const char* kCurrentColorSet = "currentColorSet";
 
-/// Writes geometry that only `inMesh` holds to `vt`, `ed` and `fc`, as a file needs it.
+/// Writes geometry that only `inMesh` holds to `vt`, `ed`, `fc` and `n`, as a file needs it.
 void settleMesh(DagNode& shape);
 
 } // namespace tvxhost::engine

@@ -1,5 +1,5 @@
-// MFnMesh: polygon meshes, what they are made of. Making them is in MFnMeshCreation.cpp; what the host cannot
-// do is in the MFnMeshUnsupported… files.
+// MFnMesh: polygon meshes, their points, edges and faces. What else there is to them stands in further files;
+// what the host cannot do in the MFnMeshUnsupported… files.
 #include <maya/MFnMesh.h>
 
 #include "engine/geometry/meshMeasures.h"
@@ -8,10 +8,8 @@
 #include "support/meshNeighbours.h"
 
 #include <maya/MFloatPointArray.h>
-#include <maya/MFloatVectorArray.h>
 #include <maya/MIntArray.h>
 #include <maya/MPointArray.h>
-#include <maya/MVector.h>
 
 #include <numeric>
 
@@ -68,34 +66,6 @@ MStatus writePoints(const MFnMesh& set, const Array& points, MSpace::Space space
         for (unsigned int i = 0; i < points.length(); ++i)
             moved.emplace_back(static_cast<std::int32_t>(i), MPoint(points[i]));
         return movePoints(set, moved, space);
-    });
-}
-
-MFloatVector floatVector(const engine::Vec3d& normal, const engine::Matrix& matrix)
-{
-    const engine::Vec3d placed = api::placedNormal(normal, matrix);
-    return MFloatVector(static_cast<float>(placed.x), static_cast<float>(placed.y),
-                        static_cast<float>(placed.z));
-}
-
-/// Puts a vector for each of a row of normals into an array.
-template <class Normals>
-void giveNormals(MFloatVectorArray& array, const Normals& normals, const engine::Matrix& matrix)
-{
-    array.clear();
-    for (const auto& normal : normals)
-        array.append(floatVector(engine::Vec3d(normal), matrix));
-}
-
-MStatus readVertexNormal(const MFnMesh& set, int vertexId, bool angleWeighted, MVector& normal,
-                         MSpace::Space space)
-{
-    return withPlacedMesh(set, space, [&](const MeshData& mesh, const engine::Matrix& matrix) {
-        const MStatus status = requireThere(mesh.hasVertex(vertexId));
-        if (status)
-            normal =
-                api::toVector(api::placedNormal(engine::vertexNormal(mesh, vertexId, angleWeighted), matrix));
-        return status;
     });
 }
 
@@ -159,12 +129,6 @@ int MFnMesh::polygonVertexCount(int polygonId, MStatus* ReturnStatus) const
                   return MS::kSuccess;
               }));
     return count;
-}
-
-int MFnMesh::numNormals(MStatus* ReturnStatus) const
-{
-    TVX_API_CALL_OR("MFnMesh::numNormals", ReturnStatus, 0);
-    return readMesh(*this, ReturnStatus, [](const MeshData& mesh) { return mesh.normals().normals.size(); });
 }
 
 MStatus MFnMesh::updateSurface()
@@ -254,121 +218,6 @@ MStatus MFnMesh::getPolygonVertices(int polygonId, MIntArray& vertexList) const
         api::giveAll(vertexList, engine::cornerVertices(mesh, face));
         return MS::kSuccess;
     });
-}
-
-MStatus MFnMesh::getNormals(MFloatVectorArray& normals, MSpace::Space space) const
-{
-    TVX_API_CALL("MFnMesh::getNormals");
-    return withPlacedMesh(*this, space, [&](const MeshData& mesh, const engine::Matrix& matrix) -> MStatus {
-        giveNormals(normals, mesh.normals().normals, matrix);
-        return MS::kSuccess;
-    });
-}
-
-MStatus MFnMesh::getFaceVertexNormal(int faceIndex, int vertexIndex, MVector& normal,
-                                     MSpace::Space space) const
-{
-    TVX_API_CALL("MFnMesh::getFaceVertexNormal");
-    return withPlacedMesh(*this, space, [&](const MeshData& mesh, const engine::Matrix& matrix) {
-        const std::int32_t number =
-            mesh.hasFace(faceIndex) ? api::normalAt(mesh, faceIndex, vertexIndex) : -1;
-        const MStatus status = requireThere(number >= 0);
-        if (status)
-            normal = api::toVector(api::placedNormal(api::normalNumbered(mesh, number), matrix));
-        return status;
-    });
-}
-
-MStatus MFnMesh::getFaceVertexNormals(int faceIndex, MFloatVectorArray& normals, MSpace::Space space) const
-{
-    TVX_API_CALL("MFnMesh::getFaceVertexNormals");
-    return withPlacedMesh(*this, space, [&](const MeshData& mesh, const engine::Matrix& matrix) {
-        const MStatus status = requireThere(mesh.hasFace(faceIndex));
-        if (!status)
-            return status;
-        std::vector<engine::Vec3d> all;
-        for (const std::int32_t number : api::normalsOfFace(mesh, faceIndex))
-            all.push_back(api::normalNumbered(mesh, number));
-        giveNormals(normals, all, matrix);
-        return status;
-    });
-}
-
-MStatus MFnMesh::getNormalIds(MIntArray& normalIdCounts, MIntArray& normalIds) const
-{
-    TVX_API_CALL("MFnMesh::getNormalIds");
-    return withMesh(*this, [&](const MeshData& mesh) -> MStatus {
-        auto& counts = tvxAccess::elements(normalIdCounts);
-        counts.clear();
-        for (std::size_t face = 0; face < mesh.faces.size(); ++face)
-            counts.push_back(static_cast<int>(mesh.faces.corners(face).size()));
-        api::giveAll(normalIds, mesh.normals().used);
-        return MS::kSuccess;
-    });
-}
-
-MStatus MFnMesh::getFaceNormalIds(int faceIndex, MIntArray& normals) const
-{
-    TVX_API_CALL("MFnMesh::getFaceNormalIds");
-    return withFace(*this, faceIndex, [&](const MeshData& mesh, std::size_t) -> MStatus {
-        api::giveAll(normals, api::normalsOfFace(mesh, faceIndex));
-        return MS::kSuccess;
-    });
-}
-
-MStatus MFnMesh::getVertexNormal(int vertexId, MVector& normal, MSpace::Space space) const
-{
-    TVX_API_CALL("MFnMesh::getVertexNormal");
-    return readVertexNormal(*this, vertexId, false, normal, space);
-}
-
-MStatus MFnMesh::getVertexNormal(int vertexId, bool angleWeighted, MVector& normal, MSpace::Space space) const
-{
-    TVX_API_CALL("MFnMesh::getVertexNormal");
-    return readVertexNormal(*this, vertexId, angleWeighted, normal, space);
-}
-
-MStatus MFnMesh::getVertexNormals(bool angleWeighted, MFloatVectorArray& normals, MSpace::Space space) const
-{
-    TVX_API_CALL("MFnMesh::getVertexNormals");
-    return withPlacedMesh(*this, space, [&](const MeshData& mesh, const engine::Matrix& matrix) -> MStatus {
-        giveNormals(normals, engine::vertexNormals(mesh, angleWeighted), matrix);
-        return MS::kSuccess;
-    });
-}
-
-MStatus MFnMesh::getPolygonNormal(int polygonId, MVector& normal, MSpace::Space space) const
-{
-    TVX_API_CALL("MFnMesh::getPolygonNormal");
-    return withPlacedMesh(*this, space, [&](const MeshData& mesh, const engine::Matrix& matrix) {
-        const MStatus status = requireThere(mesh.hasFace(polygonId));
-        if (status)
-            normal = api::toVector(
-                api::placedNormal(engine::faceNormal(mesh, static_cast<std::size_t>(polygonId)), matrix));
-        return status;
-    });
-}
-
-bool MFnMesh::isNormalLocked(int normalId, MStatus* ReturnStatus) const
-{
-    TVX_API_CALL_OR("MFnMesh::isNormalLocked", ReturnStatus, false);
-    api::give(ReturnStatus, withMesh(*this, [&](const MeshData& mesh) {
-                  const auto count = static_cast<int>(mesh.normals().normals.size());
-                  return requireThere(normalId >= 0 && normalId < count);
-              }));
-    return false;
-}
-
-MStatus MFnMesh::unlockVertexNormals(MIntArray&)
-{
-    TVX_API_CALL("MFnMesh::unlockVertexNormals");
-    return targetOf(*this).status();
-}
-
-MStatus MFnMesh::unlockFaceVertexNormals(MIntArray&, MIntArray&)
-{
-    TVX_API_CALL("MFnMesh::unlockFaceVertexNormals");
-    return targetOf(*this).status();
 }
 
 bool MFnMesh::isPolygonConvex(int faceIndex, MStatus* ReturnStatus) const

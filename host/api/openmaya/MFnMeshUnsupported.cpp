@@ -4,8 +4,6 @@
 #include "support/apiCall.h"
 #include "support/notImplemented.h"
 
-#include <maya/MUintArray.h>
-
 using tvxhost::api::notImplemented;
 
 MObject MFnMesh::generateSmoothMesh(MObject, MMeshSmoothOptions*, MStatus* ReturnStatus)
@@ -139,55 +137,6 @@ MStatus MFnMesh::booleanOps(BoolOperation, const MObjectArray&, bool)
     return notImplemented("MFnMesh::booleanOps");
 }
 
-const float* MFnMesh::getRawNormals(MStatus* ReturnStatus) const
-{
-    TVX_API_CALL_OR("MFnMesh::getRawNormals", ReturnStatus, nullptr);
-    notImplemented("MFnMesh::getRawNormals", ReturnStatus);
-    return nullptr;
-}
-
-MStatus MFnMesh::setNormals(MFloatVectorArray&, MSpace::Space)
-{
-    TVX_API_CALL("MFnMesh::setNormals");
-    return notImplemented("MFnMesh::setNormals");
-}
-
-MStatus MFnMesh::setFaceVertexNormal(MVector&, int, int, MSpace::Space, MDGModifier*)
-{
-    TVX_API_CALL("MFnMesh::setFaceVertexNormal");
-    return notImplemented("MFnMesh::setFaceVertexNormal");
-}
-
-MStatus MFnMesh::setVertexNormal(MVector&, int, MSpace::Space, MDGModifier*)
-{
-    TVX_API_CALL("MFnMesh::setVertexNormal");
-    return notImplemented("MFnMesh::setVertexNormal");
-}
-
-MStatus MFnMesh::setFaceVertexNormals(MVectorArray&, MIntArray&, MIntArray&, MSpace::Space)
-{
-    TVX_API_CALL("MFnMesh::setFaceVertexNormals");
-    return notImplemented("MFnMesh::setFaceVertexNormals");
-}
-
-MStatus MFnMesh::setVertexNormals(MVectorArray&, MIntArray&, MSpace::Space)
-{
-    TVX_API_CALL("MFnMesh::setVertexNormals");
-    return notImplemented("MFnMesh::setVertexNormals");
-}
-
-MStatus MFnMesh::lockVertexNormals(MIntArray&)
-{
-    TVX_API_CALL("MFnMesh::lockVertexNormals");
-    return notImplemented("MFnMesh::lockVertexNormals");
-}
-
-MStatus MFnMesh::lockFaceVertexNormals(MIntArray&, MIntArray&)
-{
-    TVX_API_CALL("MFnMesh::lockFaceVertexNormals");
-    return notImplemented("MFnMesh::lockFaceVertexNormals");
-}
-
 int MFnMesh::getTangentId(int, int, MStatus* ReturnStatus) const
 {
     TVX_API_CALL_OR("MFnMesh::getTangentId", ReturnStatus, 0);
@@ -236,43 +185,6 @@ bool MFnMesh::isRightHandedTangent(int, const MString*, MStatus* ReturnStatus) c
     TVX_API_CALL_OR("MFnMesh::isRightHandedTangent", ReturnStatus, false);
     notImplemented("MFnMesh::isRightHandedTangent", ReturnStatus);
     return false;
-}
-
-MStatus MFnMesh::getCreaseEdges(MUintArray&, MDoubleArray&) const
-{
-    TVX_API_CALL("MFnMesh::getCreaseEdges");
-    return notImplemented("MFnMesh::getCreaseEdges");
-}
-
-MStatus MFnMesh::setCreaseEdges(const MUintArray&, const MDoubleArray&)
-{
-    TVX_API_CALL("MFnMesh::setCreaseEdges");
-    return notImplemented("MFnMesh::setCreaseEdges");
-}
-
-MUintArray MFnMesh::getInvisibleFaces(MStatus* ReturnStatus) const
-{
-    TVX_API_CALL_OR("MFnMesh::getInvisibleFaces", ReturnStatus, MUintArray());
-    notImplemented("MFnMesh::getInvisibleFaces", ReturnStatus);
-    return MUintArray();
-}
-
-MStatus MFnMesh::setInvisibleFaces(const MUintArray&, bool)
-{
-    TVX_API_CALL("MFnMesh::setInvisibleFaces");
-    return notImplemented("MFnMesh::setInvisibleFaces");
-}
-
-MStatus MFnMesh::getCreaseVertices(MUintArray&, MDoubleArray&) const
-{
-    TVX_API_CALL("MFnMesh::getCreaseVertices");
-    return notImplemented("MFnMesh::getCreaseVertices");
-}
-
-MStatus MFnMesh::setCreaseVertices(const MUintArray&, const MDoubleArray&)
-{
-    TVX_API_CALL("MFnMesh::setCreaseVertices");
-    return notImplemented("MFnMesh::setCreaseVertices");
 }
 
 MStatus MFnMesh::polyTriangulate(const float*, unsigned int, unsigned int, unsigned int, bool, const float*,

@@ -118,6 +118,18 @@ MStatus MeshTarget::smooth(int edge, bool smooth) const
     return MS::kSuccess;
 }
 
+MStatus MeshTarget::editNormals(const engine::NormalEdit& edit) const
+{
+    engine::MeshData* changed = mesh();
+    if (!changed)
+        return status();
+    if (m_shape)
+        return toStatus(engine::editNormals(*m_shape->asDag(), edit));
+    edit(*changed);
+    changed->forgetDerived();
+    return MS::kSuccess;
+}
+
 MStatus MeshTarget::editSets(const engine::SetEdit& edit) const
 {
     engine::MeshData* changed = mesh();
@@ -134,6 +146,13 @@ engine::Vec3d placedNormal(const engine::Vec3d& normal, const engine::Matrix& ma
     engine::Vec3d placed;
     matrix.inverse().transposed().multDirMatrix(normal, placed);
     return placed.normalized();
+}
+
+engine::Vec3d takenNormal(const engine::Vec3d& placed, const engine::Matrix& matrix)
+{
+    engine::Vec3d normal;
+    matrix.transposed().multDirMatrix(placed, normal);
+    return normal.normalized();
 }
 
 } // namespace tvxhost::api

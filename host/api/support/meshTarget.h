@@ -40,6 +40,8 @@ public:
     /// Moves points that are given in object space; see engine::movePoints.
     MStatus move(const engine::MovedPoints& points) const;
     MStatus smooth(int edge, bool smooth) const;
+    /// Changes the normals that are set; see engine::editNormals.
+    MStatus editNormals(const engine::NormalEdit& edit) const;
     /// Changes texture coordinates and colours; see engine::editSets.
     MStatus editSets(const engine::SetEdit& edit) const;
 
@@ -67,5 +69,7 @@ inline engine::Vec3d toImath(const MPoint& p)
 
 /// A normal of object space where the points are moved by a matrix; of length one.
 engine::Vec3d placedNormal(const engine::Vec3d& normal, const engine::Matrix& matrix);
+/// The normal of object space that becomes this one there; of length one, or zero for a zero normal.
+engine::Vec3d takenNormal(const engine::Vec3d& placed, const engine::Matrix& matrix);
 
 } // namespace tvxhost::api

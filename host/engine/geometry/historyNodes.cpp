@@ -4,6 +4,7 @@
 #include "../scene.h"
 #include "../values.h"
 #include "meshData.h"
+#include "meshNormals.h"
 
 #include <algorithm>
 
@@ -27,6 +28,7 @@ void transformPoints(Node& node, MeshData& mesh)
         matrix.invert();
     for (Vec3f& point : mesh.points)
         point = Vec3f(Vec3d(point) * matrix);
+    turnLockedNormals(mesh, matrix);
 }
 
 void tweakPoints(Node& node, MeshData& mesh)

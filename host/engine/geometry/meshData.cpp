@@ -29,6 +29,7 @@ void MeshData::assign(const MeshData& other)
     points = other.points;
     edges = other.edges;
     faces = other.faces;
+    lockedNormals = other.lockedNormals;
     uvSets = other.uvSets;
     colorSets = other.colorSets;
     currentUvSet = other.currentUvSet;

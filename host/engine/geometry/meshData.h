@@ -33,6 +33,9 @@ public:
     std::vector<Vec3f> points; ///< centimetres, object space
     std::vector<Edge> edges;
     FaceTable faces;
+    /// The normals that were set, by corner (see FaceTable::firstCorner), of length one; kNoNormal in all three
+    /// numbers where none was. Empty when there are none.
+    std::vector<Vec3f> lockedNormals;
     std::vector<UvSet> uvSets; ///< at least one
     std::vector<ColorSet> colorSets;
     /// The names of the sets that are meant when none is named, where no shape says it; none of them: the

@@ -6,6 +6,8 @@
 
 #include <algorithm>
 #include <cmath>
+#include <map>
+#include <tuple>
 #include <utility>
 
 namespace tvxhost::engine {
@@ -130,6 +132,7 @@ public:
             }
             result.used.push_back(number);
         }
+        result.locked.assign(result.normals.size(), false);
         return result;
     }
 
@@ -188,9 +191,45 @@ std::vector<Vec3d> vertexNormals(const MeshData& mesh, bool angleWeighted)
     return sums;
 }
 
-NormalTable normalsOf(const MeshData& mesh)
+NormalTable computedNormals(const MeshData& mesh)
 {
     return GroupNormals(mesh).table();
+}
+
+NormalTable normalsOf(const MeshData& mesh)
+{
+    const NormalTable computed = computedNormals(mesh);
+    if (mesh.lockedNormals.empty())
+        return computed;
+    NormalTable result;
+    // A group, whether its normal was set, and what it is.
+    std::map<std::tuple<std::int32_t, bool, float, float, float>, std::int32_t> numbers;
+    for (std::size_t corner = 0; corner < computed.used.size(); ++corner) {
+        const bool locked = isLocked(mesh, corner);
+        const std::int32_t group = computed.used[corner];
+        const Vec3f& normal =
+            locked ? mesh.lockedNormals[corner] : computed.normals[static_cast<std::size_t>(group)];
+        const auto number = static_cast<std::int32_t>(result.normals.size());
+        const auto [known, isNew] =
+            numbers.emplace(std::tuple(group, locked, normal.x, normal.y, normal.z), number);
+        if (isNew) {
+            result.normals.push_back(normal);
+            result.locked.push_back(locked);
+        }
+        result.used.push_back(known->second);
+    }
+    return result;
+}
+
+void turnLockedNormals(MeshData& mesh, const Matrix& matrix)
+{
+    const Matrix turn = matrix.inverse().transposed();
+    for (Vec3f& normal : mesh.lockedNormals) {
+        Vec3d turned;
+        turn.multDirMatrix(Vec3d(normal), turned);
+        if (isSetNormal(normal))
+            normal = Vec3f(turned.normalized());
+    }
 }
 
 } // namespace tvxhost::engine

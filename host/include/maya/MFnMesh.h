@@ -42,7 +42,7 @@ class MVectorArray;
 /// be moved on any mesh: by tweaks where it has history, for good where it has none; everything else that
 /// changes a mesh needs one without history.
 ///
-/// Texture coordinates, colours, tangents, creases, blind data and the operations of modelling are not done:
+/// Texture coordinates, colours, tangents, blind data and the operations of modelling are not done:
 /// kNotImplemented, said once.
 class OPENMAYA_EXPORT MFnMesh : public MFnDagNode
 {
@@ -122,7 +122,7 @@ public:
     MStatus syncObject();
 
     /// The coordinates of all points as they lie in memory, three each, in object space. Valid until the mesh
-    /// changes. Those of the normals: kNotImplemented.
+    /// changes. The numbers of the normals of getNormals in the same way.
     const float* getRawPoints(MStatus*) const;
     const float* getRawNormals(MStatus*) const;
 
@@ -140,7 +140,8 @@ public:
     MStatus getVertices(MIntArray& vertexCount, MIntArray& vertexList) const;
     MStatus getPolygonVertices(int polygonId, MIntArray& vertexList) const;
 
-    /// One normal for each group of faces that smooth edges join at a vertex.
+    /// One normal for each group of faces that smooth edges join at a vertex, the mean of theirs, and one for
+    /// each different one that was set there.
     MStatus getNormals(MFloatVectorArray& normals, MSpace::Space space = MSpace::kObject) const;
 
     /// The normal that a face has at one of its vertices, or at all corners.
@@ -165,8 +166,12 @@ public:
     /// The normal of a face.
     MStatus getPolygonNormal(int polygonId, MVector& normal, MSpace::Space space = MSpace::kObject) const;
 
-    /// Normals that are set and locked. There are none: never locked, nothing to unlock; to set and lock them
-    /// is not done.
+    /// Normals that are set, of any length but 0, are locked: they stay when points move, and are saved. Set
+    /// are all that getNormals gives, in its order; those that all faces have at vertices; or those that
+    /// faces have at one of their vertices. To lock some sets them to what they are, to unlock them has them
+    /// computed again. kInvalidParameter, and nothing changed, for vertices or faces that there are not and
+    /// for lists of different lengths; kFailure where history makes the mesh. What a modifier is given is
+    /// done at once and is the modifier's to take back.
     bool isNormalLocked(int normalId, MStatus* ReturnStatus = nullptr) const;
     MStatus unlockVertexNormals(MIntArray& vertexList);
     MStatus unlockFaceVertexNormals(MIntArray& faceList, MIntArray& vertexList);
@@ -241,12 +246,15 @@ public:
     MStatus booleanOp(BoolOperation op, MFnMesh& mesh1, MFnMesh& mesh2);
     MStatus booleanOps(BoolOperation op, const MObjectArray& meshes, bool useLegacy = false);
 
-    /// Smooth preview.
+    /// Smooth preview. The smoothed mesh and how it is shown are not done: kNotImplemented.
     MObject generateSmoothMesh(MObject parentOrOwner = MObject::kNullObj,
                                MMeshSmoothOptions* options = nullptr, MStatus* ReturnStatus = nullptr);
     MObject generateSmoothMesh(MObject parentOrOwner, MStatus* ReturnStatus);
     MStatus getSmoothMeshDisplayOptions(MMeshSmoothOptions& options) const;
     MStatus setSmoothMeshDisplayOptions(const MMeshSmoothOptions& options);
+    /// How sharp edges and vertices are for it, by ascending number, and the faces that are not seen in it.
+    /// They are kept in attributes of the shape, and what is set is said of these components only; a mesh
+    /// that is data has none: kInvalidParameter, as for components that there are not.
     MStatus getCreaseEdges(MUintArray& edgeIds, MDoubleArray& creaseData) const;
     MStatus setCreaseEdges(const MUintArray& edgeIds, const MDoubleArray& creaseData);
     MStatus getCreaseVertices(MUintArray& vertexIds, MDoubleArray& creaseData) const;
@@ -257,8 +265,8 @@ public:
     /// Triangles: a face is split into as many as it has corners, and two more for each hole, less two, and
     /// they run as the face does; that is so in Maya. Convex faces, quads among them, are fans around their
     /// first corner (0 1 2, 0 2 3, …); ears are cut off others. Maya may choose other diagonals. How many
-    /// triangles each face has and, three for each triangle, the vertices; or the places of the corners in the
-    /// list of getVertices. kInvalidParameter for a triangle that there is not.
+    /// triangles each face has and, three for each triangle, the vertices; or the places of the corners in
+    /// the list of getVertices. kInvalidParameter for a triangle that there is not.
     MStatus getTriangles(MIntArray& triangleCounts, MIntArray& triangleVertices) const;
     MStatus getTriangleOffsets(MIntArray& triangleCounts, MIntArray& triangleIndices) const;
     MStatus getPolygonTriangleVertices(int polygonId, int triangleId, int triangleVertices[3]) const;
@@ -274,14 +282,14 @@ public:
     /// Where a ray, the points raySource + t * rayDirection in a space, meets the triangles of the mesh, from
     /// either side. Hits with t from 0 to maxParam count, from -maxParam with testBothDirections. Only the
     /// faces of `faceIds` are looked at, if there is such an array, and with `triIds`, which then is as long,
-    /// only these triangles of them (numbers among those of the face); they need not be sorted. `tolerance` is
-    /// how far beyond its edges a triangle is met, as a part of its size. The closest hit has t nearest to 0,
-    /// and any hit is that one, too. Told are, unless null: t, the face, the triangle among those of the face,
-    /// and the weights of the triangle's first two corners (that of the third is what lacks to 1). All hits
-    /// come by ascending t, or unsorted by ascending face; one through an edge is a hit of the faces on both
-    /// sides. Returns whether there is a hit; without one nothing is told, and arrays are empty. Accelerators
-    /// make no difference: a mesh always keeps a tree of its triangles. kInvalidParameter for a direction of
-    /// length 0 and for triangles without faces.
+    /// only these triangles of them (numbers among those of the face); they need not be sorted. `tolerance`
+    /// is how far beyond its edges a triangle is met, as a part of its size. The closest hit has t nearest to
+    /// 0, and any hit is that one, too. Told are, unless null: t, the face, the triangle among those of the
+    /// face, and the weights of the triangle's first two corners (that of the third is what lacks to 1). All
+    /// hits come by ascending t, or unsorted by ascending face; one through an edge is a hit of the faces on
+    /// both sides. Returns whether there is a hit; without one nothing is told, and arrays are empty.
+    /// Accelerators make no difference: a mesh always keeps a tree of its triangles. kInvalidParameter for a
+    /// direction of length 0 and for triangles without faces.
     bool closestIntersection(const MFloatPoint& raySource, const MFloatVector& rayDirection,
                              const MIntArray* faceIds, const MIntArray* triIds, bool idsSorted,
                              MSpace::Space space, float maxParam, bool testBothDirections,
@@ -310,8 +318,8 @@ public:
     MString cachedIntersectionAcceleratorInfo(MStatus* ReturnStatus = nullptr);
     static MString globalIntersectionAcceleratorsInfo();
     static void clearGlobalIntersectionAcceleratorInfo();
-    /// All hits of a ray in one direction, from near to far, with their faces; those without a space in object
-    /// space.
+    /// All hits of a ray in one direction, from near to far, with their faces; those without a space in
+    /// object space.
     bool intersect(const MPoint& raySource, const MVector& rayDirection, MPointArray& points,
                    double tolerance = kMFnMeshPointTolerance, MSpace::Space space = MSpace::kObject,
                    MIntArray* polygonIds = nullptr, MStatus* ReturnStatus = nullptr) const;
@@ -320,8 +328,8 @@ public:
     bool intersect(const MPoint& raySource, const MVector& rayDirection, MPointArray& points,
                    MStatus* ReturnStatus = nullptr) const;
     /// The point of the mesh that is nearest to a point in a space, the normal there, and the face, unless it
-    /// is null. The normal is the mean of those at the corners of the triangle, by how near they are. kFailure
-    /// for a mesh without faces.
+    /// is null. The normal is the mean of those at the corners of the triangle, by how near they are.
+    /// kFailure for a mesh without faces.
     MStatus getClosestPointAndNormal(const MPoint& toThisPoint, MPoint& theClosestPoint, MVector& theNormal,
                                      MSpace::Space space = MSpace::kObject, int* closestPolygon = nullptr,
                                      MMeshIsectAccelParams* accelParams = nullptr) const;
@@ -332,8 +340,8 @@ public:
                              MSpace::Space space = MSpace::kObject, int* closestPolygon = nullptr,
                              MMeshIsectAccelParams* accelerator = nullptr) const;
 
-    /// The shading groups of an instance, and for each face which of them it is in; -1 for none. A mesh that is
-    /// data has none: kInvalidParameter.
+    /// The shading groups of an instance, and for each face which of them it is in; -1 for none. A mesh that
+    /// is data has none: kInvalidParameter.
     MStatus getConnectedShaders(unsigned int instanceNumber, MObjectArray& shaders, MIntArray& indices) const;
 
     /// Tangents.
