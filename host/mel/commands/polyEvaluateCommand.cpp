@@ -2,11 +2,11 @@
 #include "commandSupport.h"
 #include "sceneCommands.h"
 
+#include "engine/geometry/shells.h"
 #include "engine/mesh.h"
 
 #include <Imath/ImathBox.h>
 
-#include <numeric>
 #include <optional>
 #include <tuple>
 
@@ -17,10 +17,11 @@ using engine::Vec3d;
 
 namespace {
 
-/// A mesh and where it stands.
+/// A mesh, the texture coordinates that are meant, and where it stands.
 struct Subject
 {
     const engine::MeshData& mesh;
+    const engine::UvSet& uvs;
     engine::Matrix toWorld;
 };
 
@@ -32,12 +33,13 @@ struct Measure
     const char* shortName;
     const char* longName;
     const char* help;
-    std::size_t (*count)(const engine::MeshData& mesh);
+    std::size_t (*count)(const Subject& subject);
 };
 
 /// A face with n corners is n - 2 triangles, each hole two more.
-std::size_t trianglesOf(const engine::MeshData& mesh)
+std::size_t trianglesOf(const Subject& subject)
 {
+    const engine::MeshData& mesh = subject.mesh;
     std::size_t count = 0;
     for (std::size_t face = 0; face < mesh.faces.size(); ++face)
         if (const std::size_t loops = mesh.faces.loopCount(face); loops > 0)
@@ -45,40 +47,17 @@ std::size_t trianglesOf(const engine::MeshData& mesh)
     return count;
 }
 
-/// The one vertex that stands for all that hang together with this one.
-std::int32_t rootOf(std::vector<std::int32_t>& above, std::int32_t vertex)
-{
-    while (above[static_cast<std::size_t>(vertex)] != vertex) {
-        std::int32_t& next = above[static_cast<std::size_t>(vertex)];
-        next = above[static_cast<std::size_t>(next)];
-        vertex = next;
-    }
-    return vertex;
-}
-
-/// Pieces that do not hang together.
-std::size_t shellsOf(const engine::MeshData& mesh)
-{
-    std::vector<std::int32_t> above(mesh.points.size());
-    std::iota(above.begin(), above.end(), 0);
-    std::size_t shells = mesh.points.size();
-    for (const engine::MeshData::Edge& edge : mesh.edges) {
-        const std::int32_t from = rootOf(above, edge.from);
-        const std::int32_t to = rootOf(above, edge.to);
-        if (from == to)
-            continue;
-        above[static_cast<std::size_t>(from)] = to;
-        --shells;
-    }
-    return shells;
-}
-
 constexpr Measure kMeasures[] = {
-    {"v", "vertex", "number of vertices", [](const engine::MeshData& mesh) { return mesh.points.size(); }},
-    {"e", "edge", "number of edges", [](const engine::MeshData& mesh) { return mesh.edges.size(); }},
-    {"f", "face", "number of faces", [](const engine::MeshData& mesh) { return mesh.faces.size(); }},
+    {"v", "vertex", "number of vertices", [](const Subject& subject) { return subject.mesh.points.size(); }},
+    {"e", "edge", "number of edges", [](const Subject& subject) { return subject.mesh.edges.size(); }},
+    {"f", "face", "number of faces", [](const Subject& subject) { return subject.mesh.faces.size(); }},
     {"t", "triangle", "number of triangles", trianglesOf},
-    {"s", "shell", "number of pieces that do not hang together", shellsOf},
+    {"s", "shell", "number of pieces that do not hang together",
+     [](const Subject& subject) { return engine::vertexShells(subject.mesh).count(); }},
+    {"uv", "uvcoord", "number of texture coordinates",
+     [](const Subject& subject) { return subject.uvs.values.size(); }},
+    {"us", "uvShell", "number of pieces of the texture that do not hang together",
+     [](const Subject& subject) { return engine::uvShells(subject.mesh, subject.uvs).count(); }},
 };
 
 /// What is told when nothing is asked.
@@ -116,6 +95,17 @@ Value::Numbers boxOf(const engine::MeshData& mesh)
     return {box.min.x, box.max.x, box.min.y, box.max.y, box.min.z, box.max.z};
 }
 
+/// All zero without texture coordinates.
+Value::Numbers textureBoxOf(const engine::UvSet& uvs)
+{
+    if (uvs.values.empty())
+        return {0, 0, 0, 0};
+    Imath::Box2d box;
+    for (const engine::Vec2f& uv : uvs.values)
+        box.extendBy(Imath::V2d(uv));
+    return {box.min.x, box.max.x, box.min.y, box.max.y};
+}
+
 struct Size
 {
     const char* shortName;
@@ -131,11 +121,25 @@ constexpr Size kSizes[] = {
      [](const Subject& subject) { return Value::Numbers{areaOf(subject.mesh, subject.toWorld)}; }},
     {"b", "boundingBox", "least and greatest x, y, z, as they were modelled",
      [](const Subject& subject) { return boxOf(subject.mesh); }},
+    {"b2", "boundingBox2d", "least and greatest u, v",
+     [](const Subject& subject) { return textureBoxOf(subject.uvs); }},
 };
 
 // The command
 
-std::optional<Subject> subjectOf(const engine::SelectionItem& item)
+/// The set of that name; empty: the current one.
+const engine::UvSet& uvSetOf(const CommandContext& context, DagNode& shape, const engine::MeshData& mesh,
+                             const std::string& name)
+{
+    const std::string wanted = name.empty() ? engine::currentUvSet(shape) : name;
+    const engine::UvSet* set = engine::findSet(mesh.uvSets, wanted);
+    if (!set)
+        require(context, {engine::Reason::notFound, "'" + shape.name() + "' has no UV set '" + wanted + "'"});
+    return *set;
+}
+
+std::optional<Subject> subjectOf(const CommandContext& context, const engine::SelectionItem& item,
+                                 const std::string& uvSet)
 {
     if (!item.isDag())
         return std::nullopt;
@@ -149,15 +153,15 @@ std::optional<Subject> subjectOf(const engine::SelectionItem& item)
     const engine::MeshData* mesh = engine::meshOf(*shape);
     if (!mesh)
         return std::nullopt;
-    return Subject{*mesh, item.path.inclusiveMatrix()};
+    return Subject{*mesh, uvSetOf(context, *shape, *mesh, uvSet), item.path.inclusiveMatrix()};
 }
 
-std::string describe(const engine::MeshData& mesh)
+std::string describe(const Subject& subject)
 {
     std::string text;
     for (std::size_t i = 0; i < kUsualMeasures; ++i)
         text += (text.empty() ? "" : " ") + std::string(kMeasures[i].longName) + "=" +
-                std::to_string(kMeasures[i].count(mesh));
+                std::to_string(kMeasures[i].count(subject));
     return text;
 }
 
@@ -178,7 +182,7 @@ void measure(const Subject& subject, const std::string& flag, Answer& answer)
 {
     for (const Measure& row : kMeasures)
         if (flag == row.longName)
-            answer.numbers.push_back(static_cast<double>(row.count(subject.mesh)));
+            answer.numbers.push_back(static_cast<double>(row.count(subject)));
     for (const Size& row : kSizes)
         if (flag == row.longName) {
             const auto numbers = row.numbers(subject);
@@ -190,18 +194,19 @@ void measure(const Subject& subject, const std::string& flag, Answer& answer)
 Value polyEvaluate(CommandContext& context, const ParsedCommand& call)
 {
     Answer answer;
+    const std::string uvSet = call.string("uvSetName");
     std::string text;
     for (const engine::SelectionItem& item : itemsOrSelection(context, call.names())) {
-        const std::optional<Subject> subject = subjectOf(item);
+        const std::optional<Subject> subject = subjectOf(context, item, uvSet);
         if (!subject)
             continue;
-        text += (text.empty() ? "" : " ") + describe(subject->mesh);
+        text += (text.empty() ? "" : " ") + describe(*subject);
         for (const FlagUse& use : call.flags)
             measure(*subject, use.flag->longName, answer);
     }
     if (text.empty())
         return Value("Nothing counted : no polygonal object is selected.");
-    if (call.flags.empty())
+    if (answer.numbers.empty())
         return Value(text);
     return answer.isWhole ? oneOrAll(Value::Integers(answer.numbers.begin(), answer.numbers.end()))
                           : oneOrAll(std::move(answer.numbers));
@@ -216,28 +221,19 @@ void registerPolyEvaluateCommands(CommandTable& table)
         flags.push_back(switchFlag(measure.shortName, measure.longName, measure.help));
     for (const Size& size : kSizes)
         flags.push_back(switchFlag(size.shortName, size.longName, size.help));
-    const char* const noTextures = "the host keeps no texture coordinates of history";
+    flags.push_back(valueFlag("uvs", "uvSetName", ArgumentType::string,
+                              "the set of texture coordinates (the current one when it is not given)"));
+    const char* const noTextures = "of texture coordinates there are counts and boxes only";
     const char* const noComponents = "components are counted by what is selected of them: use ls -flatten";
     for (const auto& [shortName, longName, why] :
-         {std::tuple("uv", "uvcoord", noTextures),
-          std::tuple("uvc", "uvComponent", noTextures),
-          std::tuple("b2", "boundingBox2d", noTextures),
-          std::tuple("us", "uvShell", noTextures),
-          std::tuple("vc", "vertexComponent", noComponents),
-          std::tuple("ec", "edgeComponent", noComponents),
-          std::tuple("fc", "faceComponent", noComponents),
+         {std::tuple("uvc", "uvComponent", noTextures), std::tuple("vc", "vertexComponent", noComponents),
+          std::tuple("ec", "edgeComponent", noComponents), std::tuple("fc", "faceComponent", noComponents),
           std::tuple("tc", "triangleComponent", noComponents),
-          std::tuple("bc", "boundingBoxComponent", noComponents),
-          std::tuple("fa", "faceArea", noComponents),
-          std::tuple("wfa", "worldFaceArea", noComponents),
-          std::tuple("as", "activeShells", noComponents),
-          std::tuple("bc2", "boundingBoxComponent2d", noTextures),
-          std::tuple("uva", "uvArea", noTextures),
-          std::tuple("ufa", "uvFaceArea", noTextures),
-          std::tuple("uep", "uvEdgePairs", noTextures),
-          std::tuple("uvs", "uvSetName", noTextures),
-          std::tuple("usi", "uvShellIds", noTextures),
-          std::tuple("uis", "uvsInShell", noTextures),
+          std::tuple("bc", "boundingBoxComponent", noComponents), std::tuple("fa", "faceArea", noComponents),
+          std::tuple("wfa", "worldFaceArea", noComponents), std::tuple("as", "activeShells", noComponents),
+          std::tuple("bc2", "boundingBoxComponent2d", noTextures), std::tuple("uva", "uvArea", noTextures),
+          std::tuple("ufa", "uvFaceArea", noTextures), std::tuple("uep", "uvEdgePairs", noTextures),
+          std::tuple("usi", "uvShellIds", noTextures), std::tuple("uis", "uvsInShell", noTextures),
           std::tuple("aus", "activeUVShells", noTextures),
           std::tuple("ds", "displayStats", "nothing is shown above the view")})
         flags.push_back(refusedFlag(shortName, longName, why));

@@ -139,7 +139,9 @@ TEST_F(PolygonCommandsTest, WhatIsSavedIsTheHistoryOrElseTheGeometry)
     const std::string text = saved();
     EXPECT_THAT(text, HasSubstr("\tsetAttr -s 4 \".vt[0:3]\"  -0.5 0 0.5 0.5 0 0.5 -0.5 0 -0.5 0.5 0 -0.5;\n"
                                 "\tsetAttr -s 4 \".ed[0:3]\"  0 1 0 0 2 0 1 3 0 2 3 0;\n"));
-    EXPECT_THAT(text, HasSubstr("f 4 0 2 -4 -2;"));
+    EXPECT_THAT(text, HasSubstr("\tsetAttr \".uvst[0].uvsn\" -type \"string\" \"map1\";\n"
+                                "\tsetAttr -s 4 \".uvst[0].uvsp[0:3]\" -type \"float2\" 0 0 1 0 0 1 1 1;\n"));
+    EXPECT_THAT(text, HasSubstr("f 4 0 2 -4 -2\n\t\tmu 0 4 0 1 3 2;"));
     EXPECT_EQ(saved(), text);
     EXPECT_EQ(run("polyEvaluate -f pPlane1"), "1");
 }
@@ -150,6 +152,18 @@ TEST_F(PolygonCommandsTest, PolyEvaluateCountsWhatIsAskedFor)
     EXPECT_EQ(run("polyEvaluate -e"), "7") << "of what is selected";
     EXPECT_EQ(run("polyEvaluate -vertex -face pCubeShape1 pPlane1"), "8 6 6 2");
     EXPECT_EQ(run("polyEvaluate -v persp"), "Nothing counted : no polygonal object is selected.");
+}
+
+TEST_F(PolygonCommandsTest, PolyEvaluateCountsTextureCoordinates)
+{
+    run("polyCube -cuv 4; polyPlane -sx 2 -sy 1; polyCylinder");
+    EXPECT_EQ(run("polyEvaluate -uvcoord -uvShell pCube1"), "14 1");
+    EXPECT_EQ(run("polyEvaluate -uv pPlane1 pCylinder1"), "6 0");
+    EXPECT_THAT(numbers("polyEvaluate -boundingBox2d pCube1"), ElementsAre(0.125, 0.875, 0, 1));
+    EXPECT_THAT(numbers("polyEvaluate -b2 pCylinder1"), ElementsAre(0, 0, 0, 0));
+    EXPECT_EQ(run("polyEvaluate -uvSetName \"map1\" -uv pPlane1"), "6");
+    EXPECT_EQ(run("polyEvaluate -uvSetName \"map1\" pPlane1"), "vertex=6 edge=7 face=2 triangle=4");
+    EXPECT_EQ(failure("polyEvaluate -uvs \"none\" -uv pPlane1"), "'pPlaneShape1' has no UV set 'none'");
 }
 
 TEST_F(PolygonCommandsTest, RoundCapsAreNotDoneAndSaySo)
