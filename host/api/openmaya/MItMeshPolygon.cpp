@@ -1,5 +1,5 @@
-// MItMeshPolygon: goes through the faces of a mesh. Texture coordinates, colours and the like are in
-// MItMeshPolygonUnsupported.cpp.
+// MItMeshPolygon: goes through the faces of a mesh. Texture coordinates and colours are in
+// MItMeshPolygonUvs.cpp and MItMeshPolygonColors.cpp.
 #include <maya/MItMeshPolygon.h>
 
 #include "engine/geometry/meshMeasures.h"

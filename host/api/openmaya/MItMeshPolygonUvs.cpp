@@ -1,6 +1,7 @@
 // MItMeshPolygon: the texture coordinates of a face.
 #include <maya/MItMeshPolygon.h>
 
+#include "engine/geometry/uvPlaces.h"
 #include "support/meshCorners.h"
 #include "support/meshIteration.h"
 #include "support/meshSets.h"
@@ -230,6 +231,26 @@ bool MItMeshPolygon::zeroUVArea(const MString& uvSet, MStatus* ReturnStatus)
 {
     TVX_API_CALL_OR("MItMeshPolygon::zeroUVArea", ReturnStatus, false);
     return hasNoArea(*iteration, &uvSet, ReturnStatus);
+}
+
+MStatus MItMeshPolygon::getPointAtUV(MPoint& pt, float2& uvPoint, MSpace::Space space, const MString* uvSet,
+                                     float tolerance)
+{
+    TVX_API_CALL("MItMeshPolygon::getPointAtUV");
+    return api::withPlacedItem(
+        *iteration, space, [&](const MeshData&, std::int32_t face, const engine::Matrix& matrix) {
+            return api::tellPointAtUv(iteration->target, face, pt, uvPoint, matrix, uvSet, tolerance);
+        });
+}
+
+MStatus MItMeshPolygon::getUVAtPoint(MPoint& pt, float2& uvPoint, MSpace::Space space, const MString* uvSet)
+{
+    TVX_API_CALL("MItMeshPolygon::getUVAtPoint");
+    return api::withPlacedItem(
+        *iteration, space, [&](const MeshData& mesh, std::int32_t face, const engine::Matrix& matrix) {
+            return api::tellUvAt(iteration->target,
+                                 engine::nearestOnFace(mesh, face, api::toImath(pt), matrix), uvPoint, uvSet);
+        });
 }
 
 bool MItMeshPolygon::getUVSetIndex(const MString* uvSetName, int& uvSet) const

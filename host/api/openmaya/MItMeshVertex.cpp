@@ -1,5 +1,5 @@
 // MItMeshVertex: goes through the vertices of a mesh. Texture coordinates and colours are in
-// MItMeshVertexUnsupported.cpp.
+// MItMeshVertexUvs.cpp and MItMeshVertexColors.cpp.
 #include <maya/MItMeshVertex.h>
 
 #include "engine/geometry/meshNormals.h"

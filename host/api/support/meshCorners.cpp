@@ -49,4 +49,12 @@ std::vector<FaceCorner> cornersOfVertex(const MeshData& mesh, std::int32_t verte
     return corners;
 }
 
+std::vector<std::size_t> placesAtVertex(const MeshData& mesh, std::int32_t vertex)
+{
+    std::vector<std::size_t> places;
+    for (const FaceCorner& corner : cornersOfVertex(mesh, vertex))
+        places.push_back(corner.corner);
+    return places;
+}
+
 } // namespace tvxhost::api

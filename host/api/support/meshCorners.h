@@ -24,5 +24,7 @@ std::optional<std::size_t> cornerAtVertex(const engine::MeshData& mesh, std::int
 std::vector<std::size_t> cornersOfFace(const engine::MeshData& mesh, std::int32_t face);
 /// One corner for each face at a vertex, by ascending face.
 std::vector<FaceCorner> cornersOfVertex(const engine::MeshData& mesh, std::int32_t vertex);
+/// Their places alone.
+std::vector<std::size_t> placesAtVertex(const engine::MeshData& mesh, std::int32_t vertex);
 
 } // namespace tvxhost::api

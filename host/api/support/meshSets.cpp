@@ -1,6 +1,7 @@
 // Sets of texture coordinates and of colours: see meshSets.h.
 #include "meshSets.h"
 
+#include "engine/geometry/uvPlaces.h"
 #include "meshCorners.h"
 
 #include <maya/MFloatArray.h>
@@ -23,6 +24,34 @@ bool isMapped(const engine::MeshData& mesh, const engine::UvSet& set, std::int32
     return !corners.empty() && std::all_of(corners.begin(), corners.end(), [&set](std::size_t corner) {
         return set.at(corner) != engine::kUnmapped;
     });
+}
+
+MStatus tellPointAtUv(const MeshTarget& target, std::int32_t face, MPoint& point, const float2& uv,
+                      const engine::Matrix& matrix, const MString* set, double tolerance)
+{
+    return withSet<UvKind>(
+        target, set, [&](const engine::MeshData& mesh, const engine::UvSet& uvs) -> MStatus {
+            const auto place =
+                engine::placeAt(mesh, uvs, face, engine::Vec2f(uv[0], uv[1]), tolerance, matrix);
+            if (!place)
+                return failure(StatusText::unexpectedFailure);
+            point = toPoint(place->point);
+            return MS::kSuccess;
+        });
+}
+
+MStatus tellUvAt(const MeshTarget& target, const std::optional<engine::SurfacePoint>& place, float2& uv,
+                 const MString* set)
+{
+    return withSet<UvKind>(target, set,
+                           [&](const engine::MeshData& mesh, const engine::UvSet& uvs) -> MStatus {
+                               const auto found = place ? engine::uvAt(mesh, uvs, *place) : std::nullopt;
+                               if (!found)
+                                   return failure(StatusText::unexpectedFailure);
+                               uv[0] = found->x;
+                               uv[1] = found->y;
+                               return MS::kSuccess;
+                           });
 }
 
 void giveFaceSetNames(const engine::MeshData& mesh, std::int32_t face, MStringArray& names)

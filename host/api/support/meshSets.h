@@ -5,11 +5,13 @@
 #include "meshTarget.h"
 #include "modifier.h"
 
+#include "engine/geometry/triangleTree.h"
 #include "engine/nameTable.h"
 #include "engine/plug.h"
 
 #include <maya/MStringArray.h>
 
+#include <optional>
 #include <string>
 #include <utility>
 #include <vector>
@@ -73,6 +75,16 @@ MStatus withSet(const MeshTarget& target, const MString* name, const Use& use)
         return target.status();
     const auto* set = findSet<Kind>(target, *mesh, name);
     return set ? use(*mesh, *set) : failure(StatusText::itemNotFound);
+}
+
+/// The same for reading: where a mesh has no sets, the current one is one without values.
+template <class Kind, class Use>
+MStatus readSet(const MeshTarget& target, const MString* name, const Use& use)
+{
+    const engine::MeshData* mesh = target.mesh();
+    if (mesh && !name && (mesh->*Kind::sets).empty())
+        return use(*mesh, typename Kind::Set());
+    return withSet<Kind>(target, name, use);
 }
 
 /// Changes a set by `change(mesh, set)` unless `check(mesh, set)` returns a failure.
@@ -170,6 +182,14 @@ MStatus giveSetNames(const MeshTarget& target, MStringArray& names)
 std::vector<engine::Vec2f> uvPairs(const MFloatArray& u, const MFloatArray& v);
 /// Whether all corners of a face have a texture coordinate.
 bool isMapped(const engine::MeshData& mesh, const engine::UvSet& set, std::int32_t face);
+/// Tells the point of a face, moved by a matrix, that has a texture coordinate; see engine::placeAt. kFailure
+/// when the face has none.
+MStatus tellPointAtUv(const MeshTarget& target, std::int32_t face, MPoint& point, const float2& uv,
+                      const engine::Matrix& matrix, const MString* set, double tolerance);
+/// Tells the texture coordinate at a place. kFailure where there is none, and without a place.
+MStatus tellUvAt(const MeshTarget& target, const std::optional<engine::SurfacePoint>& place, float2& uv,
+                 const MString* set);
+
 /// The sets that map a face.
 void giveFaceSetNames(const engine::MeshData& mesh, std::int32_t face, MStringArray& names);
 

@@ -364,7 +364,19 @@ public:
     bool isRightHandedTangent(int tangentId, const MString* uvSetName = nullptr,
                               MStatus* ReturnStatus = nullptr) const;
 
-    /// Texture coordinates.
+    /// Texture coordinates: lists of (u, v) by number in sets by name, and for each corner of a face the
+    /// number that it has, or none. Every mesh has a set "map1", the first one, which cannot be deleted.
+    /// Without a name the current set is meant; a name that no set has, or a number that is not there, is
+    /// kInvalidParameter. A corner without a coordinate is kFailure. What history makes cannot be changed
+    /// (kFailure), but for which set is current. New sets are empty; a name that is taken gets another number
+    /// behind it, and is returned or written to the argument. With a modifier a change is made at once, and
+    /// the modifier's to take back. There are no sets of single instances: asking for one is kNotImplemented.
+    ///
+    /// setUVs takes at least as many as there are; setUV and setSomeUVs make the list longer where a number
+    /// is behind its end. assignUVs gives the numbers of all faces, for each as many as it has corners or
+    /// none. getUvShellsIds numbers what hangs together by faces, by the first coordinate of each.
+    /// getPointAtUV finds the point of a face, up to `tolerance` away in the texture; getUVAtPoint takes the
+    /// nearest point.
     int numUVs(MStatus* ReturnStatus = nullptr) const;
     int numUVs(const MString& uvSet, MStatus* ReturnStatus = nullptr) const;
     int numUVSets(MStatus* ReturnStatus = nullptr) const;
@@ -418,7 +430,12 @@ public:
     MStatus copyUVSet(const MString& fromName, MString& toName, MDGModifier* modifier = nullptr);
     MStatus getCurrentUVSetName(MString& setName, int instance = kMFnMeshInstanceUnspecified) const;
 
-    /// Colours.
+    /// Colours: the same, without a set from the beginning; reading from a mesh without sets finds no
+    /// colours. Painting faces, vertices and corners goes to the current set; "colorSet1" is made where there
+    /// is none. With a representation only that part is painted. Sets that are clamped keep 0 to 1 of what is
+    /// written. Without a colour a vertex or corner is (-1, -1, -1, -1), or what the caller gives for it; a
+    /// vertex has the mean of its corners. getColorIndex tells -1 for a corner without;
+    /// getFaceVertexColorIndex is the place in getFaceVertexColors.
     int numColors(MStatus* ReturnStatus = nullptr) const;
     int numColors(const MString& colorSet, MStatus* ReturnStatus = nullptr) const;
     bool hasColorChannels(const MString& colorSet, MStatus* ReturnStatus = nullptr) const;

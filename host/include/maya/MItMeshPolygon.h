@@ -86,7 +86,9 @@ public:
     /// Tangents.
     unsigned int tangentIndex(int vertex, MStatus* ReturnStatus = nullptr) const;
 
-    /// Texture coordinates.
+    /// Texture coordinates at the corners, in a set by name (null: the current one; see MFnMesh). A face has
+    /// them at all of its corners or counts as not mapped: reading and changing are kFailure then. Setting
+    /// one changes it for all corners that share it. Areas are those in the texture, without a sign.
     bool hasUVs(MStatus* ReturnStatus = nullptr) const;
     bool hasUVs(const MString& uvSet, MStatus* ReturnStatus = nullptr) const;
     MStatus setUV(int vertexId, float2& uvPoint, const MString* uvSet = nullptr);
@@ -107,7 +109,9 @@ public:
     bool zeroUVArea(MStatus* ReturnStatus = nullptr);
     bool zeroUVArea(const MString& uvSet, MStatus* ReturnStatus = nullptr);
 
-    /// Colours.
+    /// Colours of the corners, in a set by name (null: the current one; see MFnMesh). Of a face the mean;
+    /// kFailure when no corner has one. In lists corners without are (0, 0, 0, 1), or (-1, -1, -1, 1) when
+    /// none has one, and their number is -1.
     bool hasColor(MStatus* ReturnStatus = nullptr) const;
     bool hasColor(int localVertexIndex, MStatus* ReturnStatus = nullptr);
     MStatus getColor(MColor& color, const MString* colorSetName = nullptr);
@@ -156,8 +160,8 @@ public:
     MStatus getArea(double& area, MSpace::Space space = MSpace::kObject);
     bool zeroArea(MStatus* ReturnStatus = nullptr);
 
-    /// What shape the face has: convex, its outline seen from the mean of its corners, with a twin on the same
-    /// edges, with holes, flat. One with holes is neither of the first two.
+    /// What shape the face has: convex, its outline seen from the mean of its corners, with a twin on the
+    /// same edges, with holes, flat. One with holes is neither of the first two.
     bool isConvex(MStatus* ReturnStatus = nullptr);
     bool isStarlike(MStatus* ReturnStatus = nullptr);
     bool isLamina(MStatus* ReturnStatus = nullptr);

@@ -65,7 +65,10 @@ public:
     /// The numbers of these normals (see MFnMesh::getNormals), by ascending face.
     MStatus getNormalIndices(MIntArray& normalIndices) const;
 
-    /// Texture coordinates.
+    /// Texture coordinates that faces have at the vertex, by ascending face, in a set by name (null: the
+    /// current one; see MFnMesh). Without a face, getUV tells the first one and setUV changes all of them;
+    /// kFailure when no face is mapped here. A face that is not at the vertex or not mapped is
+    /// kInvalidParameter.
     MStatus numUVs(int& count, const MString* uvSet = nullptr);
     MStatus setUV(float2& uvPoint, const MString* uvSet = nullptr);
     MStatus setUV(int faceId, float2& uvPoint, const MString* uvSet = nullptr);
@@ -105,7 +108,8 @@ public:
     /// Whether a border edge ends at the vertex.
     bool onBoundary(MStatus* ReturnStatus = nullptr);
 
-    /// Colours.
+    /// Colours that faces have at the vertex, by ascending face; otherwise as those of a face (see
+    /// MItMeshPolygon).
     bool hasColor(MStatus* ReturnStatus = nullptr) const;
     bool hasColor(int faceIndex, MStatus* ReturnStatus = nullptr) const;
     MStatus getColor(MColor& color, int faceIndex, const MString* colorSetName = nullptr) const;

@@ -136,17 +136,5 @@ TEST_F(MItMeshVertexTest, NormalsAreThoseOfTheFaces)
     EXPECT_EQ(indices.length(), 3u);
 }
 
-TEST_F(MItMeshVertexTest, WhatIsNotDoneSaysSoOnce)
-{
-    addQuad();
-    MItMeshVertex vertices(path("quadShape"));
-    MStatus status;
-    for (int round = 0; round < 2; ++round) {
-        EXPECT_FALSE(vertices.hasColor(&status));
-        EXPECT_EQ(status, MS::kNotImplemented);
-    }
-    EXPECT_EQ(messages(engine::MessageKind::error).size(), 1u);
-}
-
 } // namespace
 } // namespace tvxhost::api::test
