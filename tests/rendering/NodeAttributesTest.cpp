@@ -1,14 +1,13 @@
 // The steps of an initializer: what becomes of a failure and of an exception.
 #include "rendering/tvxNodeAttributes.h"
 
-#include <tvxCore/Exception.h>
+#include "../core/log/LogRecorder.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <stdexcept>
 #include <string>
-#include <vector>
 
 namespace tarvox::crowd {
 namespace {
@@ -16,29 +15,10 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-class Recorder : public core::ILogEventListener
-{
-public:
-    void onLogEvent(const core::LogEvent& event) override
-    {
-        events.push_back(std::to_string(event.severity) + "|" + event.file + "|" +
-                         std::to_string(event.line) + "|" + event.function + "|" + event.message);
-    }
-
-    std::vector<std::string> events;
-};
-
 class NodeAttributesTest : public testing::Test
 {
 protected:
-    NodeAttributesTest() { coreLog().addLogEventListener(&recorder); }
-    ~NodeAttributesTest() override
-    {
-        coreLog().removeLogEventListener(&recorder);
-        coreLog().setSeverityFilter(core::kWarning);
-    }
-
-    Recorder recorder;
+    test::LogRecorder recorder;
 };
 
 const char* succeeds()
@@ -80,7 +60,7 @@ TEST_F(NodeAttributesTest, StepsThatSucceedSayNothing)
     int stepsDone = 0;
     EXPECT_EQ(initializeWith(succeeds, stepsDone), MStatus::kSuccess);
     EXPECT_EQ(stepsDone, 2);
-    EXPECT_THAT(recorder.events, IsEmpty());
+    EXPECT_THAT(recorder.placed, IsEmpty());
 }
 
 TEST_F(NodeAttributesTest, AStepThatFailsIsReportedWithItsPlaceAndEndsTheInitializer)
@@ -88,7 +68,7 @@ TEST_F(NodeAttributesTest, AStepThatFailsIsReportedWithItsPlaceAndEndsTheInitial
     int stepsDone = 0;
     EXPECT_EQ(initializeWith(fails, stepsDone), MStatus::kFailure);
     EXPECT_EQ(stepsDone, 1);
-    EXPECT_THAT(recorder.events,
+    EXPECT_THAT(recorder.placed,
                 ElementsAre(kPlace + "At line " + std::to_string(kStepLine) +
                             " in file tests/rendering/NodeAttributesTest.cpp: Add attribute error"));
 }
@@ -98,14 +78,14 @@ TEST_F(NodeAttributesTest, ACoreExceptionInAStepIsLoggedWithItsTextAndEndsTheIni
     int stepsDone = 0;
     EXPECT_EQ(initializeWith(throws, stepsDone), MStatus::kFailure);
     EXPECT_EQ(stepsDone, 1);
-    EXPECT_THAT(recorder.events, ElementsAre(kPlace + "out of crowds"));
+    EXPECT_THAT(recorder.placed, ElementsAre(kPlace + "out of crowds"));
 }
 
 TEST_F(NodeAttributesTest, ACoreExceptionWithoutATextEndsTheInitializerToo)
 {
     int stepsDone = 0;
     EXPECT_EQ(initializeWith(throwsWithoutText, stepsDone), MStatus::kFailure);
-    EXPECT_THAT(recorder.events, ElementsAre(kPlace));
+    EXPECT_THAT(recorder.placed, ElementsAre(kPlace));
 }
 
 TEST_F(NodeAttributesTest, OtherExceptionsPassThrough)
@@ -120,7 +100,7 @@ TEST_F(NodeAttributesTest, FailuresBelowTheFilterEndTheInitializerSilently)
     int stepsDone = 0;
     EXPECT_EQ(initializeWith(fails, stepsDone), MStatus::kFailure);
     EXPECT_EQ(initializeWith(throws, stepsDone), MStatus::kFailure);
-    EXPECT_THAT(recorder.events, IsEmpty());
+    EXPECT_THAT(recorder.placed, IsEmpty());
 }
 
 } // namespace

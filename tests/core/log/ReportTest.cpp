@@ -1,7 +1,7 @@
 // The report convention: exact texts, nothing built in vain, nothing thrown.
 #include "core/log/tvxReport.h"
 
-#include <tvxCore/Exception.h>
+#include "LogRecorder.h"
 
 #include <maya/MString.h>
 
@@ -12,7 +12,6 @@
 #include <ostream>
 #include <stdexcept>
 #include <string>
-#include <vector>
 
 namespace tarvox::crowd {
 namespace {
@@ -21,24 +20,6 @@ using testing::ElementsAre;
 using testing::IsEmpty;
 
 constexpr char kFile[] = "tests/core/log/ReportTest.cpp";
-
-// "severity|file|line|function|message" of each event; throws what the test asks for first.
-class Recorder : public core::ILogEventListener
-{
-public:
-    void onLogEvent(const core::LogEvent& event) override
-    {
-        if (throwing > 0) {
-            --throwing;
-            throw core::Exception("listener failed");
-        }
-        events.push_back(std::to_string(event.severity) + "|" + event.file + "|" +
-                         std::to_string(event.line) + "|" + event.function + "|" + event.message);
-    }
-
-    int throwing = 0;
-    std::vector<std::string> events;
-};
 
 std::string event(int severity, int line, const std::string& message)
 {
@@ -53,25 +34,16 @@ std::string atLine(int line, const std::string& text)
 class Report : public testing::Test
 {
 protected:
-    Report()
-    {
-        coreLog().setSeverityFilter(core::kDebug);
-        coreLog().addLogEventListener(&recorder);
-    }
-    ~Report() override
-    {
-        coreLog().removeLogEventListener(&recorder);
-        coreLog().setSeverityFilter(core::kWarning);
-    }
+    Report() { coreLog().setSeverityFilter(core::kDebug); }
 
-    Recorder recorder;
+    test::LogRecorder recorder;
 };
 
 TEST_F(Report, TellsLineFileAndText)
 {
     const int line = __LINE__ + 1;
     TVX_REPORT(core::kError, "f", "Unable to create " << 3 << MString(" files"));
-    EXPECT_THAT(recorder.events,
+    EXPECT_THAT(recorder.placed,
                 ElementsAre(event(core::kError, line, atLine(line, "Unable to create 3 files"))));
 }
 
@@ -81,7 +53,7 @@ TEST_F(Report, TellsTheLineWhereItBegins)
     TVX_REPORT(core::kError, "f",
                "text that goes on "
                    << "and on");
-    EXPECT_THAT(recorder.events,
+    EXPECT_THAT(recorder.placed,
                 ElementsAre(event(core::kError, line, atLine(line, "text that goes on and on"))));
 }
 
@@ -90,11 +62,11 @@ TEST_F(Report, IsBuiltOnlyWhenTheFilterAdmitsIt)
     for (int filter = 0; filter <= 4; ++filter)
         for (int severity = 0; severity <= 4; ++severity) {
             int built = 0;
-            recorder.events.clear();
+            recorder.take();
             coreLog().setSeverityFilter(filter);
             TVX_REPORT(severity, "f", "text " << ++built);
             EXPECT_EQ(built, severity <= filter ? 1 : 0) << filter << " " << severity;
-            EXPECT_EQ(recorder.events.size(), severity <= filter ? 1u : 0u) << filter << " " << severity;
+            EXPECT_EQ(recorder.placed.size(), severity <= filter ? 1u : 0u) << filter << " " << severity;
         }
 }
 
@@ -148,22 +120,22 @@ TEST_F(Report, LogsACoreExceptionOfItsTextInItsPlace)
 {
     const int line = __LINE__ + 1;
     EXPECT_NO_THROW(TVX_REPORT(core::kError, "f", "text " << fails()));
-    EXPECT_THAT(recorder.events, ElementsAre(event(core::kError, line, "no text to be had")));
+    EXPECT_THAT(recorder.placed, ElementsAre(event(core::kError, line, "no text to be had")));
 }
 
 TEST_F(Report, LogsACoreExceptionOfTheLogInItsPlace)
 {
-    recorder.throwing = 1;
+    recorder.exceptions = 1;
     const int line = __LINE__ + 1;
     EXPECT_NO_THROW(TVX_REPORT(core::kWarning, "f", "text"));
-    EXPECT_THAT(recorder.events, ElementsAre(event(core::kWarning, line, "listener failed")));
+    EXPECT_THAT(recorder.placed, ElementsAre(event(core::kWarning, line, "listener failed")));
 }
 
 TEST_F(Report, NeverThrowsEvenWhenTheLogKeepsFailing)
 {
-    recorder.throwing = 2;
+    recorder.exceptions = 2;
     EXPECT_NO_THROW(TVX_REPORT(core::kError, "f", "text"));
-    EXPECT_THAT(recorder.events, IsEmpty());
+    EXPECT_THAT(recorder.placed, IsEmpty());
 }
 
 const char* failsOtherwise()
@@ -174,25 +146,25 @@ const char* failsOtherwise()
 TEST_F(Report, LetsOtherExceptionsThrough)
 {
     EXPECT_THROW(TVX_REPORT(core::kError, "f", failsOtherwise()), std::runtime_error);
-    EXPECT_THAT(recorder.events, IsEmpty());
+    EXPECT_THAT(recorder.placed, IsEmpty());
 }
 
 TEST_F(Report, StandsWhereOneStatementIsExpected)
 {
-    if (recorder.throwing > 0)
+    if (recorder.exceptions > 0)
         TVX_REPORT(core::kError, "f", "then");
     else
         TVX_REPORT(core::kError, "f", "else");
-    EXPECT_EQ(recorder.events.size(), 1u);
+    EXPECT_EQ(recorder.placed.size(), 1u);
 }
 
 TEST_F(Report, TracesTheTextOfAnExceptionAsItIs)
 {
     reportException(core::kError, kFile, 7, "f", "text");
-    EXPECT_THAT(recorder.events, ElementsAre(event(core::kError, 7, "text")));
+    EXPECT_THAT(recorder.placed, ElementsAre(event(core::kError, 7, "text")));
     coreLog().setSeverityFilter(core::kCritical);
     reportException(core::kError, kFile, 7, "f", "text");
-    EXPECT_EQ(recorder.events.size(), 1u);
+    EXPECT_EQ(recorder.placed.size(), 1u);
 }
 
 TEST(StatusCheck, SaysNothingOfSuccess)
@@ -215,15 +187,13 @@ TEST(StatusCheck, NotesAFailureOnStandardErrorAndGoesOn)
 
 TEST(StatusCheck, EvaluatesItsArgumentOnceAndStaysOutOfTheLog)
 {
-    Recorder recorder;
-    coreLog().addLogEventListener(&recorder);
+    const test::LogRecorder recorder;
     int evaluations = 0;
     testing::internal::CaptureStderr();
     TVX_CHECK_STATUS((++evaluations, MStatus(MStatus::kFailure)));
     testing::internal::GetCapturedStderr();
-    coreLog().removeLogEventListener(&recorder);
     EXPECT_EQ(evaluations, 1);
-    EXPECT_THAT(recorder.events, IsEmpty());
+    EXPECT_THAT(recorder.placed, IsEmpty());
 }
 
 } // namespace

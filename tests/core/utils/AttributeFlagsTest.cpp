@@ -1,7 +1,7 @@
 // The standard flags of a new attribute.
 #include "core/utils/tvxMayaUtils.h"
 
-#include "LogRecorder.h"
+#include "../log/LogRecorder.h"
 #include "api/support/faults.h"
 
 #include <maya/MFnNumericAttribute.h>

@@ -59,18 +59,7 @@ protected:
     void expectFailure(const std::string& call, std::size_t n, const std::string& member,
                        const std::function<MStatus()>& run)
     {
-        SCOPED_TRACE(call + " " + std::to_string(n));
-        faults::failCall(call, n, failure());
-        EXPECT_EQ(run(), MStatus::kFailure);
-        faults::clear();
-        EXPECT_THAT(takeErrors(kFile), ElementsAre(member + "|" + failureText()));
-
-        coreLog().setSeverityFilter(core::kCritical);
-        faults::failCall(call, n, failure());
-        EXPECT_EQ(run(), MStatus::kFailure);
-        faults::clear();
-        coreLog().setSeverityFilter(core::kWarning);
-        EXPECT_THAT(recorder.take(), IsEmpty());
+        UtilsFixture::expectFailure(kFile, call, n, member + "|" + failureText(), run);
     }
 };
 

@@ -1,5 +1,6 @@
 // Files, dialogs and window preferences: the exact commands, and what their answers become.
 #include "UtilsFixture.h"
+#include "memberWarning.h"
 
 #include <locale>
 
@@ -16,8 +17,7 @@ class Files : public UtilsFixture
 protected:
     static std::string warning(const std::string& member, const std::string& text)
     {
-        return "2|core/utils/tvxMayaUtilsFiles.cpp|tarvox::crowd::MayaUtils::" + member +
-               "|MayaUtils::" + member + ": " + text;
+        return memberWarning("tvxMayaUtilsFiles.cpp", member, "MayaUtils::" + member + ": " + text);
     }
 };
 

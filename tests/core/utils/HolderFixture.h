@@ -2,8 +2,9 @@
 #pragma once
 
 #include "../../host/api/nodeFixture.h"
-#include "LogRecorder.h"
+#include "../log/LogRecorder.h"
 #include "core/utils/tvxMayaUtils.h"
+#include "memberWarning.h"
 
 #include <maya/MDataBlock.h>
 #include <maya/MPlug.h>
@@ -77,7 +78,7 @@ protected:
     /// A warning of the attribute accessors.
     static std::string report(const std::string& member, const std::string& text)
     {
-        return "2|core/utils/tvxMayaUtils.cpp|tarvox::crowd::MayaUtils::" + member + "|" + text;
+        return memberWarning("tvxMayaUtils.cpp", member, text);
     }
 
     // What Maya says to a step that got nothing from the one before.

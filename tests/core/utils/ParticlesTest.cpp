@@ -1,5 +1,6 @@
 // Values of single particles.
 #include "UtilsFixture.h"
+#include "memberWarning.h"
 
 #include "engine/attribute.h"
 #include "engine/data.h"
@@ -43,7 +44,7 @@ protected:
     }
     static std::string warning(const std::string& member, const std::string& text)
     {
-        return "2|core/utils/tvxMayaUtils.cpp|tarvox::crowd::MayaUtils::" + member + "|" + text;
+        return memberWarning("tvxMayaUtils.cpp", member, text);
     }
 };
 

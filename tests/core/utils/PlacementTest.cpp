@@ -28,18 +28,7 @@ protected:
     void expectFailure(const std::string& call, std::size_t n, const std::string& report,
                        const std::function<MStatus()>& member)
     {
-        SCOPED_TRACE(call + " " + std::to_string(n));
-        faults::failCall(call, n, failure());
-        EXPECT_EQ(member(), MStatus::kFailure);
-        faults::clear();
-        EXPECT_THAT(takeErrors(kFile), ElementsAre(report));
-
-        coreLog().setSeverityFilter(core::kCritical);
-        faults::failCall(call, n, failure());
-        EXPECT_EQ(member(), MStatus::kFailure);
-        faults::clear();
-        coreLog().setSeverityFilter(core::kWarning);
-        EXPECT_THAT(recorder.take(), IsEmpty());
+        UtilsFixture::expectFailure(kFile, call, n, report, member);
     }
 
     MVector worldTranslation(const std::string& name) const

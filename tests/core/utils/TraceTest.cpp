@@ -1,7 +1,7 @@
 // Texts traced as they stand: built only when they are wanted, and no core exception leaves them.
 #include "core/utils/tvxTrace.h"
 
-#include "LogRecorder.h"
+#include "../log/LogRecorder.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

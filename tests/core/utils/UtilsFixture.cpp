@@ -58,4 +58,22 @@ std::vector<std::string> UtilsFixture::takeErrors(const std::string& file)
     return errors;
 }
 
+void UtilsFixture::expectFailure(const std::string& file, const std::string& call, std::size_t n,
+                                 const std::string& report, const std::function<MStatus()>& member)
+{
+    SCOPED_TRACE(call + " " + std::to_string(n));
+    const auto failOnce = [&] {
+        faults::failCall(call, n, failure());
+        EXPECT_EQ(member(), MStatus::kFailure);
+        faults::clear();
+    };
+    failOnce();
+    EXPECT_THAT(takeErrors(file), testing::ElementsAre(report));
+
+    coreLog().setSeverityFilter(core::kCritical);
+    failOnce();
+    coreLog().setSeverityFilter(core::kWarning);
+    EXPECT_THAT(recorder.take(), testing::IsEmpty());
+}
+
 } // namespace tarvox::crowd::test

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "../../host/api/sceneFixture.h"
-#include "LogRecorder.h"
+#include "../log/LogRecorder.h"
 #include "core/utils/tvxMayaUtils.h"
 
 #include <maya/MFnDagNode.h>
@@ -10,6 +10,7 @@
 
 #include <gmock/gmock.h>
 
+#include <functional>
 #include <map>
 #include <set>
 #include <string>
@@ -48,6 +49,11 @@ protected:
     /// The errors since the last call, "member|text" each; one that is not told with its line and file, or
     /// not by `file` in core/utils, stands there as it came.
     std::vector<std::string> takeErrors(const std::string& file);
+
+    /// Makes the n-th call fail and expects the member to fail with one report of `file`, as takeErrors() has
+    /// it, or with none when the filter rejects it.
+    void expectFailure(const std::string& file, const std::string& call, std::size_t n,
+                       const std::string& report, const std::function<MStatus()>& member);
 
     /// A status to make calls fail with, and its text.
     static MStatus failure() { return MStatus(MStatus::kNotFound); }

@@ -30,21 +30,25 @@ public:
             --exceptions;
             throw core::Exception("listener failed");
         }
+        const std::string begin = std::to_string(event.severity) + "|" + event.file + "|";
+        const std::string end = std::string(event.function) + "|" + event.message;
         lines.push_back(event.line);
-        events.push_back(std::to_string(event.severity) + "|" + event.file + "|" + event.function + "|" +
-                         event.message);
+        events.push_back(begin + end);
+        placed.push_back(begin + std::to_string(event.line) + "|" + end);
     }
 
     /// The reports since the last call, "severity|file|function|message" each.
     std::vector<std::string> take()
     {
         lines.clear();
+        placed.clear();
         return std::exchange(events, {});
     }
 
     int exceptions = 0; ///< so many reports are answered with an exception first
     std::vector<int> lines;
     std::vector<std::string> events;
+    std::vector<std::string> placed; ///< the same with the line behind the file
 };
 
 } // namespace tarvox::crowd::test
