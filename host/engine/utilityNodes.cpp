@@ -109,6 +109,11 @@ Numbers plusMinusAverage(Node& node, std::string_view inputs)
                     componentCount);
 }
 
+Numbers dimension(Node& node)
+{
+    return {(vectorOf(node, "endPoint") - vectorOf(node, "startPoint")).length()};
+}
+
 // Ranges
 
 Numbers reversed(Node& node)
@@ -347,6 +352,7 @@ constexpr FormulaRow kFormulas[] = {
     {"blendWeighted", "output", blendedWeighted},
     {"clamp", "output", clamped},
     {"condition", "outColor", condition},
+    {"distanceDimShape", "distance", dimension},
     {"gammaCorrect", "outValue", gammaCorrected},
     {"groupId", "groupId", groupNumber},
     {"hsvToRgb", "outRgb", [](Node& node) { return rgbOf(numbersOf(node, "inHsv")); }},

@@ -148,6 +148,13 @@ const EditRow kRows[] = {
     {"", "polySphere; polyCone; polyCylinder; polyTorus"},
     {kCube, "setAttr polyCube1.w 5"},
     // the scene
+    {"", "camera -e -startupCamera false top"},
+    {kTree, "toggle -localAxis -below a"},
+    {kTree, "inheritTransform -off -preserve c"},
+    {kTwo, "reorder -front b"},
+    {kCube, "rotate 10 20 30 cube.f[0]; scale 2 3 4 ball.vtx[0:9]"},
+    {kCube, "scaleComponents -ro 10 20 30 2 1 1 cube.vtx[*]"},
+    {kCube, "setAttr cube.vtx[0:1] 1 2 3 4 5 6"},
     {"", "currentTime 12"},
     {"", "currentUnit -l m -a rad"},
     {"", "playbackOptions -min 5 -max 50"},

@@ -9,6 +9,7 @@
 #include <functional>
 #include <string>
 #include <utility>
+#include <vector>
 
 namespace tvxhost::engine {
 
@@ -35,6 +36,13 @@ protected:
     void set(const std::string& name, double value)
     {
         const Outcome outcome = writeNumber(plug(name), Number(value));
+        EXPECT_TRUE(outcome) << outcome.text;
+    }
+    /// The numbers of a group.
+    std::vector<double> group(const std::string& name) { return readNumbers(plug(name)).value; }
+    void setGroup(const std::string& name, const std::vector<double>& values)
+    {
+        const Outcome outcome = writeNumbers(plug(name), values);
         EXPECT_TRUE(outcome) << outcome.text;
     }
     Outcome connect(const std::string& source, const std::string& destination, bool force = false)

@@ -39,13 +39,9 @@ protected:
         const Outcome stored = storeCurve(*m_shape, curve);
         EXPECT_TRUE(stored) << stored.text;
     }
-    void setGroup(const std::string& name, const std::vector<double>& values)
-    {
-        EXPECT_TRUE(writeNumbers(plug(name), values)) << name;
-    }
     void expectGroup(const std::string& name, const std::vector<double>& expected)
     {
-        EXPECT_THAT(readNumbers(plug(name)).value, Pointwise(DoubleNear(1e-6), expected)) << name;
+        EXPECT_THAT(group(name), Pointwise(DoubleNear(1e-6), expected)) << name;
     }
 
 private:

@@ -83,13 +83,6 @@ TEST_F(SceneTest, GroupIdsAreNumbersOfTheirOwn)
 
 class Utility : public SceneTest
 {
-protected:
-    void setGroup(const std::string& name, const std::vector<double>& values)
-    {
-        const Outcome outcome = writeNumbers(plug(name), values);
-        EXPECT_TRUE(outcome) << outcome.text;
-    }
-    std::vector<double> group(const std::string& name) { return readNumbers(plug(name)).value; }
 };
 
 TEST_F(Utility, MultiplyDivideWorksComponentByComponent)
@@ -414,6 +407,20 @@ TEST_F(Utility, RemapHsvGoesThroughARampForEachPart)
     set("remap.saturation[0].saturation_FloatValue", 0.5);
     set("remap.value[0].value_FloatValue", 0.8);
     EXPECT_THAT(group("remap.outColor"), Pointwise(FloatNear(1e-6f), {0.4, 0.8, 0.4}));
+}
+
+TEST_F(Utility, ADimensionMeasuresBetweenLocators)
+{
+    Node& shape = make("distanceDimShape");
+    EXPECT_EQ(shape.name(), "distanceDimensionShape1");
+    EXPECT_EQ(number("distanceDimensionShape1.distance"), 0.0);
+    for (const std::string name : {"from", "to"})
+        make("locator", name + "Spot", &makeTransform(name));
+    EXPECT_TRUE(connect("fromSpot.worldPosition[0]", "distanceDimensionShape1.startPoint"));
+    EXPECT_TRUE(connect("toSpot.worldPosition[0]", "distanceDimensionShape1.endPoint"));
+    setGroup("from.translate", {0, 2, 2});
+    setGroup("to.translate", {3, 2, 6});
+    EXPECT_EQ(number("distanceDimensionShape1.distance"), 5.0);
 }
 
 } // namespace

@@ -14,14 +14,9 @@ constexpr double kDegree = 3.14159265358979323846 / 180.0;
 class VectorNodes : public SceneTest
 {
 protected:
-    void setGroup(const std::string& name, const std::vector<double>& values)
-    {
-        const Outcome outcome = writeNumbers(plug(name), values);
-        EXPECT_TRUE(outcome) << outcome.text;
-    }
     void expectGroup(const std::string& name, const std::vector<double>& expected)
     {
-        EXPECT_THAT(readNumbers(plug(name)).value, Pointwise(DoubleNear(1e-6), expected)) << name;
+        EXPECT_THAT(group(name), Pointwise(DoubleNear(1e-6), expected)) << name;
     }
 };
 
