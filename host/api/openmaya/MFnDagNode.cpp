@@ -177,6 +177,18 @@ MPoint corner(DagNode& node, const char* attribute)
                                      : MPoint();
 }
 
+/// Takes a node away from all other parents.
+tvxhost::engine::Outcome moveBelow(DagNode& child, DagNode& parent)
+{
+    Scene& scene = parent.scene();
+    if (child.parents().empty())
+        return scene.addParent(child, parent);
+    while (child.parents().size() > 1)
+        if (auto removed = scene.removeParent(child, *child.parents().back()); !removed)
+            return removed;
+    return scene.reparent(child, child.parents().front(), &parent);
+}
+
 } // namespace
 
 MFnDagNode::MFnDagNode() : reservedWords() {}
@@ -280,15 +292,11 @@ MStatus MFnDagNode::addChild(MObject& child, unsigned int index, bool keepExisti
     DagNode* added = dagNodeOf(child);
     if (!added)
         return failure(child.isNull() ? StatusText::nullArgument : StatusText::objectIsIncompatible);
-    if (index != kNextPos && index < node->children().size())
-        return notImplemented("MFnDagNode::addChild(index)");
-    Scene& scene = node->scene();
-    if (keepExistingParents || added->parents().empty())
-        return toStatus(scene.addParent(*added, *node));
-    while (added->parents().size() > 1)
-        if (const auto removed = scene.removeParent(*added, *added->parents().back()); !removed)
-            return toStatus(removed);
-    return toStatus(scene.reparent(*added, added->parents().front(), node));
+    const tvxhost::engine::Outcome below =
+        keepExistingParents ? node->scene().addParent(*added, *node) : moveBelow(*added, *node);
+    if (!below || index == kNextPos)
+        return toStatus(below);
+    return toStatus(node->scene().reorder(*added, *node, index));
 }
 
 MStatus MFnDagNode::removeChild(MObject& child)

@@ -105,6 +105,21 @@ TEST_F(DagNodes, AddingAChildMovesItUnlessParentsAreKept)
     EXPECT_FALSE(MFnDagNode(inner).addChild(branch) && MFnDagNode(branch).isChildOf(branch));
 }
 
+TEST_F(DagNodes, AChildIsAddedAtAPlace)
+{
+    MObject a = make("transform", "a"), b = make("transform", "b");
+    MFnDagNode set(branch);
+    EXPECT_TRUE(set.addChild(a));
+    EXPECT_TRUE(set.addChild(b, 0));
+    EXPECT_TRUE(set.addChild(inner, 1));
+    EXPECT_EQ("b", text(MFnDagNode(set.child(0)).name()));
+    EXPECT_EQ("inner", text(MFnDagNode(set.child(1)).name()));
+    EXPECT_EQ("a", text(MFnDagNode(set.child(2)).name()));
+    // What is there already moves; beyond the last is the end.
+    EXPECT_TRUE(set.addChild(b, 7));
+    EXPECT_EQ("b", text(MFnDagNode(set.child(2)).name()));
+}
+
 TEST_F(DagNodes, RemovingTheLastInstancePutsItBelowTheWorld)
 {
     EXPECT_TRUE(MFnDagNode(root).removeChild(inner));
