@@ -1,5 +1,6 @@
 // Cameras: what Maya's camera attributes mean for the volume that is seen.
 #include "viewport/camera.h"
+#include "engine/deletion.h"
 #include "engine/scene.h"
 
 #include <gtest/gtest.h>
@@ -221,8 +222,11 @@ TEST(FindCamera, SaysWhatIsWrong)
     const auto nobody = viewport::findCamera(scene, "nobody");
     EXPECT_EQ(nobody.outcome.reason, engine::Reason::doesNotExist);
     EXPECT_EQ(nobody.outcome.text, "camera \"nobody\": No object matches name: nobody");
-    for (const char* name : {"persp", "top", "front", "side"})
-        ASSERT_TRUE(scene.deleteNode(*scene.findNode(name).value)) << name;
+    for (const char* name : {"persp", "top", "front", "side"}) {
+        engine::Node& camera = *scene.findNode(name).value;
+        engine::setStartupCamera(*camera.asDag(), false);
+        ASSERT_TRUE(scene.deleteNode(camera)) << name;
+    }
     EXPECT_EQ(viewport::findCamera(scene, "").outcome.text, "the scene has no camera");
 }
 

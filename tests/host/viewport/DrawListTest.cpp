@@ -1,6 +1,8 @@
 // What of a scene is drawn, how often, where, and with which display status.
 #include "viewport/drawList.h"
 
+#include "sceneFixture.h"
+
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -8,37 +10,18 @@ namespace {
 
 using namespace tvxhost;
 using engine::DagNode;
-using engine::Scene;
 using testing::ElementsAre;
 using testing::IsEmpty;
 using viewport::DrawItem;
 using viewport::DrawKind;
 
-class DrawListTest : public testing::Test
+class DrawListTest : public viewport::test::SceneFixture
 {
 protected:
-    DrawListTest()
-    {
-        m_scene.newScene();
-        Scene::makeCurrent(&m_scene);
-    }
-    ~DrawListTest() override { Scene::makeCurrent(nullptr); }
-
-    DagNode& create(const char* type, const char* name, DagNode* parent = nullptr)
-    {
-        const auto node = m_scene.createNode(type, name, parent);
-        EXPECT_TRUE(node) << node.outcome.text;
-        return *node.value->asDag();
-    }
     /// A locator under a transform of its own.
     DagNode& locator(const std::string& name)
     {
         return create("locator", (name + "Shape").c_str(), &create("transform", name.c_str()));
-    }
-    void set(DagNode& node, const char* plug, double value)
-    {
-        const auto outcome = engine::writeNumber(node.findPlug(plug).value, engine::Number(value));
-        ASSERT_TRUE(outcome) << plug << ": " << outcome.text;
     }
     void select(const std::vector<std::string>& names)
     {
@@ -62,8 +45,6 @@ protected:
         }
         return M3dView::kNoStatus;
     }
-
-    Scene m_scene;
 };
 
 TEST_F(DrawListTest, OfANewSceneIsEmptyCamerasAreNotDrawn)

@@ -2,6 +2,8 @@
 #define GL_GLEXT_PROTOTYPES
 #include "viewport/viewport.h"
 
+#include "sceneFixture.h"
+
 #include "engine/boundingBox.h"
 #include "viewport/camera.h"
 
@@ -20,7 +22,6 @@ namespace {
 
 using namespace tvxhost;
 using engine::DagNode;
-using engine::Scene;
 using viewport::Picture;
 using viewport::Rgb;
 
@@ -60,30 +61,15 @@ private:
     TestLocator m_locator;
 };
 
-class ViewportTest : public testing::Test
+class ViewportTest : public viewport::test::SceneFixture
 {
 protected:
     ViewportTest()
     {
-        m_scene.newScene();
-        Scene::makeCurrent(&m_scene);
         auto type = m_scene.types().add("testLocator", 0x7f001, *m_scene.types().find("THlocatorShape"));
         EXPECT_TRUE(type) << type.outcome.text;
         type.value->behaviour = [](engine::Node&) { return std::make_unique<TestBehaviour>(); };
         TestLocator::draws = [](M3dView&, const MDagPath&, M3dView::DisplayStatus) {};
-    }
-    ~ViewportTest() override { Scene::makeCurrent(nullptr); }
-
-    DagNode& create(const char* type, const char* name, DagNode* parent = nullptr)
-    {
-        const auto node = m_scene.createNode(type, name, parent);
-        EXPECT_TRUE(node) << node.outcome.text;
-        return *node.value->asDag();
-    }
-    void set(DagNode& node, const char* plug, double value)
-    {
-        const auto outcome = engine::writeNumber(node.findPlug(plug).value, engine::Number(value));
-        ASSERT_TRUE(outcome) << plug << ": " << outcome.text;
     }
     /// A front camera that sees x and y from -2 to 2, without the grid.
     void lookFromFront()
@@ -107,8 +93,6 @@ protected:
         }
         return pixels;
     }
-
-    Scene m_scene;
 };
 
 TEST_F(ViewportTest, APluginsLocatorHasTheBoundingBoxThatItTells)
