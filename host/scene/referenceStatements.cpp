@@ -1,6 +1,7 @@
 // What a file would say of one node; see referenceStatements.h.
 #include "referenceStatements.h"
 
+#include "beginsWith.h"
 #include "nodeWriter.h"
 
 #include <array>
@@ -73,11 +74,6 @@ NodeStatement addAttrIn(std::string_view text)
     statement.path = takeName(statement.words, " -sn ");
     statement.longName = takeName(statement.words, " -ln ");
     return statement;
-}
-
-bool beginsWith(std::string_view text, std::string_view start)
-{
-    return text.substr(0, start.size()) == start;
 }
 
 } // namespace

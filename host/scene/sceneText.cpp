@@ -1,6 +1,8 @@
 // The text of a scene file, and the check that it is one; see sceneText.h.
 #include "sceneText.h"
 
+#include "beginsWith.h"
+
 #include <algorithm>
 
 namespace tvxhost::scene {
@@ -14,11 +16,6 @@ constexpr std::string_view kHeader = "//Maya ASCII";
 
 constexpr std::string_view kNameLine = "//Name:";
 constexpr std::string_view kEndLine = "// End of";
-
-bool beginsWith(std::string_view text, std::string_view start)
-{
-    return text.substr(0, start.size()) == start;
-}
 
 int lineAt(std::string_view text, std::size_t offset)
 {

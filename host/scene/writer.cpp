@@ -1,6 +1,7 @@
 // Writing Maya ASCII scenes; see writer.h.
 #include "writer.h"
 
+#include "beginsWith.h"
 #include "connectionEnd.h"
 #include "lightLinks.h"
 #include "lineBreaker.h"
@@ -97,11 +98,6 @@ std::string systemText()
     if (uname(&system) != 0)
         return "Linux";
     return std::string(system.sysname) + " " + system.release + " " + system.version + " " + system.machine;
-}
-
-bool beginsWith(const std::string& text, const char* start)
-{
-    return text.rfind(start, 0) == 0;
 }
 
 /// The name of a file in a comment, which ends with its line.

@@ -1,11 +1,9 @@
 // What tests of undo share: a session that records, and its scene as text in two ways.
 #pragma once
 
-#include "CommandFixture.h"
-
-#include "scene/writer.h"
-
+#include "../support/savedText.h"
 #include "../support/sceneState.h"
+#include "CommandFixture.h"
 
 namespace tvxhost::mel {
 
@@ -15,12 +13,7 @@ protected:
     UndoFixture() { run("undoInfo -state on -infinity on"); }
 
     /// The scene as a file would hold it.
-    std::string text()
-    {
-        scene::WriteOptions options;
-        options.clock = [] { return std::time_t(0); };
-        return scene::sceneText(scene, "undo.ma", options);
-    }
+    std::string text() { return test::savedText(scene); }
     /// The same, and what no file holds: identities, selection, the order of nodes.
     std::string state()
     {

@@ -1,6 +1,8 @@
 // What tests of scene files share: small texts in the real format, read and written in memory.
 #pragma once
 
+#include "../support/savedText.h"
+
 #include "scene/reader.h"
 #include "scene/writer.h"
 
@@ -66,12 +68,7 @@ protected:
         return lines;
     }
 
-    std::string saved()
-    {
-        WriteOptions options;
-        options.clock = [] { return std::time_t{0}; };
-        return sceneText(scene, "test.ma", options);
-    }
+    std::string saved() { return test::savedText(scene); }
 
     /// The part of the saved text from the line that begins with `first` up to the next statement that is
     /// not indented.

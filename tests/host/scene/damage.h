@@ -2,8 +2,9 @@
 // reading them.
 #pragma once
 
+#include "../support/savedText.h"
+
 #include "scene/reader.h"
-#include "scene/writer.h"
 
 #include "engine/scene.h"
 
@@ -67,8 +68,6 @@ inline void expectChangedBytesAreHarmless(engine::Scene& scene, const std::strin
 {
     constexpr int kBetweenSaves = 20;
     std::mt19937 random(seed);
-    WriteOptions options;
-    options.clock = [] { return std::time_t{0}; };
     std::string damaged = text;
     for (int i = 0; i < kTimes; ++i) {
         const std::size_t place = random() % text.size();
@@ -86,9 +85,9 @@ inline void expectChangedBytesAreHarmless(engine::Scene& scene, const std::strin
         expectPlaces(scene, text, "damaged.ma");
         if (i % kBetweenSaves != 0)
             continue;
-        const std::string first = sceneText(scene, "saved.ma", options);
+        const std::string first = test::savedText(scene);
         ASSERT_TRUE(openSceneText(scene, first, "saved.ma").outcome);
-        EXPECT_TRUE(sceneText(scene, "saved.ma", options) == first);
+        EXPECT_TRUE(test::savedText(scene) == first);
     }
 }
 
