@@ -1,6 +1,8 @@
 // What the scene commands share; see commandSupport.h.
 #include "commandSupport.h"
 
+#include "language.h"
+
 #include <algorithm>
 #include <cctype>
 
@@ -13,12 +15,8 @@ using engine::SelectionItem;
 CommandSpec makeCommand(std::string name, std::string summary, std::vector<FlagSpec> flags,
                         PositionalRule positional, ParsedHandler handler, unsigned modes)
 {
-    CommandSpec spec;
-    spec.name = std::move(name);
-    spec.summary = std::move(summary);
-    spec.flags = std::move(flags);
-    spec.positional = positional;
-    spec.handler = std::move(handler);
+    CommandSpec spec =
+        command(std::move(name), std::move(summary), std::move(flags), positional, std::move(handler));
     spec.queryable = (modes & kQuery) != 0;
     spec.editable = (modes & kEdit) != 0;
     return spec;

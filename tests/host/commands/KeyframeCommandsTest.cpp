@@ -1,7 +1,6 @@
 // setKeyframe, keyframe, keyTangent, cutKey, setInfinity, findKeyframe, and time that moves what they made.
+#include "../support/savedText.h"
 #include "CommandFixture.h"
-
-#include "scene/writer.h"
 
 namespace tvxhost::mel {
 namespace {
@@ -253,9 +252,7 @@ TEST_F(KeyframeCommandsTest, FilesHoldWhatWasKeyed)
     keyRamp();
     run("setKeyframe -t 5 -v 3 ball.rz; setKeyframe -t 1 -v 1 ball.v; setKeyframe -t 9 -v 0 ball.v;"
         "setInfinity -poi cycle ball.tx; keyTangent -e -t 11 -itt fixed -ott fixed ball.tx");
-    scene::WriteOptions options;
-    options.clock = [] { return std::time_t{0}; };
-    std::string text = scene::sceneText(scene, "test.ma", options);
+    std::string text = test::savedText(scene);
     for (const char* name : {"ball_translateX", "ball_rotateZ", "ball_visibility"}) {
         const std::string line = "\trename -uid \"" + scene.findNode(name).value->uuid() + "\";\n";
         text.erase(text.find(line), line.size());
