@@ -107,7 +107,9 @@ std::uint32_t TriangleTree::split(std::uint32_t begin, std::uint32_t end)
     const auto axis = static_cast<int>(m_boxes[here].bounds.majorAxis());
     const auto middleOf = [&](const Item& item) {
         const TrianglePoints points = pointsOf(item);
-        return points[0][axis] + points[1][axis] + points[2][axis];
+        const double middle = points[0][axis] + points[1][axis] + points[2][axis];
+        return std::isnan(middle) ? std::numeric_limits<double>::infinity()
+                                  : middle; // sorting needs an order
     };
     const std::uint32_t middle = begin + (end - begin) / 2;
     std::nth_element(m_triangles.begin() + begin, m_triangles.begin() + middle, m_triangles.begin() + end,

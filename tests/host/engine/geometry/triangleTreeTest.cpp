@@ -258,6 +258,29 @@ TEST(TriangleTreeTest, WithoutTrianglesNothingIsFound)
     EXPECT_THAT(points->tree().hits(line(Vec3d(0.0), {1, 0, 0})), IsEmpty());
 }
 
+TEST(TriangleTreeTest, PointsThatAreNoNumbersDoNotHideTheOthers)
+{
+    const Ref<MeshData> plane = makePlane({20, 20, 20, 20});
+    std::mt19937 random(4);
+    for (int i = 0; i < 100; ++i)
+        plane->points[random() % plane->points.size()].x = std::numeric_limits<float>::quiet_NaN();
+    plane->forgetDerived();
+    const MeshTriangles& triangles = plane->triangles();
+    std::size_t whole = 0;
+    for (std::size_t face = 0; face < plane->faces.size(); ++face)
+        for (std::size_t i = 0; i < triangles.count(face); ++i) {
+            const TrianglePoints corners = pointsOf(*plane, face, i);
+            const Vec3d middle = (corners[0] + corners[1] + corners[2]) / 3;
+            if (std::isnan(middle.x))
+                continue;
+            ++whole;
+            const auto hit = plane->tree().nearestHit(forwards(middle + Vec3d(0, 1, 0), {0, -1, 0}));
+            ASSERT_TRUE(hit);
+            EXPECT_EQ(hit->face, static_cast<int>(face));
+        }
+    EXPECT_GT(whole, 100u);
+}
+
 TEST(TriangleTreeTest, MovedPointsAreMetWhereTheyAre)
 {
     const Ref<MeshData> plane = makePlane({2, 2, 1, 1});
