@@ -34,12 +34,13 @@ constexpr PointRow kPointRows[] = {
     {"cv", "cv", "nurbsCurve", "controlPoints"},
 };
 
-Value placesOf(const CommandContext& context, const SelectionItem& item)
+Value placesOf(const CommandContext& context, const NamedPlaces& places)
 {
     const double unit = toInternal(context, Value(1.0), ArgumentType::linear);
     Value::Numbers numbers;
-    for (const auto& [number, point] : pointsOf(context, item))
-        numbers.insert(numbers.end(), {point.x / unit, point.y / unit, point.z / unit});
+    for (const auto& [number, point] : pointsOf(context, places.points))
+        for (unsigned axis = places.axis.value_or(0); axis < places.axis.value_or(2) + 1; ++axis)
+            numbers.push_back(point[static_cast<int>(axis)] / unit);
     return Value(std::move(numbers));
 }
 
@@ -67,7 +68,7 @@ AskedPlugs componentsAsked(const CommandContext& context, const SelectionItem& i
         const Plug array = valueOf(context, shape.findPlug(row.attribute));
         AskedPlugs what{array, true, elementsIn(array, *numbers), {}};
         if (shape.type().isA("nurbsCurve") && !engine::hasCurveHistory(shape))
-            what.points = placesOf(context, item);
+            what.points = placesOf(context, {item, std::nullopt});
         return what;
     }
     context.fail("No object matches name: " + item.name());
@@ -128,7 +129,7 @@ std::optional<NamedPoints> pointsNamed(const CommandContext& context, const std:
 
 } // namespace
 
-std::vector<scene::PlugTarget> elementsToSet(const CommandContext& context, const std::string& name)
+std::vector<scene::PlugTarget> elementsNamed(const CommandContext& context, const std::string& name)
 {
     if (const auto range = rangeNamed(context, name))
         return {*range};
@@ -142,23 +143,44 @@ std::vector<scene::PlugTarget> elementsToSet(const CommandContext& context, cons
     return targets;
 }
 
-std::optional<PlacesToSet> placesToSet(const CommandContext& context, const std::string& name)
+std::optional<NamedPlaces> placesNamed(const CommandContext& context, const std::string& name)
 {
     const auto points = pointsNamed(context, name);
     if (!points || points->row.kind != std::string_view("cv") ||
         engine::hasCurveHistory(*points->item.path.node()))
         return std::nullopt;
     if (points->tail.empty())
-        return PlacesToSet{points->item, std::nullopt};
+        return NamedPlaces{points->item, std::nullopt};
     const auto& axes = points->item.path.node()->findAttribute(points->row.attribute)->children;
     for (unsigned axis = 0; axis < axes.size(); ++axis)
         if (axes[axis]->longName == points->tail || axes[axis]->shortName == points->tail)
-            return PlacesToSet{points->item, axis};
+            return NamedPlaces{points->item, axis};
     context.fail("No object matches name: " + name);
 }
 
+namespace {
+
+/// One part of each of some points: "a.vtx[0:3].pntx".
+AskedPlugs partsAsked(const CommandContext& context, const std::string& name, const NamedPoints& points)
+{
+    requireListable(context, points.numbers.count(), name);
+    AskedPlugs what{valueOf(context, points.item.path.node()->findPlug(points.row.attribute)), true, {}, {}};
+    if (const auto places = placesNamed(context, name)) {
+        what.points = placesOf(context, *places);
+        return what;
+    }
+    for (const scene::PlugTarget& target : elementsNamed(context, name))
+        for (std::size_t i = 0; i < target.count(); ++i)
+            what.elements.push_back(valueOf(context, target.nth(i)));
+    return what;
+}
+
+} // namespace
+
 AskedPlugs plugsAsked(const CommandContext& context, const std::string& name)
 {
+    if (const auto points = pointsNamed(context, name); points && !points->tail.empty())
+        return partsAsked(context, name, *points);
     if (const auto range = rangeNamed(context, name)) {
         requireListable(context, range->count(), name);
         AskedPlugs what{range->plug, true, {}, {}};

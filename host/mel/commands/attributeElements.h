@@ -24,15 +24,15 @@ AskedPlugs plugsAsked(const CommandContext& context, const std::string& name);
 
 /// The elements that a name means to setAttr, a transform standing for its shape: "a.list[0:3]", "a.vtx[2]",
 /// "a.vtx[0:3].pntx". Empty for a name that means something else.
-std::vector<scene::PlugTarget> elementsToSet(const CommandContext& context, const std::string& name);
+std::vector<scene::PlugTarget> elementsNamed(const CommandContext& context, const std::string& name);
 
-/// Control points whose places are to be set: all three numbers of each, or one.
-struct PlacesToSet
+/// Control points that are named for their places: all three numbers of each, or one.
+struct NamedPlaces
 {
     engine::SelectionItem points;
     std::optional<unsigned> axis;
 };
 /// None for a name that means something else, and where history makes the points.
-std::optional<PlacesToSet> placesToSet(const CommandContext& context, const std::string& name);
+std::optional<NamedPlaces> placesNamed(const CommandContext& context, const std::string& name);
 
 } // namespace tvxhost::mel

@@ -30,7 +30,7 @@ namespace {
 // setAttr
 
 /// The places of control points as they are given, in the space of their curve.
-void setPlaces(const CommandContext& context, const scene::SetAttrRequest& request, const PlacesToSet& places)
+void setPlaces(const CommandContext& context, const scene::SetAttrRequest& request, const NamedPlaces& places)
 {
     const std::string name(request.plug);
     std::vector<double> numbers;
@@ -63,7 +63,7 @@ std::vector<scene::PlugTarget> plugsToSet(const CommandContext& context, const s
     const auto item = scene.findItem(name);
     if (item && !item.value.plug.isNull())
         return {{item.value.plug, false, 0, 0, {}}};
-    targets = elementsToSet(context, name);
+    targets = elementsNamed(context, name);
     if (targets.empty() && hasWildcard(name))
         for (const engine::SelectionItem& each : itemsOf(context, name))
             if (!each.plug.isNull())
@@ -80,7 +80,7 @@ Value setAttr(CommandContext& context, const ArgumentList& arguments)
     engine::Scene& scene = sceneOf(context);
     const scene::SetAttrRequest request = valueOf(context, scene::parseSetAttr(arguments));
     const std::string name(request.plug);
-    if (const auto places = placesToSet(context, name)) {
+    if (const auto places = placesNamed(context, name)) {
         setPlaces(context, request, *places);
         return {};
     }

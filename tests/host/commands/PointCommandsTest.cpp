@@ -143,6 +143,7 @@ TEST_F(PointCommandsTest, setAttrSetsPlacesOfControlPoints)
 {
     run("setAttr bow.cv[1] 1 2 3; setAttr bowShape.cv[2:3] 4 5 6 7 8 9; setAttr bow.cv[0].yValue -1");
     expectNear("getAttr bow.cv[*]", {0, -1, 0, 1, 2, 3, 4, 5, 6, 7, 8, 9});
+    expectNear("getAttr bow.cv[1:2].zValue", {3, 6});
     run("currentUnit -l m; setAttr bow.cv[0].xv 0.5; currentUnit -l cm");
     expectNear("getAttr bow.cv[0]", {50, -1, 0});
     EXPECT_EQ(failure("setAttr bow.cv[0] 1 2"), "setAttr: 'bow.cv[0]' takes 3 numbers and nothing else");
@@ -156,6 +157,8 @@ TEST_F(PointCommandsTest, setAttrSetsHowFarVerticesWereMoved)
         "setAttr boxShape.pnts[5] -type \"float3\" 0 0 7");
     expectNear("getAttr box.vtx[0:5]", {1, 2, 3, 4, 0, 0, 5, 0, 0, 1, 0, 0, 2, 0, 0, 0, 0, 7});
     expectNear("xform -q -t box.vtx[0]", {0.5, 1.5, 3.5});
+    expectNear("getAttr box.vtx[0:2].pntx", {1, 4, 5});
+    EXPECT_EQ(failure("getAttr box.vtx[0].xValue"), "'boxShape' has no attribute 'pt[0].xValue'");
     EXPECT_EQ(failure("setAttr box.vtx[8] 1 2 3"), "No object matches name: box.vtx[8]");
 }
 
