@@ -4,6 +4,7 @@
 
 #include "api/support/matrix4.h"
 #include "engine/geometry/curveNode.h"
+#include "engine/geometry/meshNormals.h"
 #include "engine/mesh.h"
 
 namespace tvxhost::mel {
@@ -85,7 +86,12 @@ void moveMesh(const CommandContext& context, DagNode& shape, const MMatrix& by)
             static_cast<std::int32_t>(i),
             engine::Vec3f(static_cast<float>(to.x), static_cast<float>(to.y), static_cast<float>(to.z)));
     }
+    const bool turnsNormals = !mesh->lockedNormals.empty() && !engine::hasHistory(shape);
     require(context, engine::movePoints(shape, moved));
+    if (turnsNormals)
+        require(context, engine::editNormals(shape, [&](engine::MeshData& changed) {
+                    engine::turnLockedNormals(changed, engine::Matrix(by.matrix));
+                }));
 }
 
 void moveCurve(const CommandContext& context, DagNode& shape, const MMatrix& by)

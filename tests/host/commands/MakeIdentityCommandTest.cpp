@@ -2,6 +2,8 @@
 #include "CommandFixture.h"
 
 #include "engine/geometry/curveNode.h"
+#include "engine/geometry/meshNormals.h"
+#include "engine/mesh.h"
 
 namespace tvxhost::mel {
 
@@ -64,6 +66,21 @@ TEST_F(MakeIdentityCommandTest, allShapesOfATransformAreFrozen)
         "parent -r -s twoShape one; delete two; setAttr one.t 0 5 0; makeIdentity -apply 1 one");
     expectNear("xform -q -m one", kIdentity);
     expectNear("xform -q -ws -bb one", {-0.5, 4.5, -0.5, 3.5, 5.5, 0.5});
+}
+
+TEST_F(MakeIdentityCommandTest, normalsThatWereSetTurnWithThePoints)
+{
+    run("polyPlane -sx 1 -sy 1 -n plane; delete -ch plane; setAttr plane.rz 90; setAttr plane.t 1 2 3");
+    engine::DagNode& shape = *scene.findNode("planeShape").value->asDag();
+    ASSERT_TRUE(engine::editNormals(shape, [](engine::MeshData& mesh) {
+        mesh.lockedNormals.assign(4, engine::Vec3f(engine::kNoNormal));
+        mesh.lockedNormals[1] = engine::Vec3f(1, 0, 0);
+    }));
+    run("makeIdentity -apply true plane");
+    const engine::MeshData* mesh = engine::meshOf(shape);
+    ASSERT_TRUE(engine::isLocked(*mesh, 1));
+    EXPECT_FALSE(engine::isLocked(*mesh, 0));
+    EXPECT_NEAR((mesh->lockedNormals[1] - engine::Vec3f(0, 1, 0)).length(), 0, 1e-6);
 }
 
 TEST_F(MakeIdentityCommandTest, curvesStayWhereTheyAre)
