@@ -2,6 +2,7 @@
 // TVX_SCENES_DIR names a folder of scenes beside a table meshes.tsv (columns: file, mesh, parent, kind,
 // vertices, edges, faces, border edges, components of the border, …).
 #include "../../host/api/sceneFixture.h"
+#include "../../host/support/sceneTable.h"
 #include "../../tvxCore/ExactHull.h"
 #include "core/utils/tvxMayaUtils.h"
 
@@ -10,9 +11,7 @@
 #include <maya/MItMeshEdge.h>
 #include <maya/MItMeshVertex.h>
 
-#include <fstream>
 #include <map>
-#include <sstream>
 
 namespace tarvox::crowd::test {
 namespace {
@@ -26,23 +25,12 @@ struct MeshRow
     int borderComponents = 0;
 };
 
-std::map<std::string, std::vector<MeshRow>> readTable(const std::string& folder)
+std::map<std::string, std::vector<MeshRow>> readTable()
 {
     std::map<std::string, std::vector<MeshRow>> rows;
-    std::ifstream table(folder + "/meshes.tsv");
-    std::string line;
-    std::getline(table, line);
-    while (std::getline(table, line)) {
-        std::istringstream fields(line);
-        MeshRow row;
-        std::string vertices, edges, faces, borderEdges, borderComponents;
-        for (std::string* field : {&row.file, &row.mesh, &row.parent, &row.kind, &vertices, &edges, &faces,
-                                   &borderEdges, &borderComponents})
-            std::getline(fields, *field, '\t');
-        row.borderEdges = std::stoi(borderEdges);
-        row.borderComponents = std::stoi(borderComponents);
-        rows[row.file].push_back(row);
-    }
+    for (const std::vector<std::string>& fields : tvxhost::test::tableRows("meshes.tsv"))
+        rows[fields.at(0)].push_back({fields.at(0), fields.at(1), fields.at(2), fields.at(3),
+                                      std::stoi(fields.at(7)), std::stoi(fields.at(8))});
     return rows;
 }
 
@@ -71,7 +59,7 @@ Points groundPoints(const MDagPath& mesh)
 class RealMeshes : public testing::Test
 {
 protected:
-    RealMeshes() : m_scenes(readTable(m_folder)) {}
+    RealMeshes() : m_scenes(readTable()) {}
 
     /// Does something with each mesh of the table.
     template <class Check>

@@ -1,6 +1,8 @@
 // Scenes that real Maya wrote: the built-in types have every attribute that a scene sets or connects, but for
 // those that other plug-ins have added to them. TVX_SCENES_DIR names the folder of the scenes, beside a table
 // contents.tsv.
+#include "../support/sceneTable.h"
+
 #include "scene/plugTarget.h"
 #include "scene/reader.h"
 #include "scene/sceneText.h"
@@ -12,7 +14,6 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <fstream>
 #include <map>
 #include <string>
 #include <string_view>
@@ -117,13 +118,10 @@ private:
 
 TEST(RealAttributes, AreThoseOfTheBuiltInTypes)
 {
-    std::ifstream table(TVX_SCENES_DIR "/contents.tsv");
-    std::string line;
-    std::getline(table, line);
     Unknown unknown;
     std::size_t checked = 0;
-    while (std::getline(table, line)) {
-        const std::string file = line.substr(0, line.find('\t'));
+    for (const std::vector<std::string>& fields : test::tableRows("contents.tsv")) {
+        const std::string& file = fields.at(0);
         const auto text = readFile(std::string(TVX_SCENES_DIR) + "/" + file);
         ASSERT_TRUE(text) << text.outcome.text;
         engine::Scene scene;

@@ -1,6 +1,8 @@
 // Scenes that real Maya wrote: read to their end, counted as an independent scanner counts them, and saved
 // without loss. They are not part of this repository: TVX_SCENES_DIR names a folder of scenes beside a table
 // contents.tsv (columns: file, statements, commands, node types, …).
+#include "../support/savedText.h"
+#include "../support/sceneTable.h"
 #include "damage.h"
 
 #include "scene/reader.h"
@@ -12,7 +14,6 @@
 #include <gtest/gtest.h>
 
 #include <cstdlib>
-#include <fstream>
 #include <map>
 #include <set>
 #include <sstream>
@@ -44,25 +45,12 @@ Counts parseCounts(const std::string& text)
     return counts;
 }
 
-std::vector<SceneRow> readTable(const std::string& folder)
+std::vector<SceneRow> readTable()
 {
     std::vector<SceneRow> rows;
-    std::ifstream table(folder + "/contents.tsv");
-    std::string line;
-    std::getline(table, line);
-    while (std::getline(table, line)) {
-        std::istringstream fields(line);
-        SceneRow row;
-        std::string statements, commands, nodes;
-        std::getline(fields, row.file, '\t');
-        std::getline(fields, statements, '\t');
-        std::getline(fields, commands, '\t');
-        std::getline(fields, nodes, '\t');
-        row.statements = std::stoul(statements);
-        row.commands = parseCounts(commands);
-        row.nodes = parseCounts(nodes);
-        rows.push_back(std::move(row));
-    }
+    for (const std::vector<std::string>& fields : test::tableRows("contents.tsv"))
+        rows.push_back(
+            {fields.at(0), std::stoul(fields.at(1)), parseCounts(fields.at(2)), parseCounts(fields.at(3))});
     return rows;
 }
 
@@ -96,17 +84,10 @@ std::string meshLine(std::string name, std::size_t vertices, std::size_t edges, 
     return line.str();
 }
 
-std::map<std::string, MeshCounts> readMeshTable(const std::string& folder)
+std::map<std::string, MeshCounts> readMeshTable()
 {
     std::map<std::string, MeshCounts> meshes;
-    std::ifstream table(folder + "/meshes.tsv");
-    std::string line;
-    std::getline(table, line);
-    while (std::getline(table, line)) {
-        std::istringstream fields(line);
-        std::vector<std::string> columns;
-        for (std::string column; std::getline(fields, column, '\t');)
-            columns.push_back(column);
+    for (const std::vector<std::string>& columns : test::tableRows("meshes.tsv")) {
         const auto number = [&](std::size_t i) { return std::stoul(columns.at(i)); };
         // A mesh that only its history makes has no faces in the file.
         if (number(6) > 0)
@@ -120,7 +101,7 @@ class RealScenes : public testing::Test
 protected:
     void SetUp() override
     {
-        m_rows = readTable(m_folder);
+        m_rows = readTable();
         ASSERT_FALSE(m_rows.empty()) << "no contents.tsv in " << m_folder;
     }
 
@@ -143,21 +124,19 @@ TEST_F(RealScenes, agreeWithTheTableInStatementsCommandsAndNodesByType)
 
 TEST_F(RealScenes, areTheSameTextWhenSavedReadAndSavedAgain)
 {
-    scene::WriteOptions options;
-    options.clock = [] { return std::time_t{1500000000}; };
     for (const SceneRow& row : m_rows) {
         engine::Scene scene;
         ASSERT_TRUE(scene::openScene(scene, m_folder + "/" + row.file).outcome) << row.file;
-        const std::string first = scene::sceneText(scene, "saved.ma", options);
-        ASSERT_TRUE(scene::openSceneText(scene, first, "saved.ma").outcome) << row.file;
-        const std::string second = scene::sceneText(scene, "saved.ma", options);
+        const std::string first = test::savedText(scene);
+        ASSERT_TRUE(scene::openSceneText(scene, first, "test.ma").outcome) << row.file;
+        const std::string second = test::savedText(scene);
         EXPECT_TRUE(first == second) << row.file;
     }
 }
 
 TEST_F(RealScenes, haveMeshesAsAnIndependentScannerCountsThem)
 {
-    const std::map<std::string, MeshCounts> table = readMeshTable(m_folder);
+    const std::map<std::string, MeshCounts> table = readMeshTable();
     ASSERT_FALSE(table.empty()) << "no meshes.tsv in " << m_folder;
     for (const auto& [file, expected] : table) {
         engine::Scene scene;

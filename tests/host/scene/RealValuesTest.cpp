@@ -1,5 +1,7 @@
 // Scenes that real Maya wrote: every value that a scene sets on an attribute the host knows is the one that
 // is read back. TVX_SCENES_DIR names the folder of the scenes, beside a table contents.tsv.
+#include "../support/sceneTable.h"
+
 #include "scene/attributeTypes.h"
 #include "scene/plugTarget.h"
 #include "scene/polyFaces.h"
@@ -17,7 +19,6 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
-#include <fstream>
 #include <optional>
 #include <sstream>
 #include <string>
@@ -33,11 +34,8 @@ using engine::Plug;
 std::vector<std::string> sceneFiles()
 {
     std::vector<std::string> files;
-    std::ifstream table(TVX_SCENES_DIR "/contents.tsv");
-    std::string line;
-    std::getline(table, line);
-    while (std::getline(table, line))
-        files.push_back(line.substr(0, line.find('\t')));
+    for (const std::vector<std::string>& fields : test::tableRows("contents.tsv"))
+        files.push_back(fields.at(0));
     return files;
 }
 
