@@ -1,6 +1,8 @@
 // NodeType: see nodeType.h.
 #include "nodeType.h"
 
+#include "relatedAttributes.h"
+
 #include <algorithm>
 #include <unordered_set>
 
@@ -25,11 +27,6 @@ void collectOtherNames(Attribute& attribute, std::vector<std::pair<std::string, 
         names.emplace_back(attribute.otherShortName, &attribute);
     for (const Ref<Attribute>& child : attribute.children)
         collectOtherNames(*child, names);
-}
-
-bool areRelated(const Attribute& a, const Attribute& b)
-{
-    return a.isAtOrBelow(b) || b.isAtOrBelow(a);
 }
 
 } // namespace

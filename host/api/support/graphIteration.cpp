@@ -1,6 +1,8 @@
 // GraphIteration: following connections.
 #include "graphIteration.h"
 
+#include "engine/relatedAttributes.h"
+
 #include <algorithm>
 
 namespace tvxhost::api {
@@ -11,11 +13,6 @@ using engine::Plug;
 
 namespace {
 
-bool isRelated(const Attribute& a, const Attribute& b)
-{
-    return a.isAtOrBelow(b) || b.isAtOrBelow(a);
-}
-
 /// Whether one attribute of a node affects another, as its type declares it. Where it declares nothing, an
 /// input affects all outputs.
 bool affects(const Node& node, const Attribute& input, const Attribute& output)
@@ -25,7 +22,7 @@ bool affects(const Node& node, const Attribute& input, const Attribute& output)
         const auto& affected = node.type().affectedBy(*step);
         isDeclared = isDeclared || !affected.empty();
         if (std::any_of(affected.begin(), affected.end(),
-                        [&output](const Attribute* each) { return isRelated(*each, output); }))
+                        [&output](const Attribute* each) { return areRelated(*each, output); }))
             return true;
     }
     return !isDeclared && input.flags.writable && !output.flags.writable;

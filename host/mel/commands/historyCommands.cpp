@@ -3,6 +3,8 @@
 #include "history.h"
 #include "sceneCommands.h"
 
+#include "engine/relatedAttributes.h"
+
 #include <algorithm>
 #include <deque>
 #include <unordered_set>
@@ -38,11 +40,6 @@ bool isGeometry(const Attribute& attribute)
     default:
         return false;
     }
-}
-
-bool areRelated(const Attribute& a, const Attribute& b)
-{
-    return a.isAtOrBelow(b) || b.isAtOrBelow(a);
 }
 
 bool affects(const Node& node, const Attribute& input, const Attribute& output)
