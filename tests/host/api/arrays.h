@@ -7,14 +7,13 @@
 #include <maya/MPoint.h>
 #include <maya/MPointArray.h>
 
-#include <initializer_list>
 #include <type_traits>
 #include <vector>
 
 namespace tvxhost::api::test {
 
 template <class Array, class T>
-Array arrayOf(std::initializer_list<T> values)
+Array arrayOf(const std::vector<T>& values)
 {
     Array array;
     for (const T& value : values)
@@ -22,22 +21,22 @@ Array arrayOf(std::initializer_list<T> values)
     return array;
 }
 
-inline MIntArray ints(std::initializer_list<int> values)
+inline MIntArray ints(const std::vector<int>& values)
 {
     return arrayOf<MIntArray>(values);
 }
 
-inline MFloatArray floats(std::initializer_list<float> values)
+inline MFloatArray floats(const std::vector<float>& values)
 {
     return arrayOf<MFloatArray>(values);
 }
 
-inline MDoubleArray doubles(std::initializer_list<double> values)
+inline MDoubleArray doubles(const std::vector<double>& values)
 {
     return arrayOf<MDoubleArray>(values);
 }
 
-inline MPointArray points(std::initializer_list<MPoint> places)
+inline MPointArray points(const std::vector<MPoint>& places)
 {
     return arrayOf<MPointArray>(places);
 }

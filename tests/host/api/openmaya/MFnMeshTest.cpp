@@ -1,4 +1,5 @@
 // MFnMesh: meshes as a whole, and making them.
+#include "../arrays.h"
 #include "../meshFixture.h"
 
 #include <maya/MFloatPointArray.h>
@@ -15,14 +16,6 @@ namespace {
 
 using testing::DoubleNear;
 using testing::ElementsAre;
-
-MIntArray ints(const std::vector<int>& values)
-{
-    MIntArray array;
-    for (const int value : values)
-        array.append(value);
-    return array;
-}
 
 class MFnMeshTest : public MeshFixture
 {

@@ -1,4 +1,5 @@
 // MFnMesh: where rays meet a mesh, and what of it is nearest.
+#include "../arrays.h"
 #include "../meshFixture.h"
 
 #include <maya/MFloatArray.h>
@@ -18,22 +19,6 @@ using testing::ElementsAre;
 using testing::FloatNear;
 using testing::HasSubstr;
 using testing::IsEmpty;
-
-MIntArray ints(const std::vector<int>& values)
-{
-    MIntArray array;
-    for (const int value : values)
-        array.append(value);
-    return array;
-}
-
-std::vector<float> floats(const MFloatArray& array)
-{
-    std::vector<float> all;
-    for (unsigned int i = 0; i < array.length(); ++i)
-        all.push_back(array[i]);
-    return all;
-}
 
 struct Hit
 {
@@ -207,7 +192,7 @@ TEST_F(MeshRaysTest, AllHitsComeSortedOrByFace)
     };
     EXPECT_TRUE(all(true, false));
     EXPECT_THAT(numbers(faces), ElementsAre(2, 0));
-    EXPECT_THAT(floats(params), ElementsAre(0.5F, 1.5F));
+    EXPECT_THAT(elementsOf(params), ElementsAre(0.5F, 1.5F));
     ASSERT_EQ(points.length(), 2u);
     EXPECT_EQ(points[1].z, 0.5F);
     EXPECT_EQ(triangles.length(), 2u);
