@@ -1,13 +1,8 @@
 // MFnMesh: the sets of colours of a mesh. What they hold is in MFnMeshColors.cpp.
 #include <maya/MFnMesh.h>
 
-#include "support/fnMesh.h"
 #include "support/meshColors.h"
-#include "support/meshSets.h"
-#include "support/notImplemented.h"
-
-#include <maya/MIntArray.h>
-#include <maya/MUintArray.h>
+#include "support/setMembers.h"
 
 using namespace tvxhost;
 using api::ColorKind;
@@ -20,12 +15,6 @@ using engine::ColorSet;
 using engine::MeshData;
 
 namespace {
-
-MStatus requireColorSet(const MFnMesh& set, const MString& name)
-{
-    return api::withSet<ColorKind>(targetOf(set), &name,
-                                   [](const MeshData&, const ColorSet&) -> MStatus { return MS::kSuccess; });
-}
 
 /// What `read(set)` gives for a set by name; `otherwise`, and why, when there is none.
 template <class Value, class Read>
@@ -49,41 +38,6 @@ ColorSet setLike(bool clamped, MFnMesh::MColorRepresentation representation)
     return set;
 }
 
-/// Sets of single instances are more than the host does.
-MStatus createSet(const MFnMesh& set, const char* function, MString& name, const ColorSet& like,
-                  MDGModifier* modifier, const MUintArray* instances)
-{
-    if (instances && instances->length() > 0)
-        return api::notImplemented(function);
-    std::string called = tvxAccess::text(name);
-    const MStatus status = api::addSet<ColorKind>(targetOf(set), called, like, modifier);
-    if (status)
-        name = tvxAccess::string(called);
-    return status;
-}
-
-/// A set of mesh data; those of shapes are made by other members.
-MStatus createDataSet(const MFnMesh& set, MString& name, const ColorSet& like)
-{
-    return targetOf(set).shape() ? failure(StatusText::objectIsIncompatible)
-                                 : createSet(set, "", name, like, nullptr, nullptr);
-}
-
-MString currentName(const MFnMesh& set, MStatus* returnStatus)
-{
-    const MeshTarget target = targetOf(set);
-    const MeshData* mesh = target.mesh();
-    api::give(returnStatus, target.status());
-    return mesh ? tvxAccess::string(api::currentSetName<ColorKind>(target, *mesh)) : MString();
-}
-
-/// The name of a set that was made; empty when it was not.
-MString made(const MString& name, const MStatus& status, MStatus* returnStatus)
-{
-    api::give(returnStatus, status);
-    return status ? name : MString();
-}
-
 } // namespace
 
 int MFnMesh::numColorSets(MStatus* ReturnStatus) const
@@ -95,16 +49,16 @@ int MFnMesh::numColorSets(MStatus* ReturnStatus) const
 MStatus MFnMesh::createColorSet(MString& colorSetName, MDGModifier* modifier, const MUintArray* instances)
 {
     TVX_API_CALL("MFnMesh::createColorSet");
-    return createSet(*this, "MFnMesh::createColorSet for single instances", colorSetName, ColorSet(),
-                     modifier, instances);
+    return api::createSet<ColorKind>(*this, "MFnMesh::createColorSet for single instances", colorSetName,
+                                     ColorSet(), modifier, instances);
 }
 
 MStatus MFnMesh::createColorSet(MString& colorSetName, MDGModifier* modifier, bool clamped,
                                 MColorRepresentation rep, const MUintArray* instances)
 {
     TVX_API_CALL("MFnMesh::createColorSet");
-    return createSet(*this, "MFnMesh::createColorSet for single instances", colorSetName,
-                     setLike(clamped, rep), modifier, instances);
+    return api::createSet<ColorKind>(*this, "MFnMesh::createColorSet for single instances", colorSetName,
+                                     setLike(clamped, rep), modifier, instances);
 }
 
 MString MFnMesh::createColorSetWithName(const MString& colorSetName, MDGModifier* modifier,
@@ -112,9 +66,9 @@ MString MFnMesh::createColorSetWithName(const MString& colorSetName, MDGModifier
 {
     TVX_API_CALL_OR("MFnMesh::createColorSetWithName", ReturnStatus, MString());
     MString name = colorSetName;
-    const MStatus status = createSet(*this, "MFnMesh::createColorSetWithName for single instances", name,
-                                     ColorSet(), modifier, instances);
-    return made(name, status, ReturnStatus);
+    const MStatus status = api::createSet<ColorKind>(
+        *this, "MFnMesh::createColorSetWithName for single instances", name, ColorSet(), modifier, instances);
+    return api::madeName(name, status, ReturnStatus);
 }
 
 MString MFnMesh::createColorSetWithName(const MString& colorSetName, MDGModifier* modifier,
@@ -122,14 +76,14 @@ MString MFnMesh::createColorSetWithName(const MString& colorSetName, MDGModifier
 {
     TVX_API_CALL_OR("MFnMesh::createColorSetWithName", ReturnStatus, MString());
     MString name = colorSetName;
-    const MStatus status = createSet(*this, "", name, ColorSet(), modifier, nullptr);
-    return made(name, status, ReturnStatus);
+    const MStatus status = api::createSet<ColorKind>(*this, "", name, ColorSet(), modifier, nullptr);
+    return api::madeName(name, status, ReturnStatus);
 }
 
 MStatus MFnMesh::createColorSetDataMesh(MString& colorSetName, bool clamped, MColorRepresentation rep)
 {
     TVX_API_CALL("MFnMesh::createColorSetDataMesh");
-    return createDataSet(*this, colorSetName, setLike(clamped, rep));
+    return api::createDataSet<ColorKind>(*this, colorSetName, setLike(clamped, rep));
 }
 
 MString MFnMesh::createColorSetWithNameDataMesh(const MString& colorSetName, bool clamped,
@@ -137,14 +91,14 @@ MString MFnMesh::createColorSetWithNameDataMesh(const MString& colorSetName, boo
 {
     TVX_API_CALL_OR("MFnMesh::createColorSetWithNameDataMesh", ReturnStatus, MString());
     MString name = colorSetName;
-    const MStatus status = createDataSet(*this, name, setLike(clamped, rep));
-    return made(name, status, ReturnStatus);
+    const MStatus status = api::createDataSet<ColorKind>(*this, name, setLike(clamped, rep));
+    return api::madeName(name, status, ReturnStatus);
 }
 
 MStatus MFnMesh::deleteColorSet(const MString& colorSetName, MDGModifier* modifier, MSelectionList*)
 {
     TVX_API_CALL("MFnMesh::deleteColorSet");
-    const MStatus status = requireColorSet(*this, colorSetName);
+    const MStatus status = api::requireSet<ColorKind>(*this, colorSetName);
     return status ? api::removeSet<ColorKind>(targetOf(*this), tvxAccess::text(colorSetName), modifier)
                   : status;
 }
@@ -152,34 +106,25 @@ MStatus MFnMesh::deleteColorSet(const MString& colorSetName, MDGModifier* modifi
 MStatus MFnMesh::setCurrentColorSetName(const MString& setName, MDGModifier* modifier, MSelectionList*)
 {
     TVX_API_CALL("MFnMesh::setCurrentColorSetName");
-    const MStatus status = requireColorSet(*this, setName);
-    return status
-               ? api::makeChange(
-                     modifier,
-                     [&] { return api::makeCurrent<ColorKind>(targetOf(*this), tvxAccess::text(setName)); })
-               : status;
+    return api::makeNamedCurrent<ColorKind>(*this, setName, modifier);
 }
 
 MString MFnMesh::currentColorSetName(int, MStatus* ReturnStatus) const
 {
     TVX_API_CALL_OR("MFnMesh::currentColorSetName", ReturnStatus, MString());
-    return currentName(*this, ReturnStatus);
+    return api::currentName<ColorKind>(*this, ReturnStatus);
 }
 
 MString MFnMesh::currentColorSetName(MStatus* ReturnStatus) const
 {
     TVX_API_CALL_OR("MFnMesh::currentColorSetName", ReturnStatus, MString());
-    return currentName(*this, ReturnStatus);
+    return api::currentName<ColorKind>(*this, ReturnStatus);
 }
 
 MStatus MFnMesh::getCurrentColorSetName(MString& setName, int) const
 {
     TVX_API_CALL("MFnMesh::getCurrentColorSetName");
-    MStatus status;
-    const MString name = currentName(*this, &status);
-    if (status)
-        setName = name;
-    return status;
+    return api::giveCurrentName<ColorKind>(*this, setName);
 }
 
 MStatus MFnMesh::getColorSetNames(MStringArray& setNames) const
@@ -197,28 +142,20 @@ MStatus MFnMesh::getColorSetFamilyNames(MStringArray& familyNames) const
 MStatus MFnMesh::getColorSetsInFamily(const MString& familyName, MStringArray& setNames) const
 {
     TVX_API_CALL("MFnMesh::getColorSetsInFamily");
-    const MStatus status = requireColorSet(*this, familyName);
-    if (!status)
-        return status;
-    setNames.clear();
-    setNames.append(familyName);
-    return status;
+    return api::giveFamily<ColorKind>(*this, familyName, setNames);
 }
 
 bool MFnMesh::isColorSetPerInstance(const MString& name, MStatus* ReturnStatus) const
 {
     TVX_API_CALL_OR("MFnMesh::isColorSetPerInstance", ReturnStatus, false);
-    api::give(ReturnStatus, requireColorSet(*this, name));
+    api::give(ReturnStatus, api::requireSet<ColorKind>(*this, name));
     return false;
 }
 
 MStatus MFnMesh::getAssociatedColorSetInstances(const MString& setName, MIntArray& instances) const
 {
     TVX_API_CALL("MFnMesh::getAssociatedColorSetInstances");
-    const MStatus status = requireColorSet(*this, setName);
-    if (status)
-        instances.clear();
-    return status;
+    return api::giveInstances<ColorKind>(*this, setName, instances);
 }
 
 bool MFnMesh::hasColorChannels(const MString& colorSet, MStatus* ReturnStatus) const

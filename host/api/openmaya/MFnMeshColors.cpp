@@ -26,13 +26,11 @@ using engine::MeshData;
 
 namespace {
 
-/// A number further behind the last one is a slip: what is between would be made up.
-constexpr std::int64_t kWidestGap = 1 << 24;
-
 template <class Use>
 MStatus withColors(const MFnMesh& set, const MString* name, const Use& use)
 {
-    return api::readSet<ColorKind>(targetOf(set), name, use);
+    return api::withMesh(
+        set, [&](const MeshData& mesh) { return api::readSet<ColorKind>(targetOf(set), mesh, name, use); });
 }
 
 template <class Check, class Change>
@@ -169,9 +167,7 @@ MStatus writeColors(const MFnMesh& set, const MString* name, const std::vector<i
     return changeColors(
         set, name,
         [&](const MeshData&, const ColorSet& colors) {
-            const auto end = static_cast<std::int64_t>(colors.values.size()) + kWidestGap;
-            return requireFit(std::all_of(numbers.begin(), numbers.end(),
-                                          [end](int number) { return number >= 0 && number < end; }));
+            return requireFit(api::isWithinReach(colors, numbers));
         },
         [&](MeshData&, ColorSet& colors) {
             for (std::size_t i = 0; i < numbers.size(); ++i) {

@@ -18,8 +18,8 @@ MStatus MFnMesh::getPointAtUV(int polygonId, MPoint& theClosestPoint, float2& uv
     return api::withPlacedMesh(*this, space, [&](const MeshData& mesh, const engine::Matrix& matrix) {
         if (!mesh.hasFace(polygonId))
             return failure(StatusText::noElementAtIndex);
-        return api::tellPointAtUv(api::targetOf(*this), polygonId, theClosestPoint, uvPoint, matrix, uvSet,
-                                  tolerance);
+        return api::tellPointAtUv(api::targetOf(*this), mesh, polygonId, theClosestPoint, uvPoint, matrix,
+                                  uvSet, tolerance);
     });
 }
 
@@ -29,7 +29,7 @@ MStatus MFnMesh::getUVAtPoint(MPoint& pt, float2& uvPoint, MSpace::Space space, 
     TVX_API_CALL("MFnMesh::getUVAtPoint");
     return api::withPlacedMesh(*this, space, [&](const MeshData& mesh, const engine::Matrix& matrix) {
         const auto place = mesh.tree(matrix).nearestTo(api::toImath(pt));
-        const MStatus status = api::tellUvAt(api::targetOf(*this), place, uvPoint, uvSet);
+        const MStatus status = api::tellUvAt(api::targetOf(*this), mesh, place, uvPoint, uvSet);
         if (status && closestPolygon)
             *closestPolygon = place->face;
         return status;

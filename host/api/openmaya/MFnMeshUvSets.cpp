@@ -1,12 +1,7 @@
 // MFnMesh: the sets of texture coordinates of a mesh. What they hold is in MFnMeshUvs.cpp.
 #include <maya/MFnMesh.h>
 
-#include "support/fnMesh.h"
-#include "support/meshSets.h"
-#include "support/notImplemented.h"
-
-#include <maya/MIntArray.h>
-#include <maya/MUintArray.h>
+#include "support/setMembers.h"
 
 using namespace tvxhost;
 using api::failure;
@@ -18,33 +13,6 @@ using engine::MeshData;
 using engine::UvSet;
 
 namespace {
-
-MStatus requireUvSet(const MFnMesh& set, const MString& name)
-{
-    return api::withSet<UvKind>(targetOf(set), &name,
-                                [](const MeshData&, const UvSet&) -> MStatus { return MS::kSuccess; });
-}
-
-/// Sets of single instances are more than the host does.
-MStatus refuseInstances(const char* function, const MUintArray* instances)
-{
-    return instances && instances->length() > 0 ? api::notImplemented(function) : MStatus();
-}
-
-MStatus createSet(const MFnMesh& set, const char* function, std::string& name, MDGModifier* modifier,
-                  const MUintArray* instances)
-{
-    const MStatus status = refuseInstances(function, instances);
-    return status ? api::addSet<UvKind>(targetOf(set), name, UvSet(), modifier) : status;
-}
-
-/// A set of mesh data; those of shapes are made by other members.
-MStatus createDataSet(const MFnMesh& set, std::string& name)
-{
-    const MeshTarget target = targetOf(set);
-    return target.shape() ? failure(StatusText::objectIsIncompatible)
-                          : api::addSet<UvKind>(target, name, UvSet(), nullptr);
-}
 
 /// Into a set that is there, or into a new one when there is none of that name.
 MStatus copySet(const MFnMesh& set, const std::string& from, std::string& to, MDGModifier* modifier)
@@ -84,21 +52,6 @@ MStatus renameSet(const MeshTarget& target, const std::string& from, const std::
     });
 }
 
-MString currentName(const MFnMesh& set, MStatus* returnStatus)
-{
-    const MeshTarget target = targetOf(set);
-    const MeshData* mesh = target.mesh();
-    api::give(returnStatus, target.status());
-    return mesh ? tvxAccess::string(api::currentSetName<UvKind>(target, *mesh)) : MString();
-}
-
-/// The name of a set that was made; empty when it was not.
-MString made(const std::string& name, const MStatus& status, MStatus* returnStatus)
-{
-    api::give(returnStatus, status);
-    return status ? tvxAccess::string(name) : MString();
-}
-
 } // namespace
 
 int MFnMesh::numUVSets(MStatus* ReturnStatus) const
@@ -110,40 +63,32 @@ int MFnMesh::numUVSets(MStatus* ReturnStatus) const
 MStatus MFnMesh::createUVSet(MString& uvSetName, MDGModifier* modifier, const MUintArray* instances)
 {
     TVX_API_CALL("MFnMesh::createUVSet");
-    std::string name = tvxAccess::text(uvSetName);
-    const MStatus status =
-        createSet(*this, "MFnMesh::createUVSet for single instances", name, modifier, instances);
-    if (status)
-        uvSetName = tvxAccess::string(name);
-    return status;
+    return api::createSet<UvKind>(*this, "MFnMesh::createUVSet for single instances", uvSetName, UvSet(),
+                                  modifier, instances);
 }
 
 MString MFnMesh::createUVSetWithName(const MString& uvSetName, MDGModifier* modifier, MStatus* ReturnStatus,
                                      const MUintArray* instances)
 {
     TVX_API_CALL_OR("MFnMesh::createUVSetWithName", ReturnStatus, MString());
-    std::string name = tvxAccess::text(uvSetName);
-    const MStatus status =
-        createSet(*this, "MFnMesh::createUVSetWithName for single instances", name, modifier, instances);
-    return made(name, status, ReturnStatus);
+    MString name = uvSetName;
+    const MStatus status = api::createSet<UvKind>(*this, "MFnMesh::createUVSetWithName for single instances",
+                                                  name, UvSet(), modifier, instances);
+    return api::madeName(name, status, ReturnStatus);
 }
 
 MStatus MFnMesh::createUVSetDataMesh(MString& uvSetName)
 {
     TVX_API_CALL("MFnMesh::createUVSetDataMesh");
-    std::string name = tvxAccess::text(uvSetName);
-    const MStatus status = createDataSet(*this, name);
-    if (status)
-        uvSetName = tvxAccess::string(name);
-    return status;
+    return api::createDataSet<UvKind>(*this, uvSetName, UvSet());
 }
 
 MString MFnMesh::createUVSetDataMeshWithName(const MString& uvSetName, MStatus* ReturnStatus)
 {
     TVX_API_CALL_OR("MFnMesh::createUVSetDataMeshWithName", ReturnStatus, MString());
-    std::string name = tvxAccess::text(uvSetName);
-    const MStatus status = createDataSet(*this, name);
-    return made(name, status, ReturnStatus);
+    MString name = uvSetName;
+    const MStatus status = api::createDataSet<UvKind>(*this, name, UvSet());
+    return api::madeName(name, status, ReturnStatus);
 }
 
 MStatus MFnMesh::copyUVSet(const MString& fromName, MString& toName, MDGModifier* modifier)
@@ -162,13 +107,13 @@ MString MFnMesh::copyUVSetWithName(const MString& fromName, const MString& toNam
     TVX_API_CALL_OR("MFnMesh::copyUVSetWithName", ReturnStatus, MString());
     std::string name = tvxAccess::text(toName);
     const MStatus status = copySet(*this, tvxAccess::text(fromName), name, modifier);
-    return made(name, status, ReturnStatus);
+    return api::madeName(tvxAccess::string(name), status, ReturnStatus);
 }
 
 MStatus MFnMesh::renameUVSet(const MString& origName, const MString& newName, MDGModifier* modifier)
 {
     TVX_API_CALL("MFnMesh::renameUVSet");
-    const MStatus status = requireUvSet(*this, origName);
+    const MStatus status = api::requireSet<UvKind>(*this, origName);
     return status ? renameSet(targetOf(*this), tvxAccess::text(origName), tvxAccess::text(newName), modifier)
                   : status;
 }
@@ -186,27 +131,19 @@ MStatus MFnMesh::deleteUVSet(const MString& setName, MDGModifier* modifier, MSel
 MStatus MFnMesh::setCurrentUVSetName(const MString& setName, MDGModifier* modifier, MSelectionList*)
 {
     TVX_API_CALL("MFnMesh::setCurrentUVSetName");
-    const MStatus status = requireUvSet(*this, setName);
-    return status ? api::makeChange(
-                        modifier,
-                        [&] { return api::makeCurrent<UvKind>(targetOf(*this), tvxAccess::text(setName)); })
-                  : status;
+    return api::makeNamedCurrent<UvKind>(*this, setName, modifier);
 }
 
 MString MFnMesh::currentUVSetName(MStatus* ReturnStatus, int) const
 {
     TVX_API_CALL_OR("MFnMesh::currentUVSetName", ReturnStatus, MString());
-    return currentName(*this, ReturnStatus);
+    return api::currentName<UvKind>(*this, ReturnStatus);
 }
 
 MStatus MFnMesh::getCurrentUVSetName(MString& setName, int) const
 {
     TVX_API_CALL("MFnMesh::getCurrentUVSetName");
-    MStatus status;
-    const MString name = currentName(*this, &status);
-    if (status)
-        setName = name;
-    return status;
+    return api::giveCurrentName<UvKind>(*this, setName);
 }
 
 MStatus MFnMesh::getUVSetNames(MStringArray& setNames) const
@@ -224,28 +161,20 @@ MStatus MFnMesh::getUVSetFamilyNames(MStringArray& familyNames) const
 MStatus MFnMesh::getUVSetsInFamily(const MString& familyName, MStringArray& setNames) const
 {
     TVX_API_CALL("MFnMesh::getUVSetsInFamily");
-    const MStatus status = requireUvSet(*this, familyName);
-    if (!status)
-        return status;
-    setNames.clear();
-    setNames.append(familyName);
-    return status;
+    return api::giveFamily<UvKind>(*this, familyName, setNames);
 }
 
 bool MFnMesh::isUVSetPerInstance(const MString& name, MStatus* ReturnStatus) const
 {
     TVX_API_CALL_OR("MFnMesh::isUVSetPerInstance", ReturnStatus, false);
-    api::give(ReturnStatus, requireUvSet(*this, name));
+    api::give(ReturnStatus, api::requireSet<UvKind>(*this, name));
     return false;
 }
 
 MStatus MFnMesh::getAssociatedUVSetInstances(const MString& uvSetName, MIntArray& instances) const
 {
     TVX_API_CALL("MFnMesh::getAssociatedUVSetInstances");
-    const MStatus status = requireUvSet(*this, uvSetName);
-    if (status)
-        instances.clear();
-    return status;
+    return api::giveInstances<UvKind>(*this, uvSetName, instances);
 }
 
 MStatus MFnMesh::getFaceUVSetNames(int polygonId, MStringArray& setNames) const

@@ -22,9 +22,6 @@ using engine::UvSet;
 
 namespace {
 
-/// A number further behind the last one is a slip: what is between would be made up.
-constexpr std::int64_t kWidestGap = 1 << 24;
-
 template <class Use>
 MStatus withUvSet(const MFnMesh& set, const MString* name, const Use& use)
 {
@@ -51,15 +48,9 @@ int countUvs(const MFnMesh& set, const MString* name, MStatus* returnStatus)
 MStatus writeUvs(const MFnMesh& set, const MString* name, const std::vector<int>& numbers,
                  const std::vector<engine::Vec2f>& values)
 {
-    const auto isNear = [](const UvSet& uvs, int number) {
-        return number >= 0 && number < static_cast<std::int64_t>(uvs.values.size()) + kWidestGap;
-    };
     return changeUvSet(
         set, name,
-        [&](const MeshData&, const UvSet& uvs) {
-            return requireFit(
-                std::all_of(numbers.begin(), numbers.end(), [&](int number) { return isNear(uvs, number); }));
-        },
+        [&](const MeshData&, const UvSet& uvs) { return requireFit(api::isWithinReach(uvs, numbers)); },
         [&](MeshData&, UvSet& uvs) {
             for (std::size_t i = 0; i < numbers.size(); ++i) {
                 const auto place = static_cast<std::size_t>(numbers[i]);

@@ -29,10 +29,9 @@ constexpr double kNoArea = 1e-10;
 template <class Use>
 MStatus withFaceUvs(const MeshIteration& iteration, const MString* name, const Use& use)
 {
-    return api::withItem(iteration, [&](const MeshData&, std::int32_t face) {
-        return api::withSet<UvKind>(iteration.target, name, [&](const MeshData& mesh, const UvSet& set) {
-            return use(mesh, set, face);
-        });
+    return api::withItem(iteration, [&](const MeshData& mesh, std::int32_t face) {
+        return api::withSet<UvKind>(iteration.target, mesh, name,
+                                    [&](const MeshData&, const UvSet& set) { return use(mesh, set, face); });
     });
 }
 
@@ -54,13 +53,11 @@ MStatus write(MeshIteration& iteration, const MString* name, int firstCorner,
             const int last = firstCorner + static_cast<int>(values.size()) - 1;
             if (!api::localCorner(mesh, face, firstCorner) || !api::localCorner(mesh, face, last))
                 return failure(StatusText::noElementAtIndex);
-            const std::size_t first = *api::localCorner(mesh, face, firstCorner);
-            const std::string setName = set.name;
-            return iteration.target.editSets([&](MeshData& changed) {
-                for (UvSet& uvs : changed.uvSets)
-                    for (std::size_t i = 0; uvs.name == setName && i < values.size(); ++i)
-                        uvs.values[static_cast<std::size_t>(uvs.at(first + i))] = values[i];
-            });
+            std::vector<api::CornerUv> changes;
+            std::size_t corner = *api::localCorner(mesh, face, firstCorner);
+            for (const Vec2f& value : values)
+                changes.emplace_back(corner++, value);
+            return api::changeUvs(iteration.target, set.name, changes);
         });
     iteration.refresh();
     return status;
@@ -238,8 +235,8 @@ MStatus MItMeshPolygon::getPointAtUV(MPoint& pt, float2& uvPoint, MSpace::Space 
 {
     TVX_API_CALL("MItMeshPolygon::getPointAtUV");
     return api::withPlacedItem(
-        *iteration, space, [&](const MeshData&, std::int32_t face, const engine::Matrix& matrix) {
-            return api::tellPointAtUv(iteration->target, face, pt, uvPoint, matrix, uvSet, tolerance);
+        *iteration, space, [&](const MeshData& mesh, std::int32_t face, const engine::Matrix& matrix) {
+            return api::tellPointAtUv(iteration->target, mesh, face, pt, uvPoint, matrix, uvSet, tolerance);
         });
 }
 
@@ -248,7 +245,7 @@ MStatus MItMeshPolygon::getUVAtPoint(MPoint& pt, float2& uvPoint, MSpace::Space 
     TVX_API_CALL("MItMeshPolygon::getUVAtPoint");
     return api::withPlacedItem(
         *iteration, space, [&](const MeshData& mesh, std::int32_t face, const engine::Matrix& matrix) {
-            return api::tellUvAt(iteration->target,
+            return api::tellUvAt(iteration->target, mesh,
                                  engine::nearestOnFace(mesh, face, api::toImath(pt), matrix), uvPoint, uvSet);
         });
 }

@@ -26,8 +26,8 @@ namespace {
 template <class Use>
 MStatus withCorners(const MeshIteration& iteration, const MString* name, const Use& use)
 {
-    return api::withItem(iteration, [&](const MeshData&, std::int32_t vertex) {
-        return api::withSet<UvKind>(iteration.target, name, [&](const MeshData& mesh, const UvSet& set) {
+    return api::withItem(iteration, [&](const MeshData& mesh, std::int32_t vertex) {
+        return api::withSet<UvKind>(iteration.target, mesh, name, [&](const MeshData&, const UvSet& set) {
             std::vector<FaceCorner> mapped;
             for (const FaceCorner& corner : api::cornersOfVertex(mesh, vertex))
                 if (set.at(corner.corner) != engine::kUnmapped)
@@ -60,16 +60,13 @@ const Vec2f& valueAt(const UvSet& set, const FaceCorner& corner)
 }
 
 /// Changes the texture coordinates that corners have.
-MStatus write(MeshIteration& iteration, const UvSet& set,
+MStatus write(const MeshIteration& iteration, const UvSet& set,
               const std::vector<std::pair<FaceCorner, Vec2f>>& values)
 {
-    const std::string name = set.name;
-    return iteration.target.editSets([&](MeshData& changed) {
-        for (UvSet& uvs : changed.uvSets)
-            if (uvs.name == name)
-                for (const auto& [corner, value] : values)
-                    uvs.values[static_cast<std::size_t>(uvs.at(corner.corner))] = value;
-    });
+    std::vector<api::CornerUv> changes;
+    for (const auto& [corner, value] : values)
+        changes.emplace_back(corner.corner, value);
+    return api::changeUvs(iteration.target, set.name, changes);
 }
 
 /// The same by the numbers of faces; kInvalidParameter for one that is not at the vertex or not mapped.

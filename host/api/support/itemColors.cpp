@@ -27,21 +27,22 @@ MStatus readMean(const ColorSet& set, const Corners& corners, MColor& color)
 template <class Use>
 MStatus ItemColors::with(const MString* set, const Use& use) const
 {
-    return withItem(m_iteration, [&](const MeshData&, std::int32_t item) {
-        return readSet<ColorKind>(m_iteration.target, set, [&](const MeshData& mesh, const ColorSet& colors) {
-            return use(colors, m_corners.all(mesh, item));
-        });
+    return withItem(m_iteration, [&](const MeshData& mesh, std::int32_t item) {
+        return readSet<ColorKind>(
+            m_iteration.target, mesh, set,
+            [&](const MeshData&, const ColorSet& colors) { return use(colors, m_corners.all(mesh, item)); });
     });
 }
 
 template <class Use>
 MStatus ItemColors::withOne(const MString* set, int key, const Use& use) const
 {
-    return withItem(m_iteration, [&](const MeshData&, std::int32_t item) {
-        return readSet<ColorKind>(m_iteration.target, set, [&](const MeshData& mesh, const ColorSet& colors) {
-            const std::optional<std::size_t> corner = m_corners.one(mesh, item, key);
-            return corner ? use(colors, *corner) : failure(StatusText::noElementAtIndex);
-        });
+    return withItem(m_iteration, [&](const MeshData& mesh, std::int32_t item) {
+        return readSet<ColorKind>(
+            m_iteration.target, mesh, set, [&](const MeshData&, const ColorSet& colors) {
+                const std::optional<std::size_t> corner = m_corners.one(mesh, item, key);
+                return corner ? use(colors, *corner) : failure(StatusText::noElementAtIndex);
+            });
     });
 }
 

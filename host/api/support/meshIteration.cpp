@@ -105,6 +105,8 @@ void MeshIteration::refresh()
 {
     mesh = engine::Ref<engine::MeshData>(target.mesh());
     size = mesh ? items.count(*mesh) : 0;
+    if (current >= 0 && static_cast<std::size_t>(current) >= size)
+        current = -1;
 }
 
 void MeshIteration::goTo(std::size_t newPlace)

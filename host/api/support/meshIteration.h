@@ -33,7 +33,7 @@ struct MeshIteration
     MStatus start(MeshTarget from, const MObject& component);
     /// Back to the first item, of the mesh as it is now.
     MStatus restart();
-    /// After the mesh was changed: the mesh as it is now.
+    /// After the mesh was changed: the mesh as it is now; at the end when the present item has gone.
     void refresh();
 
     std::size_t count() const { return isWhole ? size : chosen.size(); }

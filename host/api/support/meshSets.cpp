@@ -26,11 +26,22 @@ bool isMapped(const engine::MeshData& mesh, const engine::UvSet& set, std::int32
     });
 }
 
-MStatus tellPointAtUv(const MeshTarget& target, std::int32_t face, MPoint& point, const float2& uv,
-                      const engine::Matrix& matrix, const MString* set, double tolerance)
+MStatus changeUvs(const MeshTarget& target, const std::string& set, const std::vector<CornerUv>& changes)
+{
+    return target.editSets([&](engine::MeshData& changed) {
+        for (engine::UvSet& uvs : changed.uvSets)
+            for (const auto& [corner, value] : changes)
+                if (uvs.name == set && uvs.at(corner) != engine::kUnmapped)
+                    uvs.values[static_cast<std::size_t>(uvs.at(corner))] = value;
+    });
+}
+
+MStatus tellPointAtUv(const MeshTarget& target, const engine::MeshData& mesh, std::int32_t face,
+                      MPoint& point, const float2& uv, const engine::Matrix& matrix, const MString* set,
+                      double tolerance)
 {
     return withSet<UvKind>(
-        target, set, [&](const engine::MeshData& mesh, const engine::UvSet& uvs) -> MStatus {
+        target, mesh, set, [&](const engine::MeshData&, const engine::UvSet& uvs) -> MStatus {
             const auto place =
                 engine::placeAt(mesh, uvs, face, engine::Vec2f(uv[0], uv[1]), tolerance, matrix);
             if (!place)
@@ -40,11 +51,11 @@ MStatus tellPointAtUv(const MeshTarget& target, std::int32_t face, MPoint& point
         });
 }
 
-MStatus tellUvAt(const MeshTarget& target, const std::optional<engine::SurfacePoint>& place, float2& uv,
-                 const MString* set)
+MStatus tellUvAt(const MeshTarget& target, const engine::MeshData& mesh,
+                 const std::optional<engine::SurfacePoint>& place, float2& uv, const MString* set)
 {
-    return withSet<UvKind>(target, set,
-                           [&](const engine::MeshData& mesh, const engine::UvSet& uvs) -> MStatus {
+    return withSet<UvKind>(target, mesh, set,
+                           [&](const engine::MeshData&, const engine::UvSet& uvs) -> MStatus {
                                const auto found = place ? engine::uvAt(mesh, uvs, *place) : std::nullopt;
                                if (!found)
                                    return failure(StatusText::unexpectedFailure);

@@ -11,6 +11,7 @@
 
 #include <maya/MStringArray.h>
 
+#include <algorithm>
 #include <optional>
 #include <string>
 #include <utility>
@@ -65,26 +66,29 @@ const typename Kind::Set* findSet(const MeshTarget& target, const engine::MeshDa
     return engine::findSet(mesh.*Kind::sets, wanted);
 }
 
-/// Runs `use(mesh, set)`, which returns a status, for a set by name (null: the current one);
+/// Runs `use(mesh, set)`, which returns a status, for a set of a mesh by name (null: the current one);
 /// kInvalidParameter when there is none.
+template <class Kind, class Use>
+MStatus withSet(const MeshTarget& target, const engine::MeshData& mesh, const MString* name, const Use& use)
+{
+    const auto* set = findSet<Kind>(target, mesh, name);
+    return set ? use(mesh, *set) : failure(StatusText::itemNotFound);
+}
+
+/// The same for the mesh as it is now.
 template <class Kind, class Use>
 MStatus withSet(const MeshTarget& target, const MString* name, const Use& use)
 {
     const engine::MeshData* mesh = target.mesh();
-    if (!mesh)
-        return target.status();
-    const auto* set = findSet<Kind>(target, *mesh, name);
-    return set ? use(*mesh, *set) : failure(StatusText::itemNotFound);
+    return mesh ? withSet<Kind>(target, *mesh, name, use) : target.status();
 }
 
-/// The same for reading: where a mesh has no sets, the current one is one without values.
+/// For reading: where a mesh has no sets, the current one is one without values.
 template <class Kind, class Use>
-MStatus readSet(const MeshTarget& target, const MString* name, const Use& use)
+MStatus readSet(const MeshTarget& target, const engine::MeshData& mesh, const MString* name, const Use& use)
 {
-    const engine::MeshData* mesh = target.mesh();
-    if (mesh && !name && (mesh->*Kind::sets).empty())
-        return use(*mesh, typename Kind::Set());
-    return withSet<Kind>(target, name, use);
+    return !name && (mesh.*Kind::sets).empty() ? use(mesh, typename Kind::Set())
+                                               : withSet<Kind>(target, mesh, name, use);
 }
 
 /// Changes a set by `change(mesh, set)` unless `check(mesh, set)` returns a failure.
@@ -104,6 +108,18 @@ MStatus changeSet(const MeshTarget& target, const MString* name, const Check& ch
 inline MStatus requireFit(bool fits)
 {
     return fits ? MStatus() : failure(StatusText::noElementAtIndex);
+}
+
+/// A number further behind the last value is a slip: what is between would be made up.
+inline constexpr std::int64_t kWidestGap = 1 << 24;
+
+/// Whether a list of values may grow to hold these numbers.
+template <class Set>
+bool isWithinReach(const Set& set, const std::vector<int>& numbers)
+{
+    const auto end = static_cast<std::int64_t>(set.values.size()) + kWidestGap;
+    return std::all_of(numbers.begin(), numbers.end(),
+                       [end](int number) { return number >= 0 && number < end; });
 }
 
 /// Makes a change at once; with a modifier it is the modifier's to take back.
@@ -182,13 +198,20 @@ MStatus giveSetNames(const MeshTarget& target, MStringArray& names)
 std::vector<engine::Vec2f> uvPairs(const MFloatArray& u, const MFloatArray& v);
 /// Whether all corners of a face have a texture coordinate.
 bool isMapped(const engine::MeshData& mesh, const engine::UvSet& set, std::int32_t face);
+/// A corner and the texture coordinate that it shall have.
+using CornerUv = std::pair<std::size_t, engine::Vec2f>;
+/// Changes the texture coordinates that corners have in a set, for all corners that share them. Corners
+/// without any stay so.
+MStatus changeUvs(const MeshTarget& target, const std::string& set, const std::vector<CornerUv>& changes);
+
 /// Tells the point of a face, moved by a matrix, that has a texture coordinate; see engine::placeAt. kFailure
 /// when the face has none.
-MStatus tellPointAtUv(const MeshTarget& target, std::int32_t face, MPoint& point, const float2& uv,
-                      const engine::Matrix& matrix, const MString* set, double tolerance);
+MStatus tellPointAtUv(const MeshTarget& target, const engine::MeshData& mesh, std::int32_t face,
+                      MPoint& point, const float2& uv, const engine::Matrix& matrix, const MString* set,
+                      double tolerance);
 /// Tells the texture coordinate at a place. kFailure where there is none, and without a place.
-MStatus tellUvAt(const MeshTarget& target, const std::optional<engine::SurfacePoint>& place, float2& uv,
-                 const MString* set);
+MStatus tellUvAt(const MeshTarget& target, const engine::MeshData& mesh,
+                 const std::optional<engine::SurfacePoint>& place, float2& uv, const MString* set);
 
 /// The sets that map a face.
 void giveFaceSetNames(const engine::MeshData& mesh, std::int32_t face, MStringArray& names);

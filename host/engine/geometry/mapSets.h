@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
+#include <limits>
 #include <string>
 #include <vector>
 
@@ -79,13 +80,23 @@ const Set* findSet(const std::vector<Set>& sets, const std::string& name)
     return found == sets.end() ? nullptr : &*found;
 }
 
-/// A slot that no set has.
+/// A slot for a new set: behind all others, so that it stays the last one; where there is none left, the
+/// first one that no set has.
 template <class Set>
 std::int32_t freeSlot(const std::vector<Set>& sets)
 {
-    std::int32_t slot = 0;
+    constexpr std::int32_t kLast = std::numeric_limits<std::int32_t>::max();
+    std::int32_t last = -1;
     for (const Set& set : sets)
-        slot = std::max(slot, set.slot + 1);
+        last = std::max(last, set.slot);
+    if (last < kLast)
+        return last + 1;
+    const auto isTaken = [&sets](std::int32_t slot) {
+        return std::any_of(sets.begin(), sets.end(), [slot](const Set& set) { return set.slot == slot; });
+    };
+    std::int32_t slot = 0;
+    while (isTaken(slot))
+        ++slot;
     return slot;
 }
 

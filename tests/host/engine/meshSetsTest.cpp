@@ -105,6 +105,16 @@ TEST_F(MeshSetsTest, AnElementFarBehindTheOthersIsNotFilledUpTo)
     EXPECT_EQ(mesh().uvSets[0].values.size(), 3u);
 }
 
+TEST_F(MeshSetsTest, ANewSetGoesBehindTheOthersWhileThereIsRoom)
+{
+    makeTriangles();
+    EXPECT_EQ(freeSlot(mesh().uvSets), 4);
+    EXPECT_EQ(freeSlot(mesh().colorSets), 0);
+    EXPECT_TRUE(writeString(plug("m.uvst[2147483647].uvsn"), "last"));
+    EXPECT_EQ(mesh().uvSets.size(), 3u);
+    EXPECT_EQ(freeSlot(mesh().uvSets), 1);
+}
+
 TEST_F(MeshSetsTest, TheCurrentSetIsTheNamedOneWhenItIsThere)
 {
     makeTriangles();

@@ -402,6 +402,26 @@ TEST_F(MeshUvsTest, AFaceThatIsNotMappedHasNone)
     EXPECT_EQ(names.length(), 0u);
 }
 
+TEST_F(MeshUvsTest, AnIteratorOverAMeshThatWasReplacedReadsTheOldOneAndThenEnds)
+{
+    MItMeshPolygon faces(path("gridShape"));
+    MItMeshVertex vertices(path("gridShape"));
+    goTo(faces, 5);
+    goTo(vertices, 11);
+    addQuad();
+    EXPECT_EQ(m_mesh.copyInPlace(object("quadShape")), MS::kSuccess);
+    MFloatArray us, vs;
+    EXPECT_EQ(faces.getUVs(us, vs), MS::kSuccess);
+    EXPECT_EQ(us.length(), 4u);
+    float2 point = {0, 0};
+    EXPECT_EQ(vertices.getUV(point), MS::kSuccess);
+    EXPECT_EQ(point[0], 1.0F);
+    EXPECT_EQ(faces.setUV(0, point), MS::kSuccess) << "of nothing that is there now";
+    EXPECT_TRUE(faces.isDone());
+    EXPECT_EQ(faces.getUVs(us, vs), MS::kFailure);
+    EXPECT_EQ(m_mesh.numUVs(), 0);
+}
+
 // Vertices one after the other
 
 TEST_F(MeshUvsTest, AVertexTellsTheCoordinatesOfItsFaces)
