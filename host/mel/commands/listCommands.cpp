@@ -85,9 +85,7 @@ constexpr StateFlag kStateFlags[] = {
     {"dn", "defaultNodes", "the nodes of every scene",
      [](const SelectionItem& item) { return item.node->isDefaultNode; }},
     {"ud", "undeletable", "nodes that cannot be deleted",
-     [](const SelectionItem& item) {
-         return engine::isUndeletable(*item.node) || item.node->isLockedNode;
-     }},
+     [](const SelectionItem& item) { return engine::isUndeletable(*item.node) || item.node->isLockedNode; }},
     {"rn", "referencedNodes", "nodes of referenced files",
      [](const SelectionItem& item) { return item.node->isReferenced; }},
     {"ro", "readOnly", "nodes that cannot be changed freely",
