@@ -109,7 +109,7 @@ const AttributeFlags& sharedFlags()
 {
     static const AttributeFlags shared = {
         {"ax", "axis", A::number, "axis", "what it stands along", 3},
-        {"cuv", "createUVs", A::integer, "createUVs", "how textures are laid on (kept only)"},
+        {"cuv", "createUVs", A::integer, "createUVs", "how textures are laid on"},
         {"cch", "caching", A::boolean, "caching", "whether the history node keeps its values"},
         {"nds", "nodeState", A::integer, "nodeState",
          "whether the history node works: 0 normal, 1 without effect"},
