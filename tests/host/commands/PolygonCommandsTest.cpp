@@ -1,7 +1,6 @@
 // polyPlane and the other primitives, polyEvaluate.
+#include "../support/savedText.h"
 #include "CommandFixture.h"
-
-#include "scene/writer.h"
 
 #include "engine/mesh.h"
 
@@ -11,16 +10,7 @@ using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::Not;
 
-class PolygonCommandsTest : public CommandFixture
-{
-protected:
-    std::string saved()
-    {
-        scene::WriteOptions options;
-        options.clock = [] { return std::time_t{1500000000}; };
-        return scene::sceneText(scene, "saved.ma", options);
-    }
-};
+using PolygonCommandsTest = CommandFixture;
 
 TEST_F(PolygonCommandsTest, APrimitiveIsATransformAShapeAndTheNodeThatMakesIt)
 {
@@ -133,16 +123,16 @@ TEST_F(PolygonCommandsTest, NewMeshesAreShaded)
 TEST_F(PolygonCommandsTest, WhatIsSavedIsTheHistoryOrElseTheGeometry)
 {
     run("polyPlane -sx 1 -sy 1");
-    EXPECT_THAT(saved(), HasSubstr("connectAttr \"polyPlane1.out\" \"pPlaneShape1.i\";"));
-    EXPECT_THAT(saved(), Not(HasSubstr(".vt[")));
+    EXPECT_THAT(test::savedText(scene), HasSubstr("connectAttr \"polyPlane1.out\" \"pPlaneShape1.i\";"));
+    EXPECT_THAT(test::savedText(scene), Not(HasSubstr(".vt[")));
     run("delete polyPlane1");
-    const std::string text = saved();
+    const std::string text = test::savedText(scene);
     EXPECT_THAT(text, HasSubstr("\tsetAttr -s 4 \".vt[0:3]\"  -0.5 0 0.5 0.5 0 0.5 -0.5 0 -0.5 0.5 0 -0.5;\n"
                                 "\tsetAttr -s 4 \".ed[0:3]\"  0 1 0 0 2 0 1 3 0 2 3 0;\n"));
     EXPECT_THAT(text, HasSubstr("\tsetAttr \".uvst[0].uvsn\" -type \"string\" \"map1\";\n"
                                 "\tsetAttr -s 4 \".uvst[0].uvsp[0:3]\" -type \"float2\" 0 0 1 0 0 1 1 1;\n"));
     EXPECT_THAT(text, HasSubstr("f 4 0 2 -4 -2\n\t\tmu 0 4 0 1 3 2;"));
-    EXPECT_EQ(saved(), text);
+    EXPECT_EQ(test::savedText(scene), text);
     EXPECT_EQ(run("polyEvaluate -f pPlane1"), "1");
 }
 
