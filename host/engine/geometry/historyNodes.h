@@ -5,8 +5,8 @@
 
 namespace tvxhost::engine {
 
-/// Gives groupParts, transformGeometry, polyTweak, polyTweakUV and polyMapCut their outputs. groupParts passes
-/// the mesh on as it is, polyMapCut without texture coordinates.
+/// Gives groupParts, transformGeometry, polyTweak, polyTweakUV and polyMapCut their outputs. groupParts
+/// passes the mesh on as it is, polyMapCut without texture coordinates.
 void addHistoryComputes(TypeTable& types);
 
 } // namespace tvxhost::engine

@@ -33,8 +33,8 @@ public:
     std::vector<Vec3f> points; ///< centimetres, object space
     std::vector<Edge> edges;
     FaceTable faces;
-    /// The normals that were set, by corner (see FaceTable::firstCorner), of length one; kNoNormal in all three
-    /// numbers where none was. Empty when there are none.
+    /// The normals that were set, by corner (see FaceTable::firstCorner), of length one; kNoNormal in all
+    /// three numbers where none was. Empty when there are none.
     std::vector<Vec3f> lockedNormals;
     std::vector<UvSet> uvSets; ///< at least one
     std::vector<ColorSet> colorSets;
