@@ -58,7 +58,7 @@ TEST_F(PolygonCommandsTest, FlagsAreAttributesOfTheNode)
 TEST_F(PolygonCommandsTest, TexturesAreLaidOnAsEachCommandDoesUnlessItIsTold)
 {
     for (const auto& [command, laidOn] :
-         {std::pair("polyPlane", "2"), std::pair("polyCube", "3"), std::pair("polySphere", "2"),
+         {std::pair("polyPlane", "2"), std::pair("polyCube", "4"), std::pair("polySphere", "2"),
           std::pair("polyCone", "3"), std::pair("polyCylinder", "3"), std::pair("polyTorus", "1")}) {
         run(command);
         EXPECT_EQ(run("getAttr " + std::string(command) + "1.createUVs"), laidOn) << command;
@@ -146,7 +146,7 @@ TEST_F(PolygonCommandsTest, PolyEvaluateCountsWhatIsAskedFor)
 
 TEST_F(PolygonCommandsTest, PolyEvaluateCountsTextureCoordinates)
 {
-    run("polyCube -cuv 4; polyPlane -sx 2 -sy 1; polyCylinder");
+    run("polyCube; polyPlane -sx 2 -sy 1; polyCylinder");
     EXPECT_EQ(run("polyEvaluate -uvcoord -uvShell pCube1"), "14 1");
     EXPECT_EQ(run("polyEvaluate -uv pPlane1 pCylinder1"), "6 0");
     EXPECT_THAT(numbers("polyEvaluate -boundingBox2d pCube1"), ElementsAre(0.125, 0.875, 0, 1));
