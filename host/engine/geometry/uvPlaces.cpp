@@ -41,24 +41,36 @@ std::optional<TrianglePoints> uvsOf(const MeshData& mesh, const UvSet& set, std:
     return points;
 }
 
-/// The triangle of a face for which `distance(triangle, weights)` is least, which gives the weights of its
-/// nearest place, too.
-template <class Distance>
-std::optional<SurfacePoint> nearestTriangle(const MeshData& mesh, std::int32_t face, double furthest,
-                                            const Matrix& matrix, const Distance& distance)
+/// The nearest place in a triangle.
+struct Nearest
+{
+    Vec3d weights; ///< of the triangle's corners
+    double distance;
+};
+
+Nearest nearestTo(const Vec3d& point, const TrianglePoints& triangle)
+{
+    const Vec3d weights = nearestWeights(triangle, point);
+    return {weights, (weighed(triangle, weights) - point).length()};
+}
+
+/// The place on a face that is nearest, and no further away than that; `nearest` gives that of a triangle, if
+/// it has one.
+template <class NearestOf>
+std::optional<SurfacePoint> nearestPlace(const MeshData& mesh, std::int32_t face, double furthest,
+                                         const Matrix& matrix, const NearestOf& nearest)
 {
     const auto number = static_cast<std::size_t>(face);
     const MeshTriangles& triangles = mesh.triangles();
     std::optional<SurfacePoint> found;
     for (std::size_t i = 0; i < triangles.count(number); ++i) {
         const Triangle& triangle = triangles[triangles.first(number) + i];
-        Vec3d weights;
-        const double away = distance(triangle, weights);
-        if (away > furthest || (found && away == furthest))
+        const std::optional<Nearest> here = nearest(triangle);
+        if (!here || !(here->distance <= furthest) || (found && here->distance == furthest))
             continue;
-        furthest = away;
-        found = SurfacePoint{face, static_cast<std::int32_t>(i), weights,
-                             weighed(pointsOf(mesh, number, triangle, matrix), weights)};
+        furthest = here->distance;
+        found = SurfacePoint{face, static_cast<std::int32_t>(i), here->weights,
+                             weighed(pointsOf(mesh, number, triangle, matrix), here->weights)};
     }
     return found;
 }
@@ -80,27 +92,24 @@ std::optional<Vec2f> uvAt(const MeshData& mesh, const UvSet& set, const SurfaceP
 std::optional<SurfacePoint> nearestOnFace(const MeshData& mesh, std::int32_t face, const Vec3d& point,
                                           const Matrix& matrix)
 {
-    return nearestTriangle(mesh, face, std::numeric_limits<double>::max(), matrix,
-                           [&](const Triangle& triangle, Vec3d& weights) {
-                               const TrianglePoints points =
-                                   pointsOf(mesh, static_cast<std::size_t>(face), triangle, matrix);
-                               weights = nearestWeights(points, point);
-                               return (weighed(points, weights) - point).length();
-                           });
+    return nearestPlace(mesh, face, std::numeric_limits<double>::max(), matrix,
+                        [&](const Triangle& triangle) -> std::optional<Nearest> {
+                            return nearestTo(
+                                point, pointsOf(mesh, static_cast<std::size_t>(face), triangle, matrix));
+                        });
 }
 
 std::optional<SurfacePoint> placeAt(const MeshData& mesh, const UvSet& set, std::int32_t face,
                                     const Vec2f& uv, double tolerance, const Matrix& matrix)
 {
     const Vec3d wanted(uv.x, uv.y, 0);
-    return nearestTriangle(mesh, face, tolerance + kSlack, matrix,
-                           [&](const Triangle& triangle, Vec3d& weights) {
-                               const auto uvs = uvsOf(mesh, set, static_cast<std::size_t>(face), triangle);
-                               if (!uvs)
-                                   return std::numeric_limits<double>::max();
-                               weights = nearestWeights(*uvs, wanted);
-                               return (weighed(*uvs, weights) - wanted).length();
-                           });
+    return nearestPlace(mesh, face, tolerance + kSlack, matrix,
+                        [&](const Triangle& triangle) -> std::optional<Nearest> {
+                            const auto uvs = uvsOf(mesh, set, static_cast<std::size_t>(face), triangle);
+                            if (!uvs)
+                                return std::nullopt;
+                            return nearestTo(wanted, *uvs);
+                        });
 }
 
 } // namespace tvxhost::engine

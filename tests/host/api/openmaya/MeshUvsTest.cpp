@@ -11,6 +11,8 @@
 #include <maya/MItMeshVertex.h>
 #include <maya/MUintArray.h>
 
+#include <limits>
+
 namespace tvxhost::api::test {
 namespace {
 
@@ -330,6 +332,9 @@ TEST_F(MeshUvsTest, PointsAndCoordinatesLeadToEachOther)
     EXPECT_NEAR(found.z, 0, 1e-6);
     EXPECT_EQ(m_mesh.clearUVs(), MS::kSuccess);
     EXPECT_EQ(m_mesh.getUVAtPoint(point, uv), MS::kFailure);
+    const float anywhere = std::numeric_limits<float>::infinity();
+    EXPECT_EQ(m_mesh.getPointAtUV(4, found, uv, MSpace::kObject, nullptr, anywhere), MS::kFailure)
+        << "a face without any has no place near to it";
 }
 
 // Faces one after the other
