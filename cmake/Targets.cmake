@@ -69,11 +69,11 @@ function(tvx_headers_alone target)
   endif()
 endfunction()
 
-# tvx_test(NAME source... [LIBRARIES lib...]): a GoogleTest program whose cases CTest lists one by one, or, with
-# TVX_TEST_PER_PROGRAM, as one test. GTest::gtest_main is linked; put fixtures' data under tests/ and find it
-# through TVX_SOURCE_DIR.
+# tvx_test(NAME source... [LIBRARIES lib...] [LONG]): a GoogleTest program whose cases CTest lists one by one, or,
+# with TVX_TEST_PER_PROGRAM, as one test; LONG programs, which run for minutes then, begin first. GTest::gtest_main
+# is linked; put fixtures' data under tests/ and find it through TVX_SOURCE_DIR.
 function(tvx_test name)
-  cmake_parse_arguments(arg "" "" "LIBRARIES" ${ARGN})
+  cmake_parse_arguments(arg "LONG" "" "LIBRARIES" ${ARGN})
   add_executable(${name} ${arg_UNPARSED_ARGUMENTS})
   tvx_warnings(${name})
   target_link_libraries(${name} PRIVATE ${arg_LIBRARIES} GTest::gmock GTest::gtest_main)
@@ -86,6 +86,9 @@ function(tvx_test name)
     add_test(NAME ${name} COMMAND ${name} --gtest_brief=1)
     # A program that has lost its cases ends well: only what it prints tells.
     set_tests_properties(${name} PROPERTIES TIMEOUT 1800 FAIL_REGULAR_EXPRESSION "\\] 0 tests from")
+    if(arg_LONG)
+      set_tests_properties(${name} PROPERTIES COST 100)
+    endif()
   else()
     gtest_discover_tests(${name} DISCOVERY_TIMEOUT 60 PROPERTIES TIMEOUT 300)
   endif()
